@@ -1,0 +1,74 @@
+// The board of the English capitals.
+#include "board/board.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kGroupStarts[] = {1, 5, 9, 13, 17, 21, 25};
+
+/// A tile's top left corner, in twips.
+struct Corner {
+  int left;
+  int top;
+};
+
+/// The tiles stand in the shape of a large letter A.
+constexpr Corner kTiles[] = {
+    {2040, 600 }, // A
+    {1440, 1200},
+    {2640, 1200}, // B, C
+    {840,  1800},
+    {2040, 1800},
+    {3240, 1800}, // D to F
+    {240,  2400},
+    {1440, 2400},
+    {2640, 2400},
+    {3840, 2400}, // G to J
+    {240,  3000},
+    {1440, 3000},
+    {2640, 3000},
+    {3840, 3000}, // K to N
+    {240,  3600},
+    {1440, 3600},
+    {2640, 3600},
+    {3840, 3600}, // O to R
+    {840,  4200},
+    {2040, 4200},
+    {3240, 4200}, // S to U
+    {1440, 4800},
+    {2640, 4800}, // V, W
+    {2040, 5400}, // X
+    {960,  6000},
+    {3120, 6000}, // Y, Z
+};
+static_assert(std::size(kTiles) == 26);
+
+void LayOut(Board& board) {
+  for (int i = 1; i <= 26; ++i) {
+    const Corner corner = kTiles[i - 1];
+    Place(board.Tile(i),
+          {.left = 1.0 * corner.left, .top = 1.0 * corner.top, .width = 1215, .height = 615});
+  }
+  Place(board.Named<QWidget>(QStringLiteral("txthdr1")),
+        {.left = 240, .top = 60, .width = 4815, .height = 480});
+}
+
+}  // namespace
+
+const BoardRecord kCapitalsBoard{
+    .form = "fbrmengc02",
+    .title = "English Capital Letters",
+    .backColor = 0x00FFFFC0,
+    .letterSet = "engc",
+    .cueBoardNo = 1,
+    .lastTile = 26,
+    .gridExtent = kCapitalsExtent,
+    .ruleExtent = kCapitalsExtent,
+    .ruleLines = RuleLines::FirstToLast,
+    .rulesComeBack = false,  // the walk over the rules never finds one on this board
+    .groupStarts = kGroupStarts,
+    .strangeTile = "My Mom is Calling.I am going for CHACOLATE",
+    .layOut = LayOut,
+};
+
+}  // namespace bramlee

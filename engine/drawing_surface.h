@@ -1,0 +1,44 @@
+// What the engine asks of whatever is drawn on: the sheet of a board, a picture, a recorder.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+namespace bramlee {
+
+/// The eight runs a letter is made of.
+enum class Primitive : std::uint8_t {
+  ArcStroke,
+  LineRight,
+  LineLeft,
+  LineDown,
+  LineUp,
+  SlantLeft,
+  SlantRight,
+  SlantUpRight,
+};
+
+/// The primitive's own name, as "ArcStroke".
+const char* PrimitiveName(Primitive primitive);
+
+/// A surface that takes dots. The engine knows geometry only: colour, width and pace of the
+/// pen are the surface's own business.
+class DrawingSurface {
+ public:
+  virtual ~DrawingSurface() = default;
+
+  /// Plots one dot at `x`, `y` (sheet pixels, Y downward) in the current pen colour.
+  virtual void PSet(float x, float y) = 0;
+
+  /// The distance between two dots of a line or slant (sheet pixels) and the angle between two
+  /// dots of an arc (degrees). Read once on entry of each primitive; greater than 0.
+  virtual double Step() const = 0;
+
+  /// Tells that a primitive begins, with its arguments in its own order (see primitives.h).
+  virtual void BeginRun(Primitive /*primitive*/, std::span<const double> /*arguments*/) {}
+
+  /// Tells that the primitive begun last has plotted its last dot.
+  virtual void EndRun() {}
+};
+
+}  // namespace bramlee

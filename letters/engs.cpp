@@ -1,0 +1,8 @@
+// English small letters.
+#include "letters/letter_sets.h"
+
+namespace bramlee {
+
+void WriteSmallLetter(StrokeRec& /*rec*/, DrawingSurface& /*sheet*/) {}
+
+}  // namespace bramlee

@@ -1,0 +1,8 @@
+// Hindi consonants.
+#include "letters/letter_sets.h"
+
+namespace bramlee {
+
+void WriteHindiConsonant(StrokeRec& /*rec*/, DrawingSurface& /*sheet*/) {}
+
+}  // namespace bramlee

@@ -1,0 +1,142 @@
+#include "shell/controls.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace bramlee {
+
+QColor ColourOf(ColourWord word) {
+  return QColor(static_cast<int>(word & 0xFF), static_cast<int>((word >> 8) & 0xFF),
+                static_cast<int>((word >> 16) & 0xFF));
+}
+
+ColourWord WordOf(const QColor& colour) {
+  return static_cast<ColourWord>(colour.red()) | static_cast<ColourWord>(colour.green()) << 8 |
+         static_cast<ColourWord>(colour.blue()) << 16;
+}
+
+QString Indexed(const char* array, int index) {
+  return QStringLiteral("%1(%2)").arg(QLatin1StringView(array)).arg(index);
+}
+
+void Ground::SetBackColor(ColourWord colour) {
+  backColor_ = ColourOf(colour);
+  update();
+}
+
+void Ground::paintEvent(QPaintEvent* /*event*/) {
+  QPainter(this).fillRect(rect(), backColor_);
+}
+
+TextBox::TextBox(const QString& text, QWidget* parent) : QLineEdit(text, parent) {}
+
+namespace {
+
+void SetRole(QWidget* control, QPalette::ColorRole role, ColourWord colour) {
+  QPalette palette = control->palette();
+  palette.setColor(role, ColourOf(colour));
+  control->setPalette(palette);
+}
+
+QPalette::ColorRole GroundRole(const QWidget* control) {
+  return qobject_cast<const QLabel*>(control) != nullptr ? QPalette::Window : QPalette::Base;
+}
+
+QPalette::ColorRole TextRole(const QWidget* control) {
+  return qobject_cast<const QLabel*>(control) != nullptr ? QPalette::WindowText : QPalette::Text;
+}
+
+}  // namespace
+
+void SetBackColor(QWidget* control, ColourWord colour) {
+  SetRole(control, GroundRole(control), colour);
+  if (qobject_cast<QLabel*>(control) != nullptr) control->setAutoFillBackground(true);
+}
+
+void SetForeColor(QWidget* control, ColourWord colour) {
+  SetRole(control, TextRole(control), colour);
+}
+
+ColourWord BackColorOf(const QWidget* control) {
+  return WordOf(control->palette().color(GroundRole(control)));
+}
+
+ColourWord ForeColorOf(const QWidget* control) {
+  return WordOf(control->palette().color(TextRole(control)));
+}
+
+Label::Label(const QString& text, QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  setText(text);
+  SetForeColor(this, 0);
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    Q_EMIT Clicked();
+  }
+}
+
+PictureBox::PictureBox(QWidget* parent) : QAbstractButton(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void PictureBox::SetPicture(const QString& path) {
+  SetPicture(QPixmap(path));
+}
+
+void PictureBox::SetPicture(const QPixmap& picture) {
+  picture_ = picture;
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.fillRect(rect(), isDown() ? QColor(0xFFE9A8) : QColor(Qt::white));
+  if (!picture_.isNull()) {
+    QRect place({}, picture_.size().scaled(size(), Qt::KeepAspectRatio));
+    place.moveCenter(rect().center());
+    painter.drawPixmap(place, picture_);
+  }
+  const bool lit = underMouse() || hasFocus();
+  painter.setPen(QPen(lit ? QColor(0xE07000) : QColor(0x9AA5B1), lit ? 3 : 1));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void PictureBox::enterEvent(QEnterEvent* event) {
+  QAbstractButton::enterEvent(event);
+  update();
+}
+
+void PictureBox::leaveEvent(QEvent* event) {
+  QAbstractButton::leaveEvent(event);
+  update();
+}
+
+Combo::Combo(QWidget* parent) : QComboBox(parent) {
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  // On leaving, the box would otherwise pick the entry that reads like the text.
+  lineEdit()->disconnect(SIGNAL(editingFinished()), this);
+  lineEdit()->disconnect(SIGNAL(returnPressed()), this);
+  connect(this, &QComboBox::activated, this, &Combo::Picked);
+}
+
+void Combo::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    Q_EMIT Entered();
+    event->accept();
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
+void Combo::wheelEvent(QWheelEvent* event) {
+  event->ignore();
+}
+
+}  // namespace bramlee

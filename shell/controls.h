@@ -1,0 +1,98 @@
+// The controls that forms are made of. Plain text everywhere; what a control keeps as data (a
+// flag, a drive) it keeps as text.
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QString>
+#include <cstdint>
+
+namespace bramlee {
+
+/// A colour as the forms name it: a word in blue-green-red order, 0x000000FF is red.
+using ColourWord = std::uint32_t;
+QColor ColourOf(ColourWord word);
+ColourWord WordOf(const QColor& colour);
+
+/// The name of an array's element: Indexed("pic", 3) is "pic(3)".
+QString Indexed(const char* array, int index);
+
+/// A form's ground: a plain widget of one colour, on which the controls stand. Its colour is its
+/// own and reaches no child, and text on it stays dark under any desktop theme.
+class Ground : public QWidget {
+ public:
+  explicit Ground(QWidget* parent = nullptr) : QWidget(parent) {}
+  void SetBackColor(ColourWord colour);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor backColor_{Qt::white};
+};
+
+/// A text box. ForeColor and BackColor are its palette's.
+class TextBox : public QLineEdit {
+ public:
+  explicit TextBox(const QString& text, QWidget* parent = nullptr);
+};
+
+void SetBackColor(QWidget* control, ColourWord colour);
+void SetForeColor(QWidget* control, ColourWord colour);
+ColourWord BackColorOf(const QWidget* control);
+ColourWord ForeColorOf(const QWidget* control);
+
+/// A label that can be clicked.
+class Label : public QLabel {
+  Q_OBJECT
+ public:
+  explicit Label(const QString& text, QWidget* parent = nullptr);
+ Q_SIGNALS:
+  void Clicked();
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+/// A picture that can be clicked: a tile, a sign, a chart. Scaled to fit without distortion.
+/// Answers hover, press and focus visibly; Space presses it.
+class PictureBox : public QAbstractButton {
+ public:
+  explicit PictureBox(QWidget* parent = nullptr);
+  /// Shows the picture of that resource or file; an unreadable one leaves the box empty.
+  void SetPicture(const QString& path);
+  void SetPicture(const QPixmap& picture);
+  const QPixmap& Picture() const { return picture_; }
+  QSize sizeHint() const override { return {80, 60}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  QPixmap picture_;
+};
+
+/// A combo box whose text is free and whose list is what it was given: typing, leaving and the
+/// wheel pick nothing and add nothing.
+class Combo : public QComboBox {
+  Q_OBJECT
+ public:
+  explicit Combo(QWidget* parent = nullptr);
+ Q_SIGNALS:
+  /// An entry was picked from the list or by the arrow keys.
+  void Picked(int index);
+  /// Return was pressed in the text.
+  void Entered();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace bramlee

@@ -1,0 +1,106 @@
+// What all forms share: a name, a client area with named controls, a menu bar with named items.
+#pragma once
+
+#include <QAction>
+#include <QList>
+#include <QMainWindow>
+#include <QMenu>
+#include <QString>
+#include <QTimer>
+#include <concepts>
+#include <functional>
+
+#include "shell/controls.h"
+#include "shell/twips.h"
+
+class QMdiSubWindow;
+
+namespace bramlee {
+
+/// One form. It is made and loaded by its name (see forms.h) and deletes itself some time after
+/// its unload, never while one of its handlers is on the stack. All controls are made in the
+/// constructor of the form's own class; Form_Load lays them out.
+class Form : public QMainWindow {
+  Q_OBJECT
+ public:
+  /// Whether the form is a window of its own, the frame, or stands in the frame.
+  enum class Kind { Free, Frame, FrameChild };
+
+  explicit Form(const QString& name, Kind kind = Kind::Free);
+
+  Kind kind() const { return kind_; }
+
+  /// Where the controls stand. Its origin is the form's: below the menu bar.
+  QWidget* client() const { return client_; }
+
+  /// Runs once, when the form is loaded, before it is seen.
+  virtual void Form_Load() {}
+  /// Runs once, when the form is unloaded.
+  virtual void Form_Unload() {}
+  /// Brings the form into view, in front.
+  virtual void Present();
+
+  /// The frame takes a child form in, unseen.
+  virtual void Adopt(Form* /*child*/) {}
+
+  // --- the form's outer place, in twips; of a form in the frame, that of its sub-window
+  void SetOuter(const TwipsRect& rect);
+  TwipsRect Outer() const;
+
+  // --- controls, found by their names below the form
+  TextBox* AddText(const QString& name, const QString& text);
+  TextBox* AddHiddenText(const QString& name, const QString& text);
+  Label* AddLabel(const QString& name, const QString& text);
+  PictureBox* AddPicture(const QString& name, const QString& toolTip = {});
+  Combo* AddCombo(const QString& name, const QString& text = {});
+  QTimer* AddTimer(const QString& name, int intervalMs, bool enabled, std::function<void()> tick);
+
+  // --- menus. Captions are as they read, "&" before the mnemonic.
+  QMenu* AddMenu(const QString& name, const QString& caption);
+  QMenu* AddMenu(QMenu* parent, const QString& name, const QString& caption);
+  QAction* AddItem(QMenu* menu, const QString& name, const QString& caption,
+                   std::function<void()> click);
+  /// A command that stands on the bar itself.
+  QAction* AddBarItem(const QString& name, const QString& caption, std::function<void()> click);
+  /// What stands on the form's bar, in order.
+  const QList<QAction*>& BarItems() const { return barItems_; }
+
+  /// The control, timer or item of that name below this form; a wrong name is a bug and ends the
+  /// program in debug builds.
+  template <class Control>
+  Control* Named(const QString& name) const {
+    auto* found = findChild<Control*>(name);
+    Q_ASSERT_X(found != nullptr, "Form::Named", qPrintable(name));
+    return found;
+  }
+  QString TextOf(const QString& textBox) const { return Named<QLineEdit>(textBox)->text(); }
+  void SetText(const QString& textBox, const QString& text) const {
+    Named<QLineEdit>(textBox)->setText(text);
+  }
+
+  /// Used by forms.cpp alone: takes the form out of sight for good and lets it go.
+  void LetGo();
+  /// Used by the frame alone.
+  void SetSubWindow(QMdiSubWindow* subWindow) { subWindow_ = subWindow; }
+  QMdiSubWindow* SubWindow() const { return subWindow_; }
+
+ protected:
+  /// Puts another widget in the client's place; `scroller`, if given, stands around it.
+  void SetClient(QWidget* client, QWidget* scroller = nullptr);
+  /// The window manager's close button is an unload.
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QAction* NewItem(const QString& name, const QString& caption, std::function<void()> click);
+  void PutOnBar(QAction* item);
+
+  Kind kind_;
+  QWidget* client_ = nullptr;
+  QMdiSubWindow* subWindow_ = nullptr;
+  QList<QAction*> barItems_;
+};
+
+/// A caption as data (a drive, a file extension): without the mnemonic marks.
+QString CaptionOf(const QAction* item);
+
+}  // namespace bramlee

@@ -1,0 +1,43 @@
+// The loaded forms. A form is loaded by its first use and stays loaded, seen or unseen, beneath
+// the next one until it is unloaded; what lay below is then there again.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+namespace bramlee {
+
+class Form;
+
+/// Makes known how the form of that name is made. Done once, at the start of the program, by
+/// the folder that holds the form.
+void RegisterForm(const QString& name, std::function<Form*()> make);
+
+/// The form of that name, loaded unseen if it was not. nullptr for a name that no folder has
+/// made known, and for one not loaded while UnloadAll runs.
+Form* LoadForm(const QString& name);
+
+/// The form of that name if it is loaded, else nullptr.
+Form* LoadedForm(const QString& name);
+
+/// Loads the form if need be and brings it to the front. An unknown name does nothing.
+void ShowForm(const QString& name);
+
+/// Takes the form off the list and out of sight at once; it is destroyed once no handler of
+/// its own is running. A form that is not loaded is passed over.
+void UnloadForm(Form* form);
+
+/// All loaded forms in the order of their loading.
+const QList<Form*>& LoadedForms();
+
+/// Unloads from the last form to the first. Loads nothing on the way. Tag "com1:20".
+void UnloadAll();
+
+/// Ends the program with status 0 when the running handler returns.
+void EndProgram();
+
+/// What EndProgram does instead, for tests; an empty function brings the real one back.
+void ReplaceEndProgram(std::function<void()> end);
+
+}  // namespace bramlee

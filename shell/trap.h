@@ -1,0 +1,46 @@
+// Error traps: no failure crosses a routine. A routine that can fail wraps its body in a trap
+// and leaves quietly, shows a message or reports.
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+#include <utility>
+
+namespace bramlee {
+
+/// What a routine with a trap tells of itself.
+struct ErrInfo {
+  QString ErrTag;   ///< where it stands in the source, "601:03"; never shown
+  QString ErrText;  ///< what a report shows and stores; empty unless the routine sets it
+};
+
+/// A failure that a trap catches.
+class TrappedError : public std::runtime_error {
+ public:
+  explicit TrappedError(const QString& what) : std::runtime_error(what.toStdString()) {}
+};
+
+/// Runs `body(err)`; when it throws, `onError(err)` instead. Returns whether the body came to its
+/// end. What the handler itself throws is swallowed, as a second trap would only loop.
+template <class Body, class OnError>
+bool Trap(const QString& tag, Body body, OnError onError) {
+  ErrInfo err{.ErrTag = tag, .ErrText = {}};
+  try {
+    body(err);
+    return true;
+  } catch (const std::exception&) {
+    try {
+      onError(err);
+    } catch (const std::exception&) {  // nothing above could do better
+    }
+    return false;
+  }
+}
+
+/// The trap of most routines: on an error they leave without a word.
+template <class Body>
+bool Trap(const QString& tag, Body body) {
+  return Trap(tag, std::move(body), [](ErrInfo&) {});
+}
+
+}  // namespace bramlee

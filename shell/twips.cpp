@@ -1,0 +1,46 @@
+#include "shell/twips.h"
+
+#include <QRectF>
+#include <QVariant>
+#include <QWidget>
+
+#include "shell/numbers.h"
+
+namespace bramlee {
+namespace {
+
+constexpr char kPlace[] = "twips";
+
+QRect Pixels(const TwipsRect& rect) {
+  return {PixelsOf(rect.left), PixelsOf(rect.top), PixelsOf(rect.width), PixelsOf(rect.height)};
+}
+
+}  // namespace
+
+int PixelsOf(double twips) {
+  return static_cast<int>(RoundEven(twips / kTwipsPerPixel));
+}
+
+void Place(QWidget* control, const TwipsRect& rect) {
+  control->setProperty(kPlace, QRectF(rect.left, rect.top, rect.width, rect.height));
+  control->setGeometry(Pixels(rect));
+}
+
+void MoveTo(QWidget* control, double left, double top) {
+  const TwipsRect now = PlaceOf(control);
+  Place(control, {.left = left, .top = top, .width = now.width, .height = now.height});
+}
+
+TwipsRect PlaceOf(const QWidget* control) {
+  const QRect pixels = control->geometry();
+  const QRectF kept = control->property(kPlace).toRectF();
+  const TwipsRect placed{
+      .left = kept.x(), .top = kept.y(), .width = kept.width(), .height = kept.height()};
+  if (control->property(kPlace).isValid() && Pixels(placed) == pixels) return placed;
+  return {.left = kTwipsPerPixel * pixels.x(),
+          .top = kTwipsPerPixel * pixels.y(),
+          .width = kTwipsPerPixel * pixels.width(),
+          .height = kTwipsPerPixel * pixels.height()};
+}
+
+}  // namespace bramlee

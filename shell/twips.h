@@ -1,0 +1,30 @@
+// Places of controls in twips.
+#pragma once
+
+class QWidget;
+
+namespace bramlee {
+
+/// A twip is 1/15 of a logical pixel.
+inline constexpr double kTwipsPerPixel = 15;
+
+/// A length in logical pixels, to the nearest, ties to even.
+int PixelsOf(double twips);
+
+/// A control's place in its form's client area, below the menu bar. In twips.
+struct TwipsRect {
+  double left;
+  double top;
+  double width;
+  double height;
+};
+
+/// Puts the control there. The place is kept in twips, so that what is laid out from a
+/// neighbour's place does not pick up the rounding to pixels.
+void Place(QWidget* control, const TwipsRect& rect);
+void MoveTo(QWidget* control, double left, double top);
+
+/// Where the control stands, in twips: as placed, or worked out from its pixels.
+TwipsRect PlaceOf(const QWidget* control);
+
+}  // namespace bramlee

@@ -1,0 +1,44 @@
+// A surface that only remembers, for tests.
+#pragma once
+
+#include <vector>
+
+#include "engine/drawing_surface.h"
+
+namespace bramlee {
+
+struct Dot {
+  float x;
+  float y;
+};
+
+struct RecordedRun {
+  Primitive primitive;
+  std::vector<double> arguments;
+  int dots = 0;
+};
+
+/// Remembers every dot and every run.
+class Recorder : public DrawingSurface {
+ public:
+  explicit Recorder(double step) : step_(step) {}
+
+  void PSet(float x, float y) override {
+    dots.push_back({x, y});
+    if (!runs.empty()) ++runs.back().dots;
+  }
+  double Step() const override { return step_; }
+  void BeginRun(Primitive primitive, std::span<const double> arguments) override {
+    runs.push_back({
+        primitive, {arguments.begin(), arguments.end()}
+    });
+  }
+
+  std::vector<Dot> dots;
+  std::vector<RecordedRun> runs;
+
+ private:
+  double step_;
+};
+
+}  // namespace bramlee
