@@ -5,4 +5,6 @@ namespace bramlee {
 
 void WriteHindiConsonant(StrokeRec& /*rec*/, DrawingSurface& /*sheet*/) {}
 
+void WriteHindiFootStroke(StrokeRec& /*rec*/, DrawingSurface& /*sheet*/) {}
+
 }  // namespace bramlee

@@ -21,6 +21,7 @@ struct LetterSet {
   int tiles;              ///< tiles are 1 to this
   bool alternatives;      ///< whether some letters have a second form
   WriteLetter write;
+  int footTilesFrom = 0;  ///< tiles from here on bear the foot stroke too; 0 for none
 };
 
 /// All sets that there are.
@@ -37,5 +38,19 @@ void WriteHindiConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteTeluguVowel(StrokeRec& rec, DrawingSurface& sheet);
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet);
+
+/// The stroke at the foot of the Hindi consonants' third set, written after the letter with the
+/// same record. A board writes it as long as it has that set in use, whatever the tile.
+void WriteHindiFootStroke(StrokeRec& rec, DrawingSurface& sheet);
+
+/// Which form of a tile is wanted.
+struct TileForm {
+  bool alternative = false;
+  int place = 0;  ///< column of a digit in a typed number, 1 to 5; 0 is the tile's own
+};
+
+/// Writes all that belongs to one tile from a fresh record, as its board does on a click: for
+/// uses without a board.
+void WriteWholeTile(const LetterSet& set, int tile, const TileForm& form, DrawingSurface& sheet);
 
 }  // namespace bramlee
