@@ -44,11 +44,16 @@ void Board::MakeMenus() {
   addArray(AddMenu(draw, text("mnudlines"), text("&DrawLines")), "mnurulled", kRuleCaptions,
            &Board::mnurulled_Click);
   AddItem(draw, text("mnugrid"), text("&DrawGrid     "), [this] { mnugrid_Click(); });
+  if (record_.showTiles != nullptr) {
+    AddItem(draw, text("mnudrawalt"), text("&Draw Alternatives"), [this] { mnudrawalt_Click(); });
+  }
 
   QMenu* audio = AddMenu(text("mnuaud1"), text(record_.audioCaption));
   AddItem(audio, text("mnuaud"), text("&Play"), [this] { mnuaud_Click(); });
   addArray(AddMenu(audio, text("mnuaud3"), text("&Format")), "mnufor", kFormatCaptions,
            &Board::mnufor_Click);
+
+  record_.makeOwn(*this);
 
   AddBarItem(text("mnublank1"), QString(kSpacerBlanks, u' '), {});
   AddBarItem(text("mnuclear1"), text("&Clear     "), [this] { mnuclear1_Click(); });

@@ -1,44 +1,51 @@
 // What one board differs in from the others: a record a board, and the few handlers that only
 // it has.
+//
+// Hooks for a board of its own:
+// - Controls and menus that only it has are made in `makeOwn`, at their design values. Menus made
+//   there stand on the bar before the gap ahead of "&Clear".
+// - A wipe leaves them as they are, but for what `resetOwn` brings back to its design value.
+// - `layOut` places the tiles; it runs when the form is loaded and again in each wipe, so it lays
+//   out for the state that it finds.
+// - A board with `showTiles` has alternative forms: "&Draw Alternatives" and txtalt.
+// - After a control that is placed later than `layOut` calls Board::FitSheet, so that it can be
+//   scrolled to.
 #pragma once
 
-#include <QString>
 #include <cstdint>
-#include <functional>
 #include <span>
 
 #include "board/rules.h"
 #include "engine/stroke_rec.h"
-#include "letters/letter_sets.h"
 #include "shell/controls.h"
 
 namespace bramlee {
 
 class Board;
 
-/// Puts back what a board of its own kept across a wipe.
-using PutBack = std::function<void(Board&)>;
-
 // The ways most boards do it; a record names another where its board differs.
 void NoOwnPart(Board& board);
 void NoOwnPart(Board& board, StrokeRec& rec);
-PutBack KeepNothing(const Board& board);
+void NoOwnPart(Board& board, bool on);
+/// Asks for the letter's sound if mnuaud is checked.
 void CueIfPlayIsOn(Board& board, const StrokeRec& rec);
+/// Writes the letter, or says the record's `strangeTile` when there is none of that number.
 void WriteTile(Board& board, StrokeRec& rec);
+/// Marks that speed and writes its step to txtspd.
 void SetSpeed(Board& board, int index);
+/// Clicks the tiles in the record's order, each group start on a sheet wiped once more.
 void DrawAllTiles(Board& board);
 
 /// One board. Fields in the order in which a form's life meets them.
 struct BoardRecord {
-  const char* form;         ///< the form's name
-  const char* title;        ///< text of txthdr1 and the window's caption
-  ColourWord backColor;     ///< of the sheet
-  const char* letterSet;    ///< name of its letters, of its pictures' folder too
-  std::int16_t cueBoardNo;  ///< its number among the sound sets
-  const char* backItem = "mnuclose";
-  const char* audioCaption = "&Audio";
-  bool alternatives = false;  ///< has mnudrawalt and txtalt
-  int firstTile = 1;          ///< pic(firstTile) to pic(lastTile) exist
+  const char* form;                     ///< the form's name
+  const char* title;                    ///< text of txthdr1 and the window's caption
+  ColourWord backColor = 0x00E0E0E0;    ///< of the sheet
+  const char* letterSet;                ///< name of its letters, of its pictures' folder too
+  std::int16_t cueBoardNo;              ///< its number among the sound sets
+  const char* backItem = "mnuclose";    ///< name of "&Back"
+  const char* audioCaption = "&Audio";  ///< of mnuaud1
+  int firstTile = 1;                    ///< pic(firstTile) to pic(lastTile) exist
   int lastTile;
 
   SheetExtent gridExtent = kWideExtent;
@@ -49,14 +56,16 @@ struct BoardRecord {
   std::span<const int> groupStarts;  ///< tiles before which the sheet is wiped
   const char* strangeTile;           ///< what is said of a number that is no tile
 
-  /// Makes the controls and menu items that only this board has; once, with the form.
+  /// Makes the controls and menus that only this board has; once, with the form.
   void (*makeOwn)(Board&) = NoOwnPart;
-  /// Brings them to their design values, as in a form just made.
-  void (*resetOwn)(Board&) = NoOwnPart;
-  /// Its part of Form_Load: lays the tiles out.
+  /// Its part of Form_Load: lays the tiles out. In each wipe too.
   void (*layOut)(Board&);
-  /// Reads what it keeps across a wipe beside what all boards keep.
-  PutBack (*keepOwn)(const Board&) = KeepNothing;
+  /// Brings back to design what a wipe loses of its own part.
+  void (*resetOwn)(Board&) = NoOwnPart;
+  /// Shows and hides tiles by txtalt, after mnudrawalt was switched. Null: no alternative forms.
+  void (*showTiles)(Board&) = nullptr;
+  /// After mnuaud was switched on or off.
+  void (*playSwitched)(Board&, bool on) = NoOwnPart;
 
   /// A tile's click, once the record is filled: flags that go into it.
   void (*prepare)(Board&, StrokeRec&) = NoOwnPart;

@@ -1,0 +1,138 @@
+// What a board writes on its sheet: rules, grid and letters.
+#include "board/board.h"
+#include "board/cues.h"
+#include "shell/message_box.h"
+#include "shell/trap.h"
+
+namespace bramlee {
+namespace {
+
+/// The pen in another colour, until this goes.
+class PenColour {
+ public:
+  PenColour(Sheet& sheet, ColourWord colour) : sheet_(sheet), kept_(sheet.ForeColor()) {
+    sheet_.SetForeColor(colour);
+  }
+  ~PenColour() { sheet_.SetForeColor(kept_); }
+  PenColour(const PenColour&) = delete;
+  PenColour& operator=(const PenColour&) = delete;
+
+ private:
+  Sheet& sheet_;
+  ColourWord kept_;
+};
+
+}  // namespace
+
+ColourWord Board::GridColour() const {
+  return ForeColorOf(Named<QWidget>(QStringLiteral("txtgridcolor")));
+}
+
+void Board::DrawGridInItsColour() {
+  const Sheet::Writing writing(*sheet_);
+  const PenColour pen(*sheet_, GridColour());
+  DrawGrid(*sheet_, record_.gridExtent);
+}
+
+// Takes the number by value: DrawRules may leave another in the variable that it is given.
+void Board::DrawRulesInTheirColour(std::int16_t number) {
+  const Sheet::Writing writing(*sheet_);
+  const PenColour pen(*sheet_, GridColour());
+  DrawRules(*sheet_, record_.ruleExtent, record_.ruleLines, number);
+}
+
+void Board::mnugrid_Click() {
+  Trap(QStringLiteral("brd:07"), [this](ErrInfo&) {
+    const QString item = QStringLiteral("mnugrid");
+    if (Checked(item)) {
+      SetChecked(item, false);
+      SetText(GridFlagName(), QStringLiteral("0"));
+      return;
+    }
+    SetChecked(item, true);
+    DrawGridInItsColour();
+    SetText(GridFlagName(), QStringLiteral("1"));
+  });
+}
+
+void Board::mnurulled_Click(int index) {
+  Trap(QStringLiteral("brd:08"), [&](ErrInfo&) {
+    const QString item = Indexed("mnurulled", index);
+    if (Checked(item)) {
+      SetChecked(item, false);
+      SetText(RuleFlagName(index), QStringLiteral("0"));
+      return;
+    }
+    for (int i = 1; i <= kRules; ++i) SetText(RuleFlagName(i), QStringLiteral("0"));
+    Uncheck("mnurulled", kRules);
+    SetText(RuleFlagName(index), QStringLiteral("1"));
+    SetChecked(item, true);
+    DrawRulesInTheirColour(static_cast<std::int16_t>(index));
+  });
+}
+
+void Board::StartGroup() {
+  mnuclear1_Click();
+  SetText(FlagName(0), QStringLiteral("0"));
+  if (Checked(QStringLiteral("mnugrid"))) DrawGridInItsColour();
+  if (!record_.rulesComeBack) return;
+  const int rule = FirstChecked("mnurulled", kRules);
+  if (rule != 0) DrawRulesInTheirColour(static_cast<std::int16_t>(rule));
+}
+
+void Board::pic_Click(int index) {
+  Trap(QStringLiteral("brd:09"), [&](ErrInfo&) {
+    if (IsGroupStart(index)) StartGroup();
+    StrokeRec rec = FillStrokeRec(letters_.sheet, static_cast<std::int16_t>(index));
+    record_.prepare(*this, rec);
+    BringIntoView(rec);  // nothing can be scrolled while the pen runs
+    record_.cue(*this, rec);
+    record_.write(*this, rec);
+  });
+}
+
+void CueIfPlayIsOn(Board& board, const StrokeRec& rec) {
+  if (!board.Checked(QStringLiteral("mnuaud"))) return;
+  CueBoardNo = board.record().cueBoardNo;
+  PlayCue(rec.LetterNo, CueBoardNo);
+}
+
+void WriteTile(Board& board, StrokeRec& rec) {
+  const LetterSet& letters = board.letters();
+  if (rec.LetterNo < 1 || rec.LetterNo > letters.tiles) {
+    return MsgBox(QString::fromUtf8(board.record().strangeTile));
+  }
+  const Sheet::Writing writing(board.sheet());
+  letters.write(rec, board.sheet());
+}
+
+void Board::mnudrawalt_Click() {
+  Trap(QStringLiteral("brd:10"), [this](ErrInfo&) {
+    mnuclear1_Click();
+    const bool on = !Checked(QStringLiteral("mnudrawalt"));
+    SetChecked(QStringLiteral("mnudrawalt"), on);
+    SetText(QStringLiteral("txtalt"), on ? QStringLiteral("1") : QStringLiteral("0"));
+    record_.showTiles(*this);
+  });
+}
+
+void Board::mnudall_Click() {
+  Trap(QStringLiteral("brd:11"), [this](ErrInfo&) {
+    SetChecked(QStringLiteral("mnuaud"), false);
+    const Sheet::Writing writing(*sheet_);  // one for all letters: a close waits for the last
+    record_.drawAll(*this);
+  });
+}
+
+void DrawAllTiles(Board& board) {
+  const auto draw = [&board](int tile) {
+    if (board.IsGroupStart(tile)) board.mnuclear1_Click();
+    board.pic_Click(tile);
+  };
+  const auto order = board.record().drawOrder;
+  for (const int tile : order) draw(tile);
+  if (!order.empty()) return;
+  for (int tile = 1; tile <= board.letters().tiles; ++tile) draw(tile);
+}
+
+}  // namespace bramlee

@@ -1,0 +1,63 @@
+#include "board/ink.h"
+
+#include <algorithm>
+
+#include "engine/last_point.h"
+
+namespace bramlee {
+namespace {
+
+constexpr double kCoarseStep = 1;
+constexpr double kHalfPen = 5;
+
+QRectF AroundPen(double left, double top, double right, double bottom) {
+  return QRectF(QPointF(left, top), QPointF(right, bottom))
+      .adjusted(-kHalfPen, -kHalfPen, kHalfPen, kHalfPen);
+}
+
+/// A surface that only remembers how far its dots reach.
+class Bounds : public DrawingSurface {
+ public:
+  void PSet(float x, float y) override {
+    left_ = std::min(left_, x), right_ = std::max(right_, x);
+    top_ = std::min(top_, y), bottom_ = std::max(bottom_, y);
+  }
+  double Step() const override { return kCoarseStep; }
+
+  QRectF Ink() const {
+    if (left_ > right_) return {};
+    return AroundPen(static_cast<double>(left_), static_cast<double>(top_),
+                     static_cast<double>(right_), static_cast<double>(bottom_));
+  }
+
+ private:
+  static constexpr float kFar = 1e9F;
+  float left_ = kFar, right_ = -kFar, top_ = kFar, bottom_ = -kFar;
+};
+
+/// The last-point registers, put back when this goes.
+class KeepLastPoint {
+ public:
+  KeepLastPoint() = default;
+  ~KeepLastPoint() { LastX = x_, LastY = y_, LastX2 = x2_, LastY2 = y2_; }
+  KeepLastPoint(const KeepLastPoint&) = delete;
+  KeepLastPoint& operator=(const KeepLastPoint&) = delete;
+
+ private:
+  double x_ = LastX, y_ = LastY, x2_ = LastX2, y2_ = LastY2;
+};
+
+}  // namespace
+
+QRectF InkOf(const LetterSet& letters, StrokeRec rec) {
+  const KeepLastPoint kept;
+  Bounds bounds;
+  letters.write(rec, bounds);
+  return bounds.Ink();
+}
+
+QRectF InkOf(const SheetExtent& extent) {
+  return AroundPen(extent.left, extent.top, extent.right, extent.bottom);
+}
+
+}  // namespace bramlee

@@ -1,0 +1,20 @@
+// Where a letter's ink lies, found out without writing it.
+#pragma once
+
+#include <QRectF>
+
+#include "board/rules.h"
+#include "engine/stroke_rec.h"
+#include "letters/letter_sets.h"
+
+namespace bramlee {
+
+/// The rectangle around the letter's strokes, the pen's width included, in sheet pixels; an empty
+/// one for a letter without strokes. Runs the letter's program at a coarse step, on a copy of the
+/// record, and leaves the last-point registers as they were.
+QRectF InkOf(const LetterSet& letters, StrokeRec rec);
+
+/// The same for a sheet's rules or grid.
+QRectF InkOf(const SheetExtent& extent);
+
+}  // namespace bramlee
