@@ -93,7 +93,7 @@ void Board::RunFormLoad() {
 QRect Board::InkOfAll() const {
   QRectF all = InkOf(record_.gridExtent).united(InkOf(record_.ruleExtent));
   for (int tile = 1; tile <= letters_.tiles; ++tile) {
-    for (const std::int16_t alternative : {0, 1}) {
+    for (const std::int16_t alternative : {std::int16_t{0}, std::int16_t{1}}) {
       StrokeRec rec = FillStrokeRec(letters_.sheet, static_cast<std::int16_t>(tile));
       rec.AltFlag = alternative;
       all = all.united(InkOf(letters_, rec));
