@@ -3,7 +3,7 @@
 #include <QScrollArea>
 #include <algorithm>
 
-#include "board/ink.h"
+#include "board/reach.h"
 #include "shell/forms.h"
 #include "shell/numbers.h"
 #include "shell/trap.h"
@@ -49,7 +49,7 @@ Board::Board(const BoardRecord& record)
   MakeControls();
   MakeMenus();
   ResetToDesign();
-  ink_ = InkOfAll();
+  reach_ = ReachOfAll();
 }
 
 void Board::MakeControls() {
@@ -90,20 +90,20 @@ void Board::RunFormLoad() {
   FitSheet();
 }
 
-QRect Board::InkOfAll() const {
-  QRectF all = InkOf(record_.gridExtent).united(InkOf(record_.ruleExtent));
+QRect Board::ReachOfAll() const {
+  QRectF all = ReachOf(record_.gridExtent).united(ReachOf(record_.ruleExtent));
   for (int tile = 1; tile <= letters_.tiles; ++tile) {
     for (const std::int16_t alternative : {std::int16_t{0}, std::int16_t{1}}) {
       StrokeRec rec = FillStrokeRec(letters_.sheet, static_cast<std::int16_t>(tile));
       rec.AltFlag = alternative;
-      all = all.united(InkOf(letters_, rec));
+      all = all.united(ReachOf(letters_, rec));
     }
   }
   return all.toAlignedRect();
 }
 
 void Board::FitSheet() {
-  QRect all = ink_;
+  QRect all = reach_;
   for (const QObject* child : sheet_->children()) {
     const auto* control = qobject_cast<const QWidget*>(child);
     if (control != nullptr) all = all.united(control->geometry());
@@ -112,13 +112,13 @@ void Board::FitSheet() {
 }
 
 void Board::BringIntoView(const StrokeRec& rec) {
-  QRect ink = InkOf(letters_, rec).toAlignedRect();
-  if (ink.isEmpty()) return;
-  ink.adjust(-kEdge, -kEdge, kEdge, kEdge);
+  QRect reach = ReachOf(letters_, rec).toAlignedRect();
+  if (reach.isEmpty()) return;
+  reach.adjust(-kEdge, -kEdge, kEdge, kEdge);
   // Of a letter larger than the window its beginning counts: the top left.
-  ink.setSize(ink.size().boundedTo(scroller_->viewport()->size()));
-  const QPoint centre = ink.center();
-  scroller_->ensureVisible(centre.x(), centre.y(), ink.width() / 2, ink.height() / 2);
+  reach.setSize(reach.size().boundedTo(scroller_->viewport()->size()));
+  const QPoint centre = reach.center();
+  scroller_->ensureVisible(centre.x(), centre.y(), reach.width() / 2, reach.height() / 2);
 }
 
 void Board::Present() {

@@ -94,14 +94,14 @@ class Board : public Form {
   void DrawGridInItsColour();
   void DrawRulesInTheirColour(std::int16_t number);
   /// Around all that this board's sheet can show written, in sheet pixels.
-  QRect InkOfAll() const;
+  QRect ReachOfAll() const;
   void BringIntoView(const StrokeRec& rec);
 
   const BoardRecord& record_;
   const LetterSet& letters_;
   QScrollArea* scroller_;
   Sheet* sheet_;
-  QRect ink_;
+  QRect reach_;
 };
 
 }  // namespace bramlee

@@ -1,4 +1,4 @@
-#include "board/ink.h"
+#include "board/reach.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ class Bounds : public DrawingSurface {
   }
   double Step() const override { return kCoarseStep; }
 
-  QRectF Ink() const {
+  QRectF Reach() const {
     if (left_ > right_) return {};
     return AroundPen(static_cast<double>(left_), static_cast<double>(top_),
                      static_cast<double>(right_), static_cast<double>(bottom_));
@@ -49,14 +49,14 @@ class KeepLastPoint {
 
 }  // namespace
 
-QRectF InkOf(const LetterSet& letters, StrokeRec rec) {
+QRectF ReachOf(const LetterSet& letters, StrokeRec rec) {
   const KeepLastPoint kept;
   Bounds bounds;
   letters.write(rec, bounds);
-  return bounds.Ink();
+  return bounds.Reach();
 }
 
-QRectF InkOf(const SheetExtent& extent) {
+QRectF ReachOf(const SheetExtent& extent) {
   return AroundPen(extent.left, extent.top, extent.right, extent.bottom);
 }
 

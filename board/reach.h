@@ -1,4 +1,4 @@
-// Where a letter's ink lies, found out without writing it.
+// How far a letter reaches on the sheet, found out without writing it.
 #pragma once
 
 #include <QRectF>
@@ -12,9 +12,9 @@ namespace bramlee {
 /// The rectangle around the letter's strokes, the pen's width included, in sheet pixels; an empty
 /// one for a letter without strokes. Runs the letter's program at a coarse step, on a copy of the
 /// record, and leaves the last-point registers as they were.
-QRectF InkOf(const LetterSet& letters, StrokeRec rec);
+QRectF ReachOf(const LetterSet& letters, StrokeRec rec);
 
 /// The same for a sheet's rules or grid.
-QRectF InkOf(const SheetExtent& extent);
+QRectF ReachOf(const SheetExtent& extent);
 
 }  // namespace bramlee
