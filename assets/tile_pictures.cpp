@@ -1,0 +1,162 @@
+// Tiles, buttons and signs.
+#include <array>
+
+#include "assets/letter_path.h"
+#include "assets/pictures.h"
+#include "letters/letter_names.h"
+#include "letters/letter_sets.h"
+
+namespace bramlee {
+namespace {
+
+/// A tile of 60 by 55 logical pixels, four picture pixels to each.
+constexpr QSize kTile(240, 220);
+
+const Subject kSubjects[] = {
+    {"engc", {324, 164}, QColor(0xC62828), QColor(0xFFF6F0), 7 },
+    {"engs", kTile,      QColor(0xAD3A8C), QColor(0xFDF3FA), 7 },
+    {"hinv", kTile,      QColor(0x1565C0), QColor(0xF1F7FE), 7 },
+    {"hinc", kTile,      QColor(0x00695C), QColor(0xEFF9F6), 12},
+    {"telv", kTile,      QColor(0x6A1B9A), QColor(0xF8F2FC), 9 },
+    {"telc", kTile,      QColor(0x9E4A00), QColor(0xFFF7EC), 12},
+    {"mat",  kTile,      QColor(0x2E7D32), QColor(0xF2FAF0), 6 },
+};
+
+/// The scripts whose letters also stand in print in a corner: strokes alone do not tell all of
+/// them apart.
+bool HasPrintedCorner(std::string_view letterSet) {
+  return letterSet.starts_with("hin") || letterSet.starts_with("tel");
+}
+
+}  // namespace
+
+std::span<const Subject> Subjects() {
+  return kSubjects;
+}
+
+QImage Blank(QSize size, const QColor& ground) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(ground);
+  return image;
+}
+
+void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRectF& place,
+                double width) {
+  const QPainterPath path = LetterPath(subject.letterSet, tile);
+  if (path.isEmpty()) return;
+  const QRectF bounds = path.boundingRect();
+  const QRectF room = place.adjusted(width / 2, width / 2, -width / 2, -width / 2);
+  // Small marks are not blown up beyond recognition: no letter is drawn larger than twice what
+  // a letter of full height would be.
+  constexpr double kFullHeight = 150;
+  const double scale =
+      std::min({room.width() / std::max(bounds.width(), 1.0),
+                room.height() / std::max(bounds.height(), 1.0), 1.4 * room.height() / kFullHeight});
+  painter.save();
+  painter.translate(room.center());
+  painter.scale(scale, scale);
+  painter.translate(-bounds.center());
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(subject.ink, width / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(path);
+  painter.restore();
+}
+
+void DrawPrinted(QPainter& painter, const QString& text, const QRectF& place,
+                 Qt::Alignment alignment, const QColor& colour) {
+  QFont font;
+  font.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Lohit Devanagari"),
+                    QStringLiteral("Lohit Telugu")});
+  font.setPixelSize(static_cast<int>(place.height() * 0.62));
+  painter.save();
+  painter.setFont(font);
+  painter.setPen(colour);
+  painter.drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, text);
+  painter.restore();
+}
+
+QImage TilePicture(const Subject& subject, int tile) {
+  QImage image = Blank(subject.tile, subject.ground);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF whole(QPointF(0, 0), QSizeF(subject.tile));
+  const double height = whole.height();
+  const bool corner = HasPrintedCorner(subject.letterSet);
+  QRectF place = whole.adjusted(height * 0.12, height * 0.1, -height * 0.12, -height * 0.1);
+  if (corner) place.setTop(height * 0.28);
+  DrawLetter(painter, subject, tile, place, height * 0.075);
+  if (corner) {
+    const QRectF print(height * 0.03, 0, whole.width() - height * 0.06, height * 0.3);
+    DrawPrinted(painter, QString::fromStdString(PrintedLetter(subject.letterSet, tile)), print,
+                Qt::AlignRight | Qt::AlignVCenter, QColor(0x37474F));
+  }
+  return image;
+}
+
+QImage LetteringPicture() {
+  // 238 by 45 logical pixels on the sheet.
+  QImage image = Blank({952, 180}, Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के कै को"), QRectF(image.rect()),
+              Qt::AlignCenter, QColor(0x1565C0));
+  return image;
+}
+
+QImage SetButtonPicture(int set) {
+  constexpr int kSetTiles = 37;
+  const Subject& subject = kSubjects[3];
+  QImage image = Blank({320, 220}, subject.ground);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF whole(image.rect());
+  DrawLetter(painter, subject, kSetTiles * (set - 1) + 1, whole.adjusted(90, 25, -20, -25), 15);
+  DrawPrinted(painter, QString::number(set), whole.adjusted(14, 0, -200, 0),
+              Qt::AlignLeft | Qt::AlignVCenter, QColor(0x37474F));
+  return image;
+}
+
+QImage SignPicture(int tile) {
+  Subject subject = kSubjects[6];
+  QImage image = Blank(subject.tile, subject.ground);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QPainterPath path = LetterPath(subject.letterSet, tile);
+  // Tiles 13 and 14 write two signs, the second in a column of its own: a button bears the first.
+  const QRectF whole = QRectF(image.rect()).adjusted(50, 40, -50, -40);
+  constexpr double kColumn = 250;
+  if (path.boundingRect().width() > kColumn) {
+    QPainterPath first;
+    for (const QPolygonF& run : path.toSubpathPolygons()) {
+      if (run.boundingRect().center().x() < path.boundingRect().left() + kColumn * 0.7) {
+        first.addPolygon(run);
+      }
+    }
+    path = first;
+  }
+  const QRectF bounds = path.boundingRect();
+  const double scale = std::min(whole.width() / std::max(bounds.width(), 1.0),
+                                whole.height() / std::max(bounds.height(), 1.0));
+  painter.translate(whole.center());
+  painter.scale(scale, scale);
+  painter.translate(-bounds.center());
+  painter.setPen(QPen(subject.ink, 20 / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(path);
+  return image;
+}
+
+QImage TableButtonPicture() {
+  const Subject& subject = kSubjects[6];
+  QImage image = Blank({320, 220}, subject.ground);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  constexpr std::array kRows = {"2 x 1 = 2", "2 x 2 = 4", "2 x 3 = 6"};
+  QRectF row(0, 12, 320, 68);
+  for (const char* text : kRows) {
+    DrawPrinted(painter, QString::fromLatin1(text), row, Qt::AlignCenter, subject.ink);
+    row.translate(0, 64);
+  }
+  return image;
+}
+
+}  // namespace bramlee

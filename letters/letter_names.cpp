@@ -1,0 +1,142 @@
+#include "letters/letter_names.h"
+
+#include <iterator>
+
+namespace bramlee {
+namespace {
+
+struct Named {
+  const char* name;
+  const char* printed;
+};
+
+// clang-format off
+constexpr Named kHindiVowels[] = {
+    {"vowel a", "अ"},
+    {"vowel aa", "आ"},
+    {"vowel i", "इ"},
+    {"vowel ii", "ई"},
+    {"vowel u", "उ"},
+    {"vowel uu", "ऊ"},
+    {"vowel ri", "ऋ"},
+    {"vowel e", "ए"},
+    {"vowel ai", "ऐ"},
+    {"vowel o", "ओ"},
+    {"vowel au", "औ"},
+    {"vowel am", "अं"},
+    {"vowel ah", "अः"},
+    {"picture", ""},
+    {"sign of aa", "ा"},
+    {"sign of i", "ि"},
+    {"sign of ii", "ी"},
+    {"sign of u", "ु"},
+    {"sign of uu", "ू"},
+    {"sign of ri", "ृ"},
+    {"sign of e", "े"},
+    {"sign of ai", "ै"},
+    {"sign of o", "ो"},
+    {"sign of au", "ौ"},
+    {"dot above", "ं"},
+    {"two dots", "ः"},
+    {"moon arc", "ँ"},
+    {"mark below", "्"},
+};
+
+// The last four bear what their strokes show.
+constexpr Named kHindiConsonants[] = {
+    {"ka", "क"}, {"kha", "ख"}, {"ga", "ग"}, {"gha", "घ"},
+    {"nga", "ङ"}, {"cha", "च"}, {"chha", "छ"}, {"ja", "ज"},
+    {"jha", "झ"}, {"nya", "ञ"}, {"tta", "ट"}, {"ttha", "ठ"},
+    {"dda", "ड"}, {"ddha", "ढ"}, {"nna", "ण"}, {"ta", "त"},
+    {"tha", "थ"}, {"da", "द"}, {"dha", "ध"}, {"na", "न"},
+    {"pa", "प"}, {"pha", "फ"}, {"ba", "ब"}, {"bha", "भ"},
+    {"ma", "म"}, {"ya", "य"}, {"ra", "र"}, {"la", "ल"},
+    {"va", "व"}, {"sha", "श"}, {"ssa", "ष"}, {"sa", "स"},
+    {"ha", "ह"}, {"lla", "ळ"}, {"ksha", "क्ष"}, {"tra", "त्र"},
+    {"jnya", "ज्ञ"},
+};
+
+constexpr const char* kTeluguVowels[] = {
+    "అ", "ఆ", "ఇ", "ఈ", "ఉ", "ఊ", "ఋ", "ౠ", "ఎ", "ఏ",
+    "ఐ", "ఒ", "ఓ", "ఔ", "", "ా", "ి", "ీ", "ు", "ూ",
+    "ృ", "ౄ", "ె", "ే", "ై", "ొ", "ో", "ౌ", "ౢ", "ౣ",
+    "ఌ", "ౡ", "అం", "అఁ", "అః", "్",
+};
+
+constexpr const char* kTeluguConsonants[] = {
+    "క", "ఖ", "గ", "ఘ", "ఙ", "చ", "ౘ", "ఛ", "జ", "ౙ",
+    "ఝ", "ఞ", "ట", "ఠ", "డ", "ఢ", "ణ", "్క", "్ఖ", "్గ",
+    "్ఘ", "్ఙ", "్చ", "్ౘ", "్ఛ", "్జ", "్ౙ", "్ఝ", "్ఞ", "్ట",
+    "్ఠ", "్డ", "్ఢ", "్ణ", "త", "థ", "ద", "ధ", "న", "ప",
+    "ఫ", "బ", "భ", "మ", "య", "ర", "ల", "వ", "శ", "ష",
+    "స", "్త", "్థ", "్ద", "్ధ", "్న", "్ప", "్ఫ", "్బ", "్భ",
+    "్మ", "్య", "్ర", "్ల", "్వ", "్శ", "్ష", "్స", "హ", "్హ",
+    "ళ", "్ళ", "క్ష", "ఱ", "్ఱ",
+};
+
+constexpr Named kNumbers[] = {
+    {"1", "1"}, {"2", "2"}, {"3", "3"}, {"4", "4"}, {"5", "5"},
+    {"6", "6"}, {"7", "7"}, {"8", "8"}, {"9", "9"}, {"0", "0"},
+    {"plus", "+"}, {"minus", "-"}, {"times", "x"}, {"divided by", "/"},
+    {"per cent", "%"}, {"equals", "="}, {"question mark", "?"},
+};
+// clang-format on
+
+constexpr int kConsonants = static_cast<int>(std::size(kHindiConsonants));
+constexpr const char* kVirama = "\u094D";  ///< takes the vowel away
+constexpr const char* kJoiner = "\u200D";  ///< after it: the half form, not the mark below
+constexpr const char* kFoot = "\u0930";    ///< ra, joined below as the foot stroke
+
+Named HindiVowel(int tile) {
+  return kHindiVowels[tile - 1];
+}
+
+std::string HindiConsonant(int tile, bool name) {
+  const int set = (tile - 1) / kConsonants + 1;
+  const Named letter = kHindiConsonants[(tile - 1) % kConsonants];
+  const std::string whole = name ? letter.name : letter.printed;
+  if (set == 1) return whole;
+  if (name) return set == 2 ? "half " + whole : whole + " with the foot stroke";
+  return whole + kVirama + (set == 2 ? kJoiner : kFoot);
+}
+
+int Tiles(std::string_view set) {
+  if (set == "engc" || set == "engs") return 26;
+  if (set == "hinv") return static_cast<int>(std::size(kHindiVowels));
+  if (set == "hinc") return 3 * kConsonants;
+  if (set == "telv") return static_cast<int>(std::size(kTeluguVowels));
+  if (set == "telc") return static_cast<int>(std::size(kTeluguConsonants));
+  return set == "mat" ? static_cast<int>(std::size(kNumbers)) : 0;
+}
+
+std::string Printed(std::string_view set, int tile) {
+  if (set == "engc") return {static_cast<char>('A' + tile - 1)};
+  if (set == "engs") return {static_cast<char>('a' + tile - 1)};
+  if (set == "hinv") return HindiVowel(tile).printed;
+  if (set == "hinc") return HindiConsonant(tile, false);
+  if (set == "telv") return kTeluguVowels[tile - 1];
+  if (set == "telc") return kTeluguConsonants[tile - 1];
+  return kNumbers[tile - 1].printed;
+}
+
+}  // namespace
+
+std::string PrintedLetter(std::string_view letterSet, int tile) {
+  return tile < 1 || tile > Tiles(letterSet) ? std::string() : Printed(letterSet, tile);
+}
+
+std::string LetterName(std::string_view letterSet, int tile) {
+  const std::string printed = PrintedLetter(letterSet, tile);
+  if (tile < 1 || tile > Tiles(letterSet)) return {};
+  if (letterSet == "engc") return "capital " + printed;
+  if (letterSet == "engs") return "small " + printed;
+  if (letterSet == "mat") return kNumbers[tile - 1].name;
+  if (letterSet == "telv" && printed.empty()) return "head tick";
+  const std::string name = letterSet == "hinv"   ? HindiVowel(tile).name
+                           : letterSet == "hinc" ? HindiConsonant(tile, true)
+                                                 : std::string();
+  if (name.empty()) return printed;
+  return printed.empty() ? name : name + " (" + printed + ")";
+}
+
+}  // namespace bramlee

@@ -1,0 +1,17 @@
+// What a tile is called: for screen readers, and in print for the corner of its picture.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace bramlee {
+
+/// The letter in print, UTF-8: "A", "क", a half form, a vowel sign. Empty for a tile that has no
+/// printed letter of its own or that is not in the set.
+std::string PrintedLetter(std::string_view letterSet, int tile);
+
+/// The tile's name as a teacher says it, UTF-8: "capital A", "half ka (क्‍)". Empty for a
+/// tile outside the set.
+std::string LetterName(std::string_view letterSet, int tile);
+
+}  // namespace bramlee
