@@ -13,8 +13,7 @@ constexpr double kMargin = 20;
 
 /// A chart shows the letters that a book would: of the Hindi consonants the whole ones.
 int ChartTiles(const Subject& subject) {
-  constexpr int kWholeConsonants = 37;
-  return subject.letterSet == "hinc" ? kWholeConsonants : FindLetterSet(subject.letterSet)->tiles;
+  return subject.letterSet == "hinc" ? kHindiSetTiles : FindLetterSet(subject.letterSet)->tiles;
 }
 
 }  // namespace

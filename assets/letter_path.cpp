@@ -38,10 +38,8 @@ QPainterPath LetterPath(std::string_view letterSet, int tile) {
   const LetterSet* set = FindLetterSet(letterSet);
   if (set == nullptr) return {};
   PathSurface surface;
-  StrokeRec rec = FillStrokeRec(set->sheet, static_cast<std::int16_t>(tile));
   ClearLastPoint();
-  set->write(rec, surface);
-  if (letterSet == "hinc" && tile > kHindiFootTiles) WriteHindiFootStroke(rec, surface);
+  WriteWholeTile(*set, tile, {}, surface);
   return surface.path;
 }
 

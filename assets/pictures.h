@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QRectF>
 #include <QString>
+#include <span>
 #include <string_view>
 
 namespace bramlee {

@@ -1,4 +1,5 @@
 // Tiles, buttons and signs.
+#include <QFontMetricsF>
 #include <array>
 
 #include "assets/letter_path.h"
@@ -65,9 +66,16 @@ void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRect
 void DrawPrinted(QPainter& painter, const QString& text, const QRectF& place,
                  Qt::Alignment alignment, const QColor& colour) {
   QFont font;
-  font.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Lohit Devanagari"),
-                    QStringLiteral("Lohit Telugu")});
+  // The font that has the script, named first, so that no other is asked for its shaping.
+  const QChar::Script script = text.isEmpty() ? QChar::Script_Latin : text[0].script();
+  font.setFamily(script == QChar::Script_Devanagari ? QStringLiteral("Lohit Devanagari")
+                 : script == QChar::Script_Telugu   ? QStringLiteral("Lohit Telugu")
+                                                    : QStringLiteral("DejaVu Sans"));
   font.setPixelSize(static_cast<int>(place.height() * 0.62));
+  const double width = QFontMetricsF(font).horizontalAdvance(text);
+  if (width > place.width()) {
+    font.setPixelSize(static_cast<int>(font.pixelSize() * place.width() / width));
+  }
   painter.save();
   painter.setFont(font);
   painter.setPen(colour);
@@ -98,19 +106,19 @@ QImage LetteringPicture() {
   QImage image = Blank({952, 180}, Qt::white);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के कै को"), QRectF(image.rect()),
-              Qt::AlignCenter, QColor(0x1565C0));
+  DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के कै को"),
+              QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignCenter, QColor(0x1565C0));
   return image;
 }
 
 QImage SetButtonPicture(int set) {
-  constexpr int kSetTiles = 37;
   const Subject& subject = kSubjects[3];
   QImage image = Blank({320, 220}, subject.ground);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF whole(image.rect());
-  DrawLetter(painter, subject, kSetTiles * (set - 1) + 1, whole.adjusted(90, 25, -20, -25), 15);
+  DrawLetter(painter, subject, kHindiSetTiles * (set - 1) + 1, whole.adjusted(90, 25, -20, -25),
+             15);
   DrawPrinted(painter, QString::number(set), whole.adjusted(14, 0, -200, 0),
               Qt::AlignLeft | Qt::AlignVCenter, QColor(0x37474F));
   return image;

@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "letters/letter_sets.h"
+
 namespace bramlee {
 namespace {
 
@@ -82,7 +84,7 @@ constexpr Named kNumbers[] = {
 };
 // clang-format on
 
-constexpr int kConsonants = static_cast<int>(std::size(kHindiConsonants));
+static_assert(std::size(kHindiConsonants) == kHindiSetTiles);
 constexpr const char* kVirama = "\u094D";  ///< takes the vowel away
 constexpr const char* kJoiner = "\u200D";  ///< after it: the half form, not the mark below
 constexpr const char* kFoot = "\u0930";    ///< ra, joined below as the foot stroke
@@ -92,8 +94,8 @@ Named HindiVowel(int tile) {
 }
 
 std::string HindiConsonant(int tile, bool name) {
-  const int set = (tile - 1) / kConsonants + 1;
-  const Named letter = kHindiConsonants[(tile - 1) % kConsonants];
+  const int set = (tile - 1) / kHindiSetTiles + 1;
+  const Named letter = kHindiConsonants[(tile - 1) % kHindiSetTiles];
   const std::string whole = name ? letter.name : letter.printed;
   if (set == 1) return whole;
   if (name) return set == 2 ? "half " + whole : whole + " with the foot stroke";
@@ -101,12 +103,8 @@ std::string HindiConsonant(int tile, bool name) {
 }
 
 int Tiles(std::string_view set) {
-  if (set == "engc" || set == "engs") return 26;
-  if (set == "hinv") return static_cast<int>(std::size(kHindiVowels));
-  if (set == "hinc") return 3 * kConsonants;
-  if (set == "telv") return static_cast<int>(std::size(kTeluguVowels));
-  if (set == "telc") return static_cast<int>(std::size(kTeluguConsonants));
-  return set == "mat" ? static_cast<int>(std::size(kNumbers)) : 0;
+  const LetterSet* found = FindLetterSet(set);
+  return found == nullptr ? 0 : found->tiles;
 }
 
 std::string Printed(std::string_view set, int tile) {

@@ -24,6 +24,10 @@ struct LetterSet {
   int footTilesFrom = 0;  ///< tiles from here on bear the foot stroke too; 0 for none
 };
 
+/// The Hindi consonants come in three sets of this many tiles: whole letters, half forms, letters
+/// with the foot stroke.
+inline constexpr int kHindiSetTiles = 37;
+
 /// All sets that there are.
 std::span<const LetterSet> LetterSets();
 
