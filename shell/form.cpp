@@ -3,10 +3,12 @@
 #include <QCloseEvent>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QThread>
 #include <QWindow>
 #include <utility>
 
 #include "shell/forms.h"
+#include "shell/screen.h"
 
 namespace bramlee {
 
@@ -22,24 +24,60 @@ void Form::SetClient(QWidget* client, QWidget* scroller) {
 }
 
 void Form::Present() {
-  QWidget* window = subWindow_ != nullptr ? static_cast<QWidget*>(subWindow_) : this;
-  if (subWindow_ != nullptr) show();
-  window->show();
-  window->raise();
-  window->activateWindow();
+  if (frame_ != nullptr) {
+    frame_->Present();
+    frame_->BringForward(this);
+    return;
+  }
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void Form::CloseAsked() {
+  UnloadForm(this);
+}
+
+void Form::StandIn(Form* frame, QMdiSubWindow* subWindow) {
+  frame_ = frame;
+  subWindow_ = subWindow;
 }
 
 void Form::SetOuter(const TwipsRect& rect) {
-  if (subWindow_ != nullptr) return Place(subWindow_, rect);
-  // The window manager's frame is known once the window has been shown; before, it has no width.
-  const QMargins margins = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
-  Place(this, rect);
-  setGeometry(geometry().marginsRemoved(margins));
+  outer_ = rect;
+  FitToOuter();
+}
+
+void Form::FitToOuter() {
+  if (subWindow_ != nullptr) return Place(subWindow_, *outer_);
+  // How wide the window manager's borders are is known once the window has been shown.
+  const QMargins borders = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+  const QRect outer = PixelsOf(*outer_);
+  resize(outer.size().shrunkBy(borders));
+  move(outer.topLeft());  // of the border's corner
+}
+
+void Form::AllowForBorders() {
+  if (!outer_ || bordersKnown_ || subWindow_ != nullptr || windowHandle() == nullptr) return;
+  if (windowState() & ~Qt::WindowActive || windowHandle()->frameMargins().isNull()) return;
+  bordersKnown_ = true;
+  FitToOuter();
 }
 
 TwipsRect Form::Outer() const {
   if (subWindow_ != nullptr) return PlaceOf(subWindow_);
-  return PlaceOf(this);
+  const QRect pixels = frameGeometry();
+  if (outer_ && PixelsOf(*outer_) == pixels) return *outer_;
+  return TwipsOf(pixels);
+}
+
+void Form::CentreOnScreen(double width, double height) {
+  const ScreenSize screen = Screen();
+  SetOuter({.left = (screen.width - width) / 2,
+            .top = (screen.height - height) / 2,
+            .width = width,
+            .height = height});
 }
 
 TextBox* Form::AddText(const QString& name, const QString& text) {
@@ -101,8 +139,14 @@ QMenu* Form::AddMenu(QMenu* parent, const QString& name, const QString& caption)
 
 QAction* Form::AddItem(QMenu* menu, const QString& name, const QString& caption,
                        std::function<void()> click) {
-  QAction* item = NewItem(name, caption, std::move(click));
+  QAction* item = AddCommand(menu, name, caption, std::move(click));
   item->setCheckable(true);
+  return item;
+}
+
+QAction* Form::AddCommand(QMenu* menu, const QString& name, const QString& caption,
+                          std::function<void()> click) {
+  QAction* item = NewItem(name, caption, std::move(click));
   menu->addAction(item);
   return item;
 }
@@ -131,21 +175,50 @@ void Form::PutOnBar(QAction* item) {
   if (kind_ != Kind::FrameChild) menuBar()->addAction(item);
 }
 
+namespace {
+
+constexpr int kLookAgainMs = 50;
+
+/// A handler that shows a message box waits in an event loop of its own. What is let go by
+/// another event meanwhile may be what the waiting handler stands on: it stays until that loop
+/// has ended.
+void DestroyWhenIdle(QObject* object) {
+  if (QThread::currentThread()->loopLevel() <= 1) return object->deleteLater();
+  QTimer::singleShot(kLookAgainMs, object, [object] { DestroyWhenIdle(object); });
+}
+
+}  // namespace
+
 void Form::LetGo() {
   setObjectName({});
   for (QTimer* timer : findChildren<QTimer*>()) timer->stop();
   hide();
+  if (frame_ != nullptr) frame_->Release(this);
   if (subWindow_ != nullptr) {
-    subWindow_->hide();
-    subWindow_->deleteLater();  // takes this form along
+    DestroyWhenIdle(subWindow_);  // takes this form along
   } else {
-    deleteLater();
+    DestroyWhenIdle(this);
   }
 }
 
 void Form::closeEvent(QCloseEvent* event) {
   event->ignore();
-  UnloadForm(this);
+  CloseAsked();
+}
+
+bool Form::event(QEvent* event) {
+  const bool done = QMainWindow::event(event);
+  switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowActivate:
+      AllowForBorders();
+      break;
+    default:
+      break;
+  }
+  return done;
 }
 
 QString CaptionOf(const QAction* item) {

@@ -7,8 +7,8 @@
 #include <QMenu>
 #include <QString>
 #include <QTimer>
-#include <concepts>
 #include <functional>
+#include <optional>
 
 #include "shell/controls.h"
 #include "shell/twips.h"
@@ -18,8 +18,9 @@ class QMdiSubWindow;
 namespace bramlee {
 
 /// One form. It is made and loaded by its name (see forms.h) and deletes itself some time after
-/// its unload, never while one of its handlers is on the stack. All controls are made in the
-/// constructor of the form's own class; Form_Load lays them out.
+/// its unload, never while one of its handlers is on the stack, not even one that waits for a
+/// message box. All controls are made in the constructor of the form's own class; Form_Load lays
+/// them out. Timers run from then on, whether the form is seen or not.
 class Form : public QMainWindow {
   Q_OBJECT
  public:
@@ -37,15 +38,25 @@ class Form : public QMainWindow {
   virtual void Form_Load() {}
   /// Runs once, when the form is unloaded.
   virtual void Form_Unload() {}
-  /// Brings the form into view, in front.
+  /// Brings the form into view, in front; a form in the frame brings the frame along.
   virtual void Present();
+  /// What the window manager's close button does: an unload, unless the form knows better.
+  virtual void CloseAsked();
 
-  /// The frame takes a child form in, unseen.
+  // --- what the frame does for the forms that stand in it
+  /// Takes a child form in, unseen.
   virtual void Adopt(Form* /*child*/) {}
+  /// Brings a child form to the front of the others.
+  virtual void BringForward(Form* /*child*/) {}
+  /// Lets a child form go: its window and its menus leave the frame at once.
+  virtual void Release(Form* /*child*/) {}
 
-  // --- the form's outer place, in twips; of a form in the frame, that of its sub-window
+  // --- the form's outer place, in twips, the window manager's borders and title included; of a
+  // form in the frame, that of its sub-window
   void SetOuter(const TwipsRect& rect);
   TwipsRect Outer() const;
+  /// SetOuter with that size, centred on the screen.
+  void CentreOnScreen(double width, double height);
 
   // --- controls, found by their names below the form
   TextBox* AddText(const QString& name, const QString& text);
@@ -58,8 +69,12 @@ class Form : public QMainWindow {
   // --- menus. Captions are as they read, "&" before the mnemonic.
   QMenu* AddMenu(const QString& name, const QString& caption);
   QMenu* AddMenu(QMenu* parent, const QString& name, const QString& caption);
+  /// An item that can be marked. The handler finds its mark as it was before the pick.
   QAction* AddItem(QMenu* menu, const QString& name, const QString& caption,
                    std::function<void()> click);
+  /// An item that is never marked.
+  QAction* AddCommand(QMenu* menu, const QString& name, const QString& caption,
+                      std::function<void()> click);
   /// A command that stands on the bar itself.
   QAction* AddBarItem(const QString& name, const QString& caption, std::function<void()> click);
   /// What stands on the form's bar, in order.
@@ -80,23 +95,28 @@ class Form : public QMainWindow {
 
   /// Used by forms.cpp alone: takes the form out of sight for good and lets it go.
   void LetGo();
-  /// Used by the frame alone.
-  void SetSubWindow(QMdiSubWindow* subWindow) { subWindow_ = subWindow; }
+  /// Used by the frame alone: the sub-window that the form stands in, and dies with.
+  void StandIn(Form* frame, QMdiSubWindow* subWindow);
   QMdiSubWindow* SubWindow() const { return subWindow_; }
 
  protected:
   /// Puts another widget in the client's place; `scroller`, if given, stands around it.
   void SetClient(QWidget* client, QWidget* scroller = nullptr);
-  /// The window manager's close button is an unload.
   void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   QAction* NewItem(const QString& name, const QString& caption, std::function<void()> click);
   void PutOnBar(QAction* item);
+  void FitToOuter();
+  void AllowForBorders();
 
   Kind kind_;
   QWidget* client_ = nullptr;
+  Form* frame_ = nullptr;
   QMdiSubWindow* subWindow_ = nullptr;
+  std::optional<TwipsRect> outer_;
+  bool bordersKnown_ = false;
   QList<QAction*> barItems_;
 };
 

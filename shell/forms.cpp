@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QMdiSubWindow>
+#include <QScopeGuard>
 #include <utility>
 
 #include "shell/form.h"
@@ -15,6 +17,7 @@ const QString kFrame = QStringLiteral("MDIbrm");
 struct FormList {
   QHash<QString, std::function<Form*()>> makers;
   QList<Form*> loaded;
+  QList<Form*> unloading;
   bool unloadingAll = false;
   std::function<void()> end;
 };
@@ -53,9 +56,30 @@ void ShowForm(const QString& name) {
   if (Form* form = LoadForm(name)) form->Present();
 }
 
+namespace {
+
+/// Unloads those of the loaded forms, the last first. Copied: unloading one may unload others.
+void UnloadFromTheLast(QList<Form*> forms) {
+  for (auto form = forms.crbegin(); form != forms.crend(); ++form) UnloadForm(*form);
+}
+
+QList<Form*> FormsInTheFrame() {
+  QList<Form*> children;
+  for (Form* form : std::as_const(List().loaded)) {
+    if (form->kind() == Form::Kind::FrameChild) children.append(form);
+  }
+  return children;
+}
+
+}  // namespace
+
 void UnloadForm(Form* form) {
-  if (!List().loaded.removeOne(form)) return;
+  if (!List().loaded.contains(form) || List().unloading.contains(form)) return;
+  List().unloading.append(form);
+  const auto over = qScopeGuard([form] { List().unloading.removeOne(form); });
+  if (form->kind() == Form::Kind::Frame) UnloadFromTheLast(FormsInTheFrame());
   form->Form_Unload();
+  List().loaded.removeOne(form);
   form->LetGo();
 }
 
@@ -65,15 +89,25 @@ const QList<Form*>& LoadedForms() {
 
 void UnloadAll() {
   List().unloadingAll = true;
-  Trap(QStringLiteral("com1:20"), [](ErrInfo&) {
-    while (!List().loaded.isEmpty()) UnloadForm(List().loaded.last());
-  });
+  Trap(QStringLiteral("com1:20"), [](ErrInfo&) { UnloadFromTheLast(List().loaded); });
   List().unloadingAll = false;
 }
 
 void EndProgram() {
   if (List().end) return List().end();
   QCoreApplication::exit(0);
+}
+
+void DestroyForms() {
+  const QList<Form*> forms = std::exchange(List().loaded, {});
+  for (auto form = forms.crbegin(); form != forms.crend(); ++form) {
+    // A form in the frame goes with its window.
+    if ((*form)->SubWindow() != nullptr) {
+      delete (*form)->SubWindow();
+    } else {
+      delete *form;
+    }
+  }
 }
 
 void ReplaceEndProgram(std::function<void()> end) {

@@ -24,8 +24,9 @@ Form* LoadedForm(const QString& name);
 /// Loads the form if need be and brings it to the front. An unknown name does nothing.
 void ShowForm(const QString& name);
 
-/// Takes the form off the list and out of sight at once; it is destroyed once no handler of
-/// its own is running. A form that is not loaded is passed over.
+/// Runs the form's Form_Unload and takes it off the list and out of sight at once; it is
+/// destroyed once no handler of its own is running. The forms that stand in the frame go before
+/// it. A form that is not loaded, or whose unload is under way, is passed over.
 void UnloadForm(Form* form);
 
 /// All loaded forms in the order of their loading.
@@ -36,6 +37,9 @@ void UnloadAll();
 
 /// Ends the program with status 0 when the running handler returns.
 void EndProgram();
+
+/// Destroys whatever form is left once the event loop has ended. Runs no handler.
+void DestroyForms();
 
 /// What EndProgram does instead, for tests; an empty function brings the real one back.
 void ReplaceEndProgram(std::function<void()> end);

@@ -11,19 +11,26 @@ namespace {
 
 constexpr char kPlace[] = "twips";
 
-QRect Pixels(const TwipsRect& rect) {
-  return {PixelsOf(rect.left), PixelsOf(rect.top), PixelsOf(rect.width), PixelsOf(rect.height)};
-}
-
 }  // namespace
 
 int PixelsOf(double twips) {
   return static_cast<int>(RoundEven(twips / kTwipsPerPixel));
 }
 
+QRect PixelsOf(const TwipsRect& rect) {
+  return {PixelsOf(rect.left), PixelsOf(rect.top), PixelsOf(rect.width), PixelsOf(rect.height)};
+}
+
+TwipsRect TwipsOf(const QRect& pixels) {
+  return {.left = kTwipsPerPixel * pixels.x(),
+          .top = kTwipsPerPixel * pixels.y(),
+          .width = kTwipsPerPixel * pixels.width(),
+          .height = kTwipsPerPixel * pixels.height()};
+}
+
 void Place(QWidget* control, const TwipsRect& rect) {
   control->setProperty(kPlace, QRectF(rect.left, rect.top, rect.width, rect.height));
-  control->setGeometry(Pixels(rect));
+  control->setGeometry(PixelsOf(rect));
 }
 
 void MoveTo(QWidget* control, double left, double top) {
@@ -36,11 +43,8 @@ TwipsRect PlaceOf(const QWidget* control) {
   const QRectF kept = control->property(kPlace).toRectF();
   const TwipsRect placed{
       .left = kept.x(), .top = kept.y(), .width = kept.width(), .height = kept.height()};
-  if (control->property(kPlace).isValid() && Pixels(placed) == pixels) return placed;
-  return {.left = kTwipsPerPixel * pixels.x(),
-          .top = kTwipsPerPixel * pixels.y(),
-          .width = kTwipsPerPixel * pixels.width(),
-          .height = kTwipsPerPixel * pixels.height()};
+  if (control->property(kPlace).isValid() && PixelsOf(placed) == pixels) return placed;
+  return TwipsOf(pixels);
 }
 
 }  // namespace bramlee

@@ -1,6 +1,8 @@
 // Places of controls in twips.
 #pragma once
 
+#include <QRect>
+
 class QWidget;
 
 namespace bramlee {
@@ -18,6 +20,10 @@ struct TwipsRect {
   double width;
   double height;
 };
+
+/// The rectangle's logical pixels, each of the four to the nearest.
+QRect PixelsOf(const TwipsRect& rect);
+TwipsRect TwipsOf(const QRect& pixels);
 
 /// Puts the control there. The place is kept in twips, so that what is laid out from a
 /// neighbour's place does not pick up the rounding to pixels.
