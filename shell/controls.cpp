@@ -79,43 +79,6 @@ void Label::mouseReleaseEvent(QMouseEvent* event) {
   }
 }
 
-PictureBox::PictureBox(QWidget* parent) : QAbstractButton(parent) {
-  setFocusPolicy(Qt::StrongFocus);
-}
-
-void PictureBox::SetPicture(const QString& path) {
-  SetPicture(QPixmap(path));
-}
-
-void PictureBox::SetPicture(const QPixmap& picture) {
-  picture_ = picture;
-  update();
-}
-
-void PictureBox::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.fillRect(rect(), isDown() ? QColor(0xFFE9A8) : QColor(Qt::white));
-  if (!picture_.isNull()) {
-    QRect place({}, picture_.size().scaled(size(), Qt::KeepAspectRatio));
-    place.moveCenter(rect().center());
-    painter.drawPixmap(place, picture_);
-  }
-  const bool lit = underMouse() || hasFocus();
-  painter.setPen(QPen(lit ? QColor(0xE07000) : QColor(0x9AA5B1), lit ? 3 : 1));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
-void PictureBox::enterEvent(QEnterEvent* event) {
-  QAbstractButton::enterEvent(event);
-  update();
-}
-
-void PictureBox::leaveEvent(QEvent* event) {
-  QAbstractButton::leaveEvent(event);
-  update();
-}
-
 Combo::Combo(QWidget* parent) : QComboBox(parent) {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);

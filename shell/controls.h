@@ -2,14 +2,14 @@
 // flag, a drive) it keeps as text.
 #pragma once
 
-#include <QAbstractButton>
 #include <QColor>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPixmap>
 #include <QString>
 #include <cstdint>
+
+#include "shell/picture_box.h"
 
 namespace bramlee {
 
@@ -56,26 +56,6 @@ class Label : public QLabel {
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
-};
-
-/// A picture that can be clicked: a tile, a sign, a chart. Scaled to fit without distortion.
-/// Answers hover, press and focus visibly; Space presses it.
-class PictureBox : public QAbstractButton {
- public:
-  explicit PictureBox(QWidget* parent = nullptr);
-  /// Shows the picture of that resource or file; an unreadable one leaves the box empty.
-  void SetPicture(const QString& path);
-  void SetPicture(const QPixmap& picture);
-  const QPixmap& Picture() const { return picture_; }
-  QSize sizeHint() const override { return {80, 60}; }
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void enterEvent(QEnterEvent* event) override;
-  void leaveEvent(QEvent* event) override;
-
- private:
-  QPixmap picture_;
 };
 
 /// A combo box whose text is free and whose list is what it was given: typing, leaving and the
