@@ -1,0 +1,112 @@
+// The ink of a sheet: the dots themselves, without any window.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <optional>
+#include <vector>
+
+#include "board/planes.h"
+#include "engine/drawing_surface.h"
+
+namespace bramlee {
+
+/// Takes dots and shows them as smooth-edged discs of kDrawWidth at any pixel ratio.
+///
+/// Dots of a run lie a hundredth of a pixel apart; those that would change nothing one can see
+/// are passed over, and what is kept is a journal of the others. The journal is the truth: a
+/// picture, or what a window shows, is stamped from it and can be made anew at any time, so the
+/// same dots give the same picture wherever and however fast they were written.
+class Ink final : public DrawingSurface {
+ public:
+  /// `step`: what Step() tells, greater than 0.
+  explicit Ink(double step = 0.01) : step_(step) {}
+
+  void PSet(float x, float y) override {
+    const float along = (x - lastX_) * directionX_ + (y - lastY_) * directionY_;
+    const float across = (x - lastX_) * directionY_ - (y - lastY_) * directionX_;
+    // One test for both, as nearly every dot ends here.
+    if ((along >= heldAlong_) & (along <= kSpacing) & (across * across < kStray * kStray)) {
+      heldX_ = x;
+      heldY_ = y;
+      heldAlong_ = along;
+      return;
+    }
+    Turn(x, y);
+  }
+
+  double Step() const override { return step_; }
+  void SetStep(double step) { step_ = step; }
+  void BeginRun(Primitive /*primitive*/, std::span<const double> /*arguments*/) override {
+    Flush();
+  }
+  void EndRun() override { Flush(); }
+
+  /// The colour of the dots to come; red at first.
+  ColourWord Colour() const { return colour_; }
+  void SetColour(ColourWord colour);
+
+  /// Takes every dot away.
+  void Wipe();
+
+  /// All dots over a ground: what lies within `area` (sheet pixels) at `ratio` device pixels to a
+  /// sheet pixel. The image carries the ratio. Empty for an empty area or one too large for the
+  /// memory.
+  QImage Picture(const QRectF& area, double ratio, const QColor& ground) const;
+
+  // --- what a window shows: kept ready, so that each frame costs only what is new
+
+  /// Keeps what lies within `area` ready at `ratio`. Asked for the same again it does nothing.
+  void Cover(const QRectF& area, double ratio);
+  /// Size of what is covered, in device pixels.
+  QSize CoveredSize() const { return planes_ ? planes_->Size() : QSize(); }
+  /// Where the covered part has changed since the last call, in device pixels.
+  QRect TakeDirty();
+  /// Paints a part of what is covered into the same place of a 32-bit image of CoveredSize().
+  void Compose(QImage& image, const QRect& part, const QColor& ground);
+
+  /// How many dots the journal holds.
+  std::size_t KeptDots() const { return dots_.size(); }
+
+ private:
+  /// How far apart kept dots of a run may lie, in sheet pixels. The notch between two discs is
+  /// spacing * spacing / 40 deep: a 240th of a pixel.
+  static constexpr float kSpacing = 0.41F;
+  /// How far a dot that is passed over may lie beside the line of the others, in sheet pixels.
+  static constexpr float kStray = 0.04F;
+  static constexpr float kNever = 1e30F;
+
+  struct Dot {
+    float x;
+    float y;
+  };
+  /// Dots of one colour, up to the next stretch's first.
+  struct Stretch {
+    ColourWord colour;
+    std::size_t first;
+  };
+
+  void Turn(float x, float y);
+  void Flush();
+  void Keep(float x, float y);
+  void ReplayInto(Planes& planes) const;
+
+  double step_;
+  ColourWord colour_ = 0x000000FF;
+
+  bool atWork_ = false;  ///< whether last is the last kept dot of a run not yet ended
+  float lastX_ = 0;
+  float lastY_ = 0;
+  bool held_ = false;  ///< whether a dot waits for the next one to tell if it is needed
+  float heldX_ = 0;
+  float heldY_ = 0;
+  float heldAlong_ = kNever;  ///< how far the held dot lies along the direction
+  float directionX_ = 0;
+  float directionY_ = 0;
+
+  std::vector<Dot> dots_;
+  std::vector<Stretch> stretches_;
+  std::optional<Planes> planes_;
+};
+
+}  // namespace bramlee

@@ -1,0 +1,161 @@
+#include "board/planes.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <utility>
+
+// The loops over words gain from wide registers, which most processors have and not all. The
+// choice at load time and the address sanitizer do not go together.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && \
+    !defined(__SANITIZE_ADDRESS__)
+#define BRAMLEE_WIDE __attribute__((target_clones("avx2,popcnt", "default")))
+#else
+#define BRAMLEE_WIDE
+#endif
+
+namespace bramlee {
+namespace {
+
+BRAMLEE_WIDE void OrStamp(std::uint64_t* into, std::ptrdiff_t stride, const std::uint64_t* stamp,
+                          int rows, int columns) {
+  for (int row = 0; row < rows; ++row) {
+    for (int i = 0; i < columns; i += 4) {
+      for (int word = i; word < i + 4; ++word) into[word] |= stamp[word];
+    }
+    into += stride;
+    stamp += columns;
+  }
+}
+
+/// Takes out of a row of one colour what another colour has.
+BRAMLEE_WIDE void TakeOut(std::uint64_t* from, const std::uint64_t* other, int count) {
+  for (int i = 0; i < count; ++i) from[i] &= ~other[i];
+}
+
+/// What one colour adds to the pixels of a row: its three parts times its samples.
+struct Sums {
+  int red;
+  int green;
+  int blue;
+  int samples;
+};
+
+BRAMLEE_WIDE void AddColour(Sums* sums, const std::uint64_t* words, int count, const Sums& colour) {
+  for (int i = 0; i < count; ++i) {
+    if (words[i] == 0) continue;
+    const int samples = std::popcount(words[i]);
+    sums[i].red += samples * colour.red;
+    sums[i].green += samples * colour.green;
+    sums[i].blue += samples * colour.blue;
+    sums[i].samples += samples;
+  }
+}
+
+QRgb Mixed(const Sums& sums, QRgb ground) {
+  const int rest = 64 - sums.samples;
+  return qRgb((sums.red + rest * qRed(ground) + 32) / 64,
+              (sums.green + rest * qGreen(ground) + 32) / 64,
+              (sums.blue + rest * qBlue(ground) + 32) / 64);
+}
+
+}  // namespace
+
+void Planes::Box::Add(const Box& other) {
+  left = std::min(left, other.left);
+  top = std::min(top, other.top);
+  right = std::max(right, other.right);
+  bottom = std::max(bottom, other.bottom);
+}
+
+Planes::Box Planes::Box::Shared(const Box& other) const {
+  return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+          std::min(bottom, other.bottom)};
+}
+
+Planes::Planes(const QRectF& area, double ratio)
+    : stamps_(ratio),
+      area_(area),
+      size_(static_cast<int>(std::ceil(area.width() * ratio)),
+            static_cast<int>(std::ceil(area.height() * ratio))),
+      margin_(2 * stamps_.Reach() + 1),
+      stride_(size_.width() + margin_ + stamps_.Columns() + 1),
+      rows_(size_.height() + 2 * margin_ + 1),
+      limitX_(size_.width() + margin_),
+      limitY_(size_.height() + margin_),
+      dirty_{margin_, margin_, margin_ + size_.width(), margin_ + size_.height()} {
+  SetColour(0);
+}
+
+void Planes::SetColour(ColourWord colour) {
+  if (!planes_.empty() && planes_[current_].colour == colour) return;
+  Settle();
+  const auto known = std::find_if(planes_.begin(), planes_.end(),
+                                  [colour](const Plane& plane) { return plane.colour == colour; });
+  current_ = static_cast<std::size_t>(known - planes_.begin());
+  if (known != planes_.end()) return;
+  const auto words = static_cast<std::size_t>(rows_) * static_cast<std::size_t>(stride_);
+  planes_.push_back({colour, ZeroWords(words), kEmptyBox});
+}
+
+void Planes::SetBits(const std::uint64_t* stamp, int column, int row) {
+  OrStamp(RowOf(planes_[current_], row) + column, stride_, stamp, stamps_.Rows(),
+          stamps_.Columns());
+  unsettled_.Add({column, row, column + stamps_.Columns(), row + stamps_.Rows()});
+}
+
+void Planes::Settle() {
+  if (unsettled_.Empty()) return;
+  Plane& current = planes_[current_];
+  for (const Plane& plane : planes_) {
+    if (&plane == &current) continue;
+    const Box box = unsettled_.Shared(plane.touched);
+    for (int row = box.top; row < box.bottom; ++row) {
+      TakeOut(RowOf(plane, row) + box.left, RowOf(current, row) + box.left, box.right - box.left);
+    }
+  }
+  current.touched.Add(unsettled_);
+  dirty_.Add(unsettled_);
+  unsettled_ = kEmptyBox;
+}
+
+void Planes::Clear() {
+  Settle();
+  for (Plane& plane : planes_) {
+    const Box box = std::exchange(plane.touched, kEmptyBox);
+    for (int row = box.top; row < box.bottom; ++row) {
+      std::fill(RowOf(plane, row) + box.left, RowOf(plane, row) + box.right, 0);
+    }
+    dirty_.Add(box);
+  }
+}
+
+QRect Planes::TakeDirty() {
+  Settle();
+  const Box box = std::exchange(dirty_, kEmptyBox);
+  if (box.Empty()) return {};
+  return QRect(box.left - margin_, box.top - margin_, box.right - box.left, box.bottom - box.top)
+      .intersected(QRect(QPoint(), size_));
+}
+
+void Planes::Compose(QImage& image, const QRect& part, QRgb ground) {
+  Settle();
+  const QRect area = part.intersected(QRect(QPoint(), size_));
+  std::vector<Sums> sums(static_cast<std::size_t>(area.width()));
+  for (int y = area.top(); y <= area.bottom(); ++y) {
+    std::fill(sums.begin(), sums.end(), Sums{});
+    const int left = area.left() + margin_;
+    const Box line{left, y + margin_, left + area.width(), y + margin_ + 1};
+    for (const Plane& plane : planes_) {
+      const Box box = line.Shared(plane.touched);
+      if (box.Empty()) continue;
+      const QColor colour = ColourOf(plane.colour);
+      AddColour(sums.data() + box.left - left, RowOf(plane, box.top) + box.left,
+                box.right - box.left, {colour.red(), colour.green(), colour.blue(), 0});
+    }
+    auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(y)) + area.left();
+    for (const Sums& sum : sums) *pixel++ = sum.samples == 0 ? ground : Mixed(sum, ground);
+  }
+}
+
+}  // namespace bramlee

@@ -1,0 +1,93 @@
+// The dots of a part of the sheet as bits, one plane a colour.
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QRectF>
+#include <vector>
+
+#include "board/stamps.h"
+#include "shell/controls.h"
+
+namespace bramlee {
+
+/// 64 sample bits a device pixel and colour; a sample belongs to one colour at most, to the one
+/// that came last. Stamping only sets bits, so a stroke's edge is the same however often its dots
+/// overlap, and a second colour leaves nothing of the first beneath it.
+class Planes {
+ public:
+  /// Covers `area` (sheet pixels) at `ratio` device pixels to a sheet pixel. Throws
+  /// std::bad_alloc when there is no memory for it.
+  Planes(const QRectF& area, double ratio);
+
+  const QRectF& Area() const { return area_; }
+  double Ratio() const { return stamps_.Ratio(); }
+  /// What it covers, in device pixels.
+  QSize Size() const { return size_; }
+
+  /// The colour of the stamps to come.
+  void SetColour(ColourWord colour);
+
+  /// Sets a dot with its centre at `x`, `y` (sheet pixels). What lies off the area is cut off.
+  void Stamp(float x, float y) {
+    const double phases = Stamps::kPhases;
+    const double deviceX = (static_cast<double>(x) - area_.x()) * Ratio() + stamps_.Reach() + 1;
+    const double deviceY = (static_cast<double>(y) - area_.y()) * Ratio() + stamps_.Reach() + 1;
+    if (!(deviceX >= 0 && deviceX < limitX_ && deviceY >= 0 && deviceY < limitY_)) return;
+    const int placeX = static_cast<int>(deviceX * phases + 0.5);
+    const int placeY = static_cast<int>(deviceY * phases + 0.5);
+    const int column = placeX / Stamps::kPhases;
+    const int row = placeY / Stamps::kPhases;
+    SetBits(stamps_.At(placeX % Stamps::kPhases, placeY % Stamps::kPhases), column, row);
+  }
+
+  /// Takes every dot away.
+  void Clear();
+
+  /// Where dots were set or taken away since the last call, in device pixels of the area; all of
+  /// it at first.
+  QRect TakeDirty();
+
+  /// Paints the part `part` (device pixels of the area) into the same place of `image`, a 32-bit
+  /// image of Size(), over `ground`.
+  void Compose(QImage& image, const QRect& part, QRgb ground);
+
+ private:
+  /// Rows and columns of the planes, the last ones beyond it.
+  struct Box {
+    int left;
+    int top;
+    int right;
+    int bottom;
+    bool Empty() const { return left >= right || top >= bottom; }
+    void Add(const Box& other);
+    Box Shared(const Box& other) const;
+  };
+  struct Plane {
+    ColourWord colour;
+    Words words;
+    Box touched;  ///< where any bit may be set
+  };
+  static constexpr Box kEmptyBox{1 << 30, 1 << 30, 0, 0};
+
+  void SetBits(const std::uint64_t* stamp, int column, int row);
+  void Settle();
+  std::uint64_t* RowOf(const Plane& plane, int row) const {
+    return plane.words.get() + std::ptrdiff_t{row} * stride_;
+  }
+
+  Stamps stamps_;
+  QRectF area_;
+  QSize size_;
+  int margin_;  ///< rows and columns around the area, so that no stamp has to be cut
+  int stride_;
+  int rows_;
+  double limitX_;
+  double limitY_;
+  std::vector<Plane> planes_;
+  std::size_t current_ = 0;
+  Box dirty_;                  ///< changed since it was last asked
+  Box unsettled_ = kEmptyBox;  ///< where the current colour may share samples with others
+};
+
+}  // namespace bramlee
