@@ -209,7 +209,6 @@ void WriteZ(StrokeRec& r, Pen& pen) {
 }
 
 // Letters that differ by a stroke or a column share a routine.
-using Letter = void (*)(StrokeRec&, Pen&);
 constexpr Letter kLetters[] = {
     WriteA, WriteBPR, WriteCG,  WriteD, WriteEFL, WriteEFL, WriteCG,  WriteHIT, WriteHIT,
     WriteJ, WriteK,   WriteEFL, WriteM, WriteN,   WriteOQ,  WriteBPR, WriteOQ,  WriteBPR,
@@ -220,9 +219,7 @@ static_assert(std::size(kLetters) == 26);
 }  // namespace
 
 void WriteCapital(StrokeRec& rec, DrawingSurface& sheet) {
-  if (rec.LetterNo < 1 || rec.LetterNo > 26) return;
-  Pen pen{rec, sheet};
-  kLetters[rec.LetterNo - 1](rec, pen);
+  WriteFrom(kLetters, rec, sheet);
 }
 
 }  // namespace bramlee

@@ -5,15 +5,19 @@
 namespace bramlee {
 namespace {
 
+constexpr int kHindiVowelForms[] = {1, 2, 7, 8, 9, 28};
+constexpr int kHindiConsonantForms[] = {3, 7, 18, 35, 53, 64};
+constexpr int kNumberForms[] = {1, 3, 4, 9};
+
 // clang-format off
 constexpr LetterSet kLetterSets[] = {
-    {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,  .alternatives = false, .write = WriteCapital},
-    {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,  .alternatives = false, .write = WriteSmallLetter},
-    {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .alternatives = true,  .write = WriteHindiVowel},
-    {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .alternatives = true,  .write = WriteHindiConsonant, .footTilesFrom = 75},
-    {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .alternatives = false, .write = WriteTeluguVowel},
-    {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .alternatives = false, .write = WriteTeluguConsonant},
-    {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .alternatives = true,  .write = WriteNumberTile},
+    {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,  .secondForms = {},                   .write = WriteCapital},
+    {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,  .secondForms = {},                   .write = WriteSmallLetter},
+    {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .secondForms = kHindiVowelForms,     .write = WriteHindiVowel},
+    {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .secondForms = kHindiConsonantForms, .write = WriteHindiConsonant, .footTilesFrom = 75},
+    {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .secondForms = {},                   .write = WriteTeluguVowel},
+    {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .secondForms = {},                   .write = WriteTeluguConsonant},
+    {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .secondForms = kNumberForms,         .write = WriteNumberTile},
 };
 // clang-format on
 
@@ -21,6 +25,10 @@ constexpr LetterSet kLetterSets[] = {
 
 std::span<const LetterSet> LetterSets() {
   return kLetterSets;
+}
+
+bool HasSecondForm(const LetterSet& set, int tile) {
+  return std::ranges::find(set.secondForms, tile) != set.secondForms.end();
 }
 
 const LetterSet* FindLetterSet(std::string_view name) {

@@ -16,10 +16,10 @@ using WriteLetter = void (*)(StrokeRec& rec, DrawingSurface& sheet);
 
 /// One letter set.
 struct LetterSet {
-  std::string_view name;  ///< as the sound folders and the tools name it: "engc"
-  SheetKind sheet;        ///< how its sheet is divided
-  int tiles;              ///< tiles are 1 to this
-  bool alternatives;      ///< whether some letters have a second form
+  std::string_view name;             ///< as the sound folders and the tools name it: "engc"
+  SheetKind sheet;                   ///< how its sheet is divided
+  int tiles;                         ///< tiles are 1 to this
+  std::span<const int> secondForms;  ///< tiles that have an alternative form too
   WriteLetter write;
   int footTilesFrom = 0;  ///< tiles from here on bear the foot stroke too; 0 for none
 };
@@ -33,6 +33,9 @@ std::span<const LetterSet> LetterSets();
 
 /// The set of that name, or nullptr.
 const LetterSet* FindLetterSet(std::string_view name);
+
+/// Whether the tile has an alternative form beside its usual one.
+bool HasSecondForm(const LetterSet& set, int tile);
 
 // One routine a set, each in the source that bears the set's name.
 void WriteCapital(StrokeRec& rec, DrawingSurface& sheet);

@@ -4,11 +4,13 @@
 
 namespace bramlee {
 
-void Pen::Arc(double from, double to, int sweepDir, double centreX, double centreY, double radius) {
+EndPoint Pen::Arc(double from, double to, int sweepDir, double centreX, double centreY,
+                  double radius) {
   rec.StartAngle = from;
   rec.EndAngle = to;
   rec.SweepDir = static_cast<std::int16_t>(sweepDir);
   rec.LastResult = ArcStroke(sheet, rec.SweepDir, rec.StepFlag, from, to, centreX, centreY, radius);
+  return {LastX, LastY};
 }
 
 void Pen::LineRight(double fromX, double y, double toX) {
@@ -27,19 +29,30 @@ void Pen::LineUp(double x, double fromY, double toY) {
   rec.LastResult = bramlee::LineUp(sheet, x, fromY, toY);
 }
 
-void Pen::SlantLeft(double angle, double x, double y, double limitY) {
+EndPoint Pen::SlantLeft(double angle, double x, double y, double limitY) {
   rec.StartAngle = angle;
   rec.LastResult = bramlee::SlantLeft(sheet, angle, x, y, limitY);
+  return {LastX, LastY};
 }
 
-void Pen::SlantRight(double angle, double x, double y, double limitY) {
+EndPoint Pen::SlantRight(double angle, double x, double y, double limitY) {
   rec.StartAngle = angle;
   rec.LastResult = bramlee::SlantRight(sheet, angle, x, y, limitY);
+  return {LastX2, LastY2};
 }
 
-void Pen::SlantUpRight(double angle, double x, double y, double limitY) {
+EndPoint Pen::SlantUpRight(double angle, double x, double y, double limitY) {
   rec.StartAngle = angle;
   rec.LastResult = bramlee::SlantUpRight(sheet, angle, x, y, limitY);
+  return {LastX2, LastY2};
+}
+
+void WriteFrom(std::span<const Letter> letters, StrokeRec& rec, DrawingSurface& sheet) {
+  if (rec.LetterNo < 1 || rec.LetterNo > std::ssize(letters)) return;
+  const Letter write = letters[static_cast<std::size_t>(rec.LetterNo - 1)];
+  if (write == nullptr) return;
+  Pen pen{rec, sheet};
+  write(rec, pen);
 }
 
 }  // namespace bramlee
