@@ -23,7 +23,11 @@ namespace bramlee {
 namespace {
 
 /// The sets that are checked; a set joins when its letters are written.
-constexpr const char* kBoards[] = {"engc", "telv"};
+constexpr const char* kBoards[] = {
+    "engc",  //
+    "engs",  //
+    "telv",  //
+};
 
 /// How far an argument may lie from the golden one: they are sums of decimal fractions.
 constexpr double kTolerance = 1e-6;
