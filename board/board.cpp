@@ -96,7 +96,7 @@ QRect Board::ReachOfAll() const {
     for (const std::int16_t alternative : {std::int16_t{0}, std::int16_t{1}}) {
       StrokeRec rec = FillStrokeRec(letters_.sheet, static_cast<std::int16_t>(tile));
       rec.AltFlag = alternative;
-      all = all.united(ReachOf(letters_, rec));
+      all = all.united(ReachOf(letters_.write, rec));
     }
   }
   return all.toAlignedRect();
@@ -112,7 +112,10 @@ void Board::FitSheet() {
 }
 
 void Board::BringIntoView(const StrokeRec& rec) {
-  QRect reach = ReachOf(letters_, rec).toAlignedRect();
+  QRect reach;
+  // A letter that cannot be written is found out when its turn to be written comes.
+  Trap(QStringLiteral("brd:12"),
+       [&](ErrInfo&) { reach = ReachOf(record_.program(*this, rec), rec).toAlignedRect(); });
   if (reach.isEmpty()) return;
   reach.adjust(-kEdge, -kEdge, kEdge, kEdge);
   // Of a letter larger than the window its beginning counts: the top left.

@@ -17,6 +17,7 @@
 
 #include "board/rules.h"
 #include "engine/stroke_rec.h"
+#include "letters/letter_sets.h"
 #include "shell/controls.h"
 
 namespace bramlee {
@@ -29,7 +30,10 @@ void NoOwnPart(Board& board, StrokeRec& rec);
 void NoOwnPart(Board& board, bool on);
 /// Asks for the letter's sound if mnuaud is checked.
 void CueIfPlayIsOn(Board& board, const StrokeRec& rec);
-/// Writes the letter, or says the record's `strangeTile` when there is none of that number.
+/// The program of the board's letter set.
+WriteLetter ProgramOfSet(const Board& board, const StrokeRec& rec);
+/// Writes the letter by its program, or says the record's `strangeTile`, if any, when there is no
+/// tile of that number.
 void WriteTile(Board& board, StrokeRec& rec);
 /// Marks that speed and writes its step to txtspd.
 void SetSpeed(Board& board, int index);
@@ -53,8 +57,8 @@ struct BoardRecord {
   RuleLines ruleLines = RuleLines::WritingBook;
   bool rulesComeBack = true;  ///< whether a group start draws the checked rule again
 
-  std::span<const int> groupStarts;  ///< tiles before which the sheet is wiped
-  const char* strangeTile;           ///< what is said of a number that is no tile
+  std::span<const int> groupStarts;   ///< tiles before which the sheet is wiped
+  const char* strangeTile = nullptr;  ///< what is said of a number that is no tile
 
   /// Makes the controls and menus that only this board has; once, with the form.
   void (*makeOwn)(Board&) = NoOwnPart;
@@ -70,6 +74,8 @@ struct BoardRecord {
   /// A tile's click, once the record is filled: flags that go into it.
   void (*prepare)(Board&, StrokeRec&) = NoOwnPart;
   void (*cue)(Board&, const StrokeRec&) = CueIfPlayIsOn;
+  /// The program that writes this record's letter.
+  WriteLetter (*program)(const Board&, const StrokeRec&) = ProgramOfSet;
   void (*write)(Board&, StrokeRec&) = WriteTile;
 
   void (*speed)(Board&, int index) = SetSpeed;  ///< mnuspd_Click

@@ -97,13 +97,18 @@ void CueIfPlayIsOn(Board& board, const StrokeRec& rec) {
   PlayCue(rec.LetterNo, CueBoardNo);
 }
 
+WriteLetter ProgramOfSet(const Board& board, const StrokeRec& /*rec*/) {
+  return board.letters().write;
+}
+
 void WriteTile(Board& board, StrokeRec& rec) {
-  const LetterSet& letters = board.letters();
-  if (rec.LetterNo < 1 || rec.LetterNo > letters.tiles) {
-    return MsgBox(QString::fromUtf8(board.record().strangeTile));
+  const BoardRecord& record = board.record();
+  if (rec.LetterNo < 1 || rec.LetterNo > board.letters().tiles) {
+    if (record.strangeTile != nullptr) MsgBox(QString::fromUtf8(record.strangeTile));
+    return;
   }
   const Sheet::Writing writing(board.sheet());
-  letters.write(rec, board.sheet());
+  record.program(board, rec)(rec, board.sheet());
 }
 
 void Board::mnudrawalt_Click() {

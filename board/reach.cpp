@@ -49,10 +49,10 @@ class KeepLastPoint {
 
 }  // namespace
 
-QRectF ReachOf(const LetterSet& letters, StrokeRec rec) {
+QRectF ReachOf(WriteLetter program, StrokeRec rec) {
   const KeepLastPoint kept;
   Bounds bounds;
-  letters.write(rec, bounds);
+  program(rec, bounds);
   return bounds.Reach();
 }
 
