@@ -16,7 +16,7 @@ inline constexpr TickArms kConsonantTick{.down = 2.2, .up = 1};
 
 /// The two-armed tick: down to the right from r left of `x` until Y reaches `y`, then up to the
 /// right. `x` becomes the end of the first arm, for strokes that hang on it.
-void HeadTick(Pen& pen, double& x, double y, double r, TickArms arms);
+void HeadTick(Pen& pen, double& x, double y, double r, TickArms arms = kConsonantTick);
 
 /// A bar to the right from `x`, 4.5 r long, and a ring of radius r below its end.
 void SideHook(Pen& pen, double x, double y, double r);

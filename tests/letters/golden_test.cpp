@@ -27,6 +27,7 @@ constexpr const char* kBoards[] = {
     "engc",  //
     "engs",  //
     "telv",  //
+    "telc",  //
 };
 
 /// How far an argument may lie from the golden one: they are sums of decimal fractions.
