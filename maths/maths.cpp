@@ -1,0 +1,7 @@
+#include "maths/maths.h"
+
+namespace bramlee {
+
+void RegisterMaths() {}
+
+}  // namespace bramlee
