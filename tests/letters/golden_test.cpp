@@ -26,6 +26,7 @@ namespace {
 constexpr const char* kBoards[] = {
     "engc",  //
     "engs",  //
+    "hinv",  //
     "telv",  //
     "telc",  //
 };
