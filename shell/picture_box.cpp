@@ -13,6 +13,20 @@ const QColor kPressedGround(0xFFE082);
 const QColor kEdge(0x90A4AE);
 const QColor kLitEdge(0xEF6C00);
 
+/// The colour that a picture stands on, so that its card can go on in it: that of its corners, if
+/// all are alike.
+QColor GroundOf(const QPixmap& picture) {
+  if (picture.isNull()) return kGround;
+  const QImage image = picture.toImage();
+  const int right = image.width() - 1;
+  const int bottom = image.height() - 1;
+  const QColor ground = image.pixelColor(0, 0);
+  const bool alike = ground == image.pixelColor(right, 0) &&
+                     ground == image.pixelColor(0, bottom) &&
+                     ground == image.pixelColor(right, bottom);
+  return alike ? ground : kGround;
+}
+
 /// How far `to` lies from `from` for an arrow key; infinity when not in its direction. Along the
 /// arrow's own axis a step counts once, off it four times, so that rows and columns are kept to.
 double Distance(QPoint from, QPoint to, int key) {
@@ -56,6 +70,7 @@ void PictureBox::SetPicture(const QString& path) {
 
 void PictureBox::SetPicture(const QPixmap& picture) {
   picture_ = picture;
+  ground_ = GroundOf(picture);
   fittedRoom_ = {};
   update();
 }
@@ -71,11 +86,11 @@ void PictureBox::Fit(QSize room) {
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const bool lit = underMouse() || hasFocus();
+  const bool lit = isEnabled() && (underMouse() || hasFocus());
   const double edge = lit ? 3 : 1;
   const QRectF card = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
   painter.setPen(QPen(lit ? kLitEdge : kEdge, edge));
-  painter.setBrush(isDown() ? kPressedGround : kGround);
+  painter.setBrush(isDown() ? kPressedGround : ground_);
   painter.drawRoundedRect(card, kRounding, kRounding);
   if (picture_.isNull()) return;
 

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QColor>
 #include <QPixmap>
 #include <QString>
 
 namespace bramlee {
 
-/// Shows its picture scaled to fit, without distortion. Answers hover, press and focus visibly;
-/// Tab reaches it, the arrow keys go on to the next picture in their direction, Space and Return
-/// press it.
+/// Shows its picture scaled to fit, without distortion, on a card of the picture's own ground.
+/// Answers hover, press and focus visibly; Tab reaches it, the arrow keys go on to the next picture
+/// in their direction, Space and Return press it. A disabled one only shows.
 class PictureBox : public QAbstractButton {
   Q_OBJECT
  public:
@@ -32,6 +33,7 @@ class PictureBox : public QAbstractButton {
   void Fit(QSize room);
 
   QPixmap picture_;
+  QColor ground_{Qt::white};
   QPixmap fitted_;    ///< the picture as it is painted
   QSize fittedRoom_;  ///< the room it was fitted to, in device pixels
 };
