@@ -6,6 +6,7 @@
 #include "board/reach.h"
 #include "shell/forms.h"
 #include "shell/numbers.h"
+#include "shell/screen.h"
 #include "shell/trap.h"
 
 namespace bramlee {
@@ -79,7 +80,11 @@ void Board::MakeControls() {
 }
 
 void Board::Form_Load() {
-  Trap(QStringLiteral("brd:01"), [this](ErrInfo&) { RunFormLoad(); });
+  Trap(QStringLiteral("brd:01"), [this](ErrInfo&) {
+    const ScreenSize screen = Screen();
+    SetOuter({.left = 0, .top = 0, .width = screen.width, .height = screen.height});
+    RunFormLoad();
+  });
 }
 
 void Board::RunFormLoad() {
@@ -230,6 +235,15 @@ QString Board::GridFlagName() {
 
 PictureBox* Board::Tile(int index) const {
   return Named<PictureBox>(Indexed("pic", index));
+}
+
+void Board::PlaceTile(int index, double left, double top, double width, double height) const {
+  Place(Tile(index), {.left = left, .top = top, .width = width, .height = height});
+}
+
+void Board::PlaceTitle(double left, double width) const {
+  Place(Named<QWidget>(QStringLiteral("txthdr1")),
+        {.left = left, .top = 60, .width = width, .height = 480});
 }
 
 void NoOwnPart(Board& /*board*/) {}

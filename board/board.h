@@ -67,6 +67,10 @@ class Board : public Form {
   /// The numeric value of a text box that keeps a flag.
   double FlagOf(const QString& textBox) const;
   PictureBox* Tile(int index) const;
+  /// Puts a tile there, in twips. The usual size leaves 50 free at a pitch of 950 by 875.
+  void PlaceTile(int index, double left, double top, double width = 900, double height = 825) const;
+  /// Puts txthdr1 above the tiles.
+  void PlaceTitle(double left, double width = 4815) const;
   /// Shows exactly those of tiles `first` to `last` for which `shown(tile)` holds.
   template <class Shown>
   void ShowTiles(int first, int last, Shown shown) {

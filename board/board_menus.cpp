@@ -28,8 +28,8 @@ void Board::MakeMenus() {
   };
 
   QMenu* file = AddMenu(text("mnufile"), text("&File"));
-  AddItem(file, text("mnublink"), text("&Blink"), [this] { mnublink_Click(); });
-  AddItem(file, text(record_.backItem), text("&Back"), [this] { mnuclose_Click(); });
+  AddCommand(file, text("mnublink"), text("&Blink"), [this] { mnublink_Click(); });
+  AddCommand(file, text(record_.backItem), text("&Back"), [this] { mnuclose_Click(); });
 
   QMenu* colours = AddMenu(text("mnucolors"), text("&Colors"));
   addArray(AddMenu(colours, text("mnugcolor1"), text("&GridColor")), "mnugcolor", kColourCaptions,
@@ -40,7 +40,7 @@ void Board::MakeMenus() {
            &Board::mnuspd_Click);
 
   QMenu* draw = AddMenu(text("mnudraw"), text("&Draw"));
-  AddItem(draw, text("mnudall"), text("&DrawAll     "), [this] { mnudall_Click(); });
+  AddCommand(draw, text("mnudall"), text("&DrawAll     "), [this] { mnudall_Click(); });
   addArray(AddMenu(draw, text("mnudlines"), text("&DrawLines")), "mnurulled", kRuleCaptions,
            &Board::mnurulled_Click);
   AddItem(draw, text("mnugrid"), text("&DrawGrid     "), [this] { mnugrid_Click(); });

@@ -85,5 +85,10 @@ struct BoardRecord {
 
 // One record a board, each in the source of its board.
 extern const BoardRecord kCapitalsBoard;
+extern const BoardRecord kSmallLettersBoard;
+extern const BoardRecord kHindiVowelsBoard;
+extern const BoardRecord kHindiConsonantsBoard;
+extern const BoardRecord kTeluguVowelsBoard;
+extern const BoardRecord kTeluguConsonantsBoard;
 
 }  // namespace bramlee

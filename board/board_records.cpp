@@ -8,7 +8,11 @@ void RegisterBoard(const BoardRecord& record) {
 }
 
 void RegisterBoards() {
-  RegisterBoard(kCapitalsBoard);
+  for (const BoardRecord* record :
+       {&kCapitalsBoard, &kSmallLettersBoard, &kHindiVowelsBoard, &kHindiConsonantsBoard,
+        &kTeluguVowelsBoard, &kTeluguConsonantsBoard}) {
+    RegisterBoard(*record);
+  }
 }
 
 }  // namespace bramlee

@@ -46,11 +46,9 @@ static_assert(std::size(kTiles) == 26);
 void LayOut(Board& board) {
   for (int i = 1; i <= 26; ++i) {
     const Corner corner = kTiles[i - 1];
-    Place(board.Tile(i),
-          {.left = 1.0 * corner.left, .top = 1.0 * corner.top, .width = 1215, .height = 615});
+    board.PlaceTile(i, corner.left, corner.top, 1215, 615);
   }
-  Place(board.Named<QWidget>(QStringLiteral("txthdr1")),
-        {.left = 240, .top = 60, .width = 4815, .height = 480});
+  board.PlaceTitle(240);
 }
 
 }  // namespace

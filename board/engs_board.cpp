@@ -1,0 +1,38 @@
+// The board of the English small letters.
+#include "board/board.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kGroupStarts[] = {1, 5, 9, 13, 17, 21, 25};
+
+constexpr int kTilesInRow = 4;
+
+void LayOut(Board& board) {
+  for (int i = 1; i <= 26; ++i) {
+    const int column = (i - 1) % kTilesInRow;
+    const int row = (i - 1) / kTilesInRow;
+    const double left = i == 23 ? 2640 : 600 + 1050 * column;  // the w stands a little aside
+    board.PlaceTile(i, left, 600 + 975 * row);
+  }
+  board.PlaceTitle(600, 4050);
+}
+
+}  // namespace
+
+const BoardRecord kSmallLettersBoard{
+    .form = "fbrmengs01",
+    .title = "English Small Letters",
+    .letterSet = "engs",
+    .cueBoardNo = 2,
+    .audioCaption = "Audio",
+    .lastTile = 26,
+    .gridExtent = kSmallExtent,
+    .ruleExtent = kSmallExtent,
+    .ruleLines = RuleLines::FirstToLast,
+    .groupStarts = kGroupStarts,
+    .strangeTile = "My Mom is Calling.I am going for CHACOLATE",
+    .layOut = LayOut,
+};
+
+}  // namespace bramlee

@@ -1,0 +1,137 @@
+// The board of the Hindi consonants: 37 letters in three sets of tiles, of which one is in use.
+#include <array>
+
+#include "board/board.h"
+#include "shell/numbers.h"
+#include "shell/trap.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kSets = 3;
+constexpr int kLetters = 37;  ///< tiles of a set
+constexpr int kTiles = kSets * kLetters;
+constexpr int kFootSet = 3;  ///< the set whose letters bear the foot stroke
+
+/// The first letters of the groups, in each set.
+constexpr auto kGroupStarts = [] {
+  constexpr int kInSet[] = {1, 5, 6, 10, 11, 15, 16, 20, 21, 25, 26, 30, 34};
+  std::array<int, kSets * std::size(kInSet)> starts{};
+  std::size_t next = 0;
+  for (int set = 0; set < kSets; ++set) {
+    for (const int letter : kInSet) starts[next++] = letter + kLetters * set;
+  }
+  return starts;
+}();
+
+int SetInUse(const Board& board) {
+  return RoundToInteger(board.FlagOf(QStringLiteral("txtsetno")));
+}
+
+/// The tile of a set's first letter.
+int FirstTileOf(int set) {
+  return 1 + kLetters * (set - 1);
+}
+
+bool AlternativesWanted(const Board& board) {
+  return board.FlagOf(QStringLiteral("txtalt")) != 0;
+}
+
+void pic1_Click(Board& board, int index) {
+  Trap(QStringLiteral("brd:20"), [&](ErrInfo&) {
+    board.SetText(QStringLiteral("txtsetno"), NumberText(index));
+    board.mnuclear1_Click();
+  });
+}
+
+void MakeOwn(Board& board) {
+  board.AddHiddenText(QStringLiteral("txtsetno"), QStringLiteral("1"));
+  for (int set = 1; set <= kSets; ++set) {
+    PictureBox* button = board.AddPicture(Indexed("pic1", set));
+    button->SetPicture(QStringLiteral(":/pictures/hinc/set%1.jpg").arg(set));
+    QObject::connect(button, &PictureBox::clicked, &board,
+                     [&board, set] { pic1_Click(board, set); });
+  }
+}
+
+/// Shows the tiles of the set in use alone, and of these only the ones with a second form while
+/// alternatives are wanted.
+void ShowTiles(Board& board) {
+  const int first = FirstTileOf(SetInUse(board));
+  const bool alternatives = AlternativesWanted(board);
+  board.ShowTiles(1, kTiles, [&](int tile) {
+    const bool inSet = tile >= first && tile < first + kLetters;
+    return inSet && (!alternatives || HasSecondForm(board.letters(), tile));
+  });
+}
+
+/// Three rows of five, which the letters from the 16th on continue further right.
+void PlaceSet(Board& board, int set) {
+  double left = 1450;
+  double top = 560;
+  for (int letter = 1; letter <= kLetters; ++letter) {
+    const int tile = FirstTileOf(set) + letter - 1;
+    board.PlaceTile(tile, left, top);
+    left += 950;
+    if (letter > 25 || letter % 5 != 0) continue;
+    left = 1450;
+    top += 875;
+    if (letter < 15) continue;
+    const TwipsRect rowEnd = PlaceOf(board.Tile(tile - 10));
+    left = rowEnd.left + 1800;
+    top = rowEnd.top;
+  }
+}
+
+void LayOut(Board& board) {
+  PlaceSet(board, SetInUse(board));
+  ShowTiles(board);
+  for (int set = 1; set <= kSets; ++set) {
+    Place(board.Named<QWidget>(Indexed("pic1", set)),
+          {.left = 100, .top = 560 + 875.0 * (set - 1), .width = 1250, .height = 825});
+  }
+  board.PlaceTitle(1450);
+}
+
+void Prepare(Board& board, StrokeRec& rec) {
+  if (!HasSecondForm(board.letters(), rec.LetterNo)) return;
+  rec.AltFlag = RoundToInteger(board.FlagOf(QStringLiteral("txtalt")));
+}
+
+void WriteWithFootStroke(StrokeRec& rec, DrawingSurface& sheet) {
+  WriteHindiConsonant(rec, sheet);
+  WriteHindiFootStroke(rec, sheet);
+}
+
+/// The foot stroke hangs on the set in use, whatever the tile.
+WriteLetter Program(const Board& board, const StrokeRec& /*rec*/) {
+  return SetInUse(board) == kFootSet ? WriteWithFootStroke : WriteHindiConsonant;
+}
+
+void DrawAll(Board& board) {
+  if (AlternativesWanted(board)) return board.mnuclear1_Click();
+  const int first = FirstTileOf(SetInUse(board));
+  for (int tile = first; tile < first + kLetters; ++tile) board.pic_Click(tile);
+}
+
+}  // namespace
+
+const BoardRecord kHindiConsonantsBoard{
+    .form = "fbrmhinc01",
+    .title = "Hindi Consonants",
+    .letterSet = "hinc",
+    .cueBoardNo = 4,
+    .backItem = "mnuback",
+    .audioCaption = "Audio",
+    .lastTile = kTiles,
+    .groupStarts = kGroupStarts,
+    .strangeTile = "My Friend is Calling.I am going for Ice-Cream",
+    .makeOwn = MakeOwn,
+    .layOut = LayOut,
+    .showTiles = ShowTiles,
+    .prepare = Prepare,
+    .program = Program,
+    .drawAll = DrawAll,
+};
+
+}  // namespace bramlee

@@ -1,0 +1,91 @@
+// The board of the Hindi vowels and the vowel signs.
+#include "board/board.h"
+#include "shell/numbers.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kGroupStarts[] = {1, 5, 8, 12, 14, 18, 21, 25};
+
+constexpr int kVowels = 13;     ///< tiles of the first row
+constexpr int kTiles = 28;      ///< vowels and signs
+constexpr int kLastTile = 36;   ///< tiles 29 to 36 are spare and never seen
+constexpr int kLine = 0;        ///< pic(0), a line of lettering that lies on the sheet
+constexpr int kShowsLine = 14;  ///< the tile that puts it there
+constexpr int kHidesLine = 18;  ///< the tile that takes it away
+
+void MakeOwn(Board& board) {
+  // Hidden here and not in the layout: a wipe leaves the line as it stands.
+  board.Tile(kLine)->hide();
+}
+
+void ShowTiles(Board& board) {
+  const bool alternatives = board.FlagOf(QStringLiteral("txtalt")) != 0;
+  board.ShowTiles(1, kTiles,
+                  [&](int tile) { return !alternatives || HasSecondForm(board.letters(), tile); });
+}
+
+void LayOut(Board& board) {
+  board.ShowTiles(kTiles + 1, kLastTile, [](int) { return false; });
+  double left = 1450;
+  double top = 560;
+  for (int i = 1; i <= kTiles; ++i) {
+    board.PlaceTile(i, left, top);
+    left += 950;
+    if (i == kVowels) {
+      left = 1450;
+      top += 875;
+    }
+  }
+  board.PlaceTitle(PlaceOf(board.Tile(5)).left + 450);
+  ShowTiles(board);
+}
+
+void Prepare(Board& board, StrokeRec& rec) {
+  if (rec.LetterNo == kHidesLine) board.Tile(kLine)->hide();
+  rec.AltFlag = RoundToInteger(board.FlagOf(QStringLiteral("txtalt")));
+}
+
+/// Lays the line over the first cell of the sheet. Its place is reckoned like a letter's, in
+/// sheet pixels.
+void ShowLine(Board& board, const StrokeRec& rec) {
+  PictureBox* line = board.Tile(kLine);
+  Place(line, {.left = kTwipsPerPixel * (rec.Col1 + 0.1 * rec.CellH),
+               .top = kTwipsPerPixel * (rec.Row2 + 0.2 * rec.CellH),
+               .width = kTwipsPerPixel * (0.95 * rec.CellW),
+               .height = kTwipsPerPixel * (0.6 * rec.CellH)});
+  line->show();
+}
+
+void Write(Board& board, StrokeRec& rec) {
+  if (rec.LetterNo == kShowsLine) return ShowLine(board, rec);
+  WriteTile(board, rec);
+}
+
+/// A pick takes away the mark that is there; only a pick without one sets a speed.
+void PickSpeed(Board& board, int index) {
+  const int marked = board.FirstChecked("mnuspd", Board::kSpeeds);
+  if (marked != 0) return board.SetChecked(Indexed("mnuspd", marked), false);
+  SetSpeed(board, index);
+}
+
+}  // namespace
+
+const BoardRecord kHindiVowelsBoard{
+    .form = "fbrmhinv01",
+    .title = "Hindi Vowels",
+    .letterSet = "hinv",
+    .cueBoardNo = 3,
+    .firstTile = kLine,
+    .lastTile = kLastTile,
+    .groupStarts = kGroupStarts,
+    .strangeTile = "My Dad is Calling.He brings me  Dolls",
+    .makeOwn = MakeOwn,
+    .layOut = LayOut,
+    .showTiles = ShowTiles,
+    .prepare = Prepare,
+    .write = Write,
+    .speed = PickSpeed,
+};
+
+}  // namespace bramlee
