@@ -1,4 +1,5 @@
 #include "board/board.h"
+#include "board/charts.h"
 #include "shell/forms.h"
 
 namespace bramlee {
@@ -13,6 +14,7 @@ void RegisterBoards() {
         &kTeluguVowelsBoard, &kTeluguConsonantsBoard}) {
     RegisterBoard(*record);
   }
+  RegisterCharts();
 }
 
 }  // namespace bramlee

@@ -1,0 +1,52 @@
+// The charts: one large picture of a whole letter set, which leads to its board.
+#pragma once
+
+#include "shell/form.h"
+
+namespace bramlee {
+
+/// What one chart differs in from the others.
+struct ChartRecord {
+  const char* form;     ///< the form's name
+  const char* title;    ///< the window's caption
+  const char* picture;  ///< resource of pic(1)
+  const char* board;    ///< form that a click shows; "" for none
+  void (*layOut)(Form&, PictureBox&);
+  bool formClicks = false;  ///< whether a click beside the picture shows the board too
+};
+
+/// A chart. Nothing in the program opens one; it stands ready for whoever names its form.
+class Chart : public Form {
+ public:
+  explicit Chart(const ChartRecord& record);
+
+  void Form_Load() override;
+  void Form_Click();
+  void pic_Click();
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  const ChartRecord& record_;
+  PictureBox* picture_;
+};
+
+// The four charts, by the names of their forms.
+struct fbrmhinv00 : Chart {
+  fbrmhinv00();
+};
+struct fbrmhinc00 : Chart {
+  fbrmhinc00();
+};
+struct fbrmtelv00 : Chart {
+  fbrmtelv00();
+};
+struct fbrmtelc00 : Chart {
+  fbrmtelc00();
+};
+
+/// Makes the charts known by their forms' names.
+void RegisterCharts();
+
+}  // namespace bramlee
