@@ -17,7 +17,7 @@ constexpr LetterSet kLetterSets[] = {
     {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .secondForms = kHindiConsonantForms, .write = WriteHindiConsonant, .footTilesFrom = 75},
     {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .secondForms = {},                   .write = WriteTeluguVowel},
     {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .secondForms = {},                   .write = WriteTeluguConsonant},
-    {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .secondForms = kNumberForms,         .write = WriteNumberTile},
+    {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .secondForms = kNumberForms,         .write = WriteNumberTile, .digits = 10},
 };
 // clang-format on
 
@@ -40,7 +40,8 @@ void WriteWholeTile(const LetterSet& set, int tile, const TileForm& form, Drawin
   StrokeRec rec = FillStrokeRec(set.sheet, static_cast<std::int16_t>(tile));
   rec.AltFlag = form.alternative ? 1 : 0;
   rec.LoopNo = static_cast<std::int16_t>(form.place);
-  set.write(rec, sheet);
+  const bool typed = form.place != 0 && set.digits != 0;
+  (typed ? WriteTypedDigit : set.write)(rec, sheet);
   if (set.footTilesFrom != 0 && tile >= set.footTilesFrom) WriteHindiFootStroke(rec, sheet);
 }
 

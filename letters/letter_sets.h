@@ -22,6 +22,7 @@ struct LetterSet {
   std::span<const int> secondForms;  ///< tiles that have an alternative form too
   WriteLetter write;
   int footTilesFrom = 0;  ///< tiles from here on bear the foot stroke too; 0 for none
+  int digits = 0;         ///< tiles 1 to this can stand in a typed number
 };
 
 /// The Hindi consonants come in three sets of this many tiles: whole letters, half forms, letters
@@ -45,6 +46,11 @@ void WriteHindiConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteTeluguVowel(StrokeRec& rec, DrawingSurface& sheet);
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet);
+
+/// A digit at its place in a typed number: in the column of LoopNo, 1 to 5, instead of its tile's
+/// own. Throws std::out_of_range for another place, before anything is written. A tile that is no
+/// digit writes nothing.
+void WriteTypedDigit(StrokeRec& rec, DrawingSurface& sheet);
 
 /// The stroke at the foot of the Hindi consonants' third set, written after the letter with the
 /// same record. A board writes it as long as it has that set in use, whatever the tile.

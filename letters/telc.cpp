@@ -33,11 +33,10 @@ void WriteKha(StrokeRec& r, Pen& pen) {
   pen.Arc(95, -270, -1, r.X1 + 43.75, r.Row2 + 26.25, 24.375);
   pen.Arc(110, -108, -1, r.X1 + 58.75, r.Row3 - 0.76875, 75);
   pen.Arc(270, 120, -1, r.X1 + 51.9375, r.Row3 + 33.1875, 39.375);
-  pen.Arc(130, 0, -1, r.X1 + 65.34375, r.Row3 + 40.3375, 53.625);
-  const double archEndX = LastX, archEndY = LastY;
+  const EndPoint arch = pen.Arc(130, 0, -1, r.X1 + 65.34375, r.Row3 + 40.3375, 53.625);
   pen.Arc(210, 347, +1, r.X1 + 162.84375, r.Row3 + 20.95, 48.75);
   pen.Arc(-20, 90, +1, r.X1 + 140.278625, r.Row3 + 3.73125, 75);
-  pen.LineDown(archEndX, archEndY, r.Row4 + 20);
+  pen.LineDown(arch.x, arch.y, r.Row4 + 20);
 }
 
 void WriteGa(StrokeRec& r, Pen& pen) {
@@ -51,14 +50,13 @@ void WriteGa(StrokeRec& r, Pen& pen) {
 void WriteGha(StrokeRec& r, Pen& pen) {
   r.X1 = r.Col4;
   r.WX1 = r.X1 + 100;
-  pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
-  const double ringEndX = LastX, ringEndY = LastY;
+  const EndPoint ring = pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
   pen.Arc(190, 346, +1, r.X1 + 120, r.Row3 + 37.5, 37.5);
   pen.Arc(332, 420, +1, r.X1 + 78, r.Row3 + 4, 89.25);
   pen.Arc(190, 346, +1, r.X1 + 195, r.Row3 + 37.5, 37.5);
   pen.Arc(335, 402, +1, r.X1 + 130, r.Row3, 112.5);
   HeadTick(pen, r.WX1, r.Row2 - 10, 56.25);
-  pen.LineDown(ringEndX, ringEndY, r.Row4 + 20);
+  pen.LineDown(ring.x, ring.y, r.Row4 + 20);
 }
 
 void WriteJa(StrokeRec& r, Pen& pen) {
@@ -95,24 +93,22 @@ void WriteJha(StrokeRec& r, Pen& pen) {
   r.WX1 = r.X1 + 125;
   pen.Arc(90, 450, +1, r.X1 + 100, r.Row2 + 75, 75);
   HeadTick(pen, r.WX1, r.Row2, 52.5);  // the rest hangs on where it leaves its X
-  pen.Arc(180, 346, +1, r.WX1 + 112.5, r.Row3 + 37.5, 37.5);
-  const double bowlEndX = LastX;
+  const EndPoint bowl = pen.Arc(180, 346, +1, r.WX1 + 112.5, r.Row3 + 37.5, 37.5);
   pen.Arc(335, 402, +1, r.WX1 + 47.5, r.Row3, 112.5);
   pen.Arc(190, 346, +1, r.WX1 + 187.5, r.Row3 + 37.5, 37.5);
   pen.Arc(335, 402, +1, r.WX1 + 122.5, r.Row3, 112.5);
-  pen.LineDown(bowlEndX, r.Row4 - 22.5, r.Row4 + 37.5);
+  pen.LineDown(bowl.x, r.Row4 - 22.5, r.Row4 + 37.5);
 }
 
 void WriteNya(StrokeRec& r, Pen& pen) {
   r.X1 = r.Col1;
-  pen.Arc(200, 0, -1, r.X1 + 75, r.Row2 + 50, 50);
-  const double archEndX = LastX, archEndY = LastY;
+  const EndPoint arch = pen.Arc(200, 0, -1, r.X1 + 75, r.Row2 + 50, 50);
   pen.Arc(180, -10, -1, r.X1 + 175, r.Row2 + 50, 50);
   pen.Arc(-5, -130, -1, r.X1 + 125, r.Row3 - 25, 100);
   pen.Arc(-120, -255, -1, r.X1 + 70, r.Row3 + 33, 20);
   pen.Arc(-240, -345, -1, r.X1 + 115, r.Row4 + 25, 100);
-  pen.LineDown(archEndX + 135, archEndY + 7.5, r.Row3);
-  pen.LineRight(archEndX + 105, r.Row3, archEndX + 165);
+  pen.LineDown(arch.x + 135, arch.y + 7.5, r.Row3);
+  pen.LineRight(arch.x + 105, r.Row3, arch.x + 165);
 }
 
 void WriteTta(StrokeRec& r, Pen& pen) {
@@ -139,12 +135,11 @@ void WriteDdaAt(double x, int loopEnd, StrokeRec& r, Pen& pen) {
   enum { Dda = 15, Ddha = 16 };
   r.WX1 = x + 153.25;
   pen.Arc(50, 185, +1, x + 113.75, r.Row2 + 100.725, 98.75);
-  pen.Arc(180, 355, +1, x + 64.375, r.Row2 + 100.725, 49.375);
-  const double bowlEndX = LastX, bowlEndY = LastY;
+  const EndPoint bowl = pen.Arc(180, 355, +1, x + 64.375, r.Row2 + 100.725, 49.375);
   pen.Arc(185, 390, +1, x + 163.125, r.Row2 + 100.725, 49.375);
   if (loopEnd != 0) pen.Arc(45, loopEnd, +1, x + 185.34375, r.Row2 + 90.85, 24.6875);
   HeadTick(pen, r.WX1, r.Row2 - 2.9625, 69.125);
-  if (r.LetterNo == Ddha) pen.LineDown(bowlEndX, bowlEndY, bowlEndY + 49.375);
+  if (r.LetterNo == Ddha) pen.LineDown(bowl.x, bowl.y, bowl.y + 49.375);
 }
 
 void WriteDda(StrokeRec& r, Pen& pen) {
@@ -230,19 +225,14 @@ void WritePa(StrokeRec& r, Pen& pen) {
          : r.LetterNo == Sa  ? r.Col3 + 25
                              : r.Col4 + 10;
   r.WX1 = r.X1 + 100;
-  if (r.LetterNo == Sa) {
-    pen.Arc(260, -10, -1, r.X1 + 45, r.Row3 + 37.5, 37.5);
-  } else {
-    pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
-  }
-  const double ringEndX = LastX, ringEndY = LastY;
-  pen.Arc(190, 346, +1, r.X1 + 120, r.Row3 + 37.5, 37.5);
-  const double bowlEndX = LastX;
+  const EndPoint ring = r.LetterNo == Sa ? pen.Arc(260, -10, -1, r.X1 + 45, r.Row3 + 37.5, 37.5)
+                                         : pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
+  const EndPoint bowl = pen.Arc(190, 346, +1, r.X1 + 120, r.Row3 + 37.5, 37.5);
   pen.Arc(332, 420, +1, r.X1 + 78, r.Row3 + 4, 89.25);
   if (r.LetterNo == Ha) SideHook(pen, LastX, r.Row2, 18.75);
   HeadTick(pen, r.WX1, r.Row2 - 10, 56.25);
-  if (r.LetterNo == Pha) pen.LineDown(ringEndX, ringEndY, ringEndY + 56.25);
-  if (r.LetterNo == Ssa) pen.LineDown(bowlEndX, r.Row4 - 20, r.Row4 + 20);
+  if (r.LetterNo == Pha) pen.LineDown(ring.x, ring.y, ring.y + 56.25);
+  if (r.LetterNo == Ssa) pen.LineDown(bowl.x, r.Row4 - 20, r.Row4 + 20);
 }
 
 void WriteBa(StrokeRec& r, Pen& pen) {
@@ -250,13 +240,12 @@ void WriteBa(StrokeRec& r, Pen& pen) {
   r.X1 = r.LetterNo == Ba ? r.Col3 : r.Col4;
   r.WX1 = r.X1 + 167.5;
   pen.Arc(180, -90, -1, r.X1 + 62.5, r.Row2 + 37.5, 37.5);
-  pen.Arc(90, 360, +1, r.X1 + 62.5, r.Row3 + 37.5, 37.5);
-  const double bowlEndX = LastX, bowlEndY = LastY;
+  const EndPoint bowl = pen.Arc(90, 360, +1, r.X1 + 62.5, r.Row3 + 37.5, 37.5);
   pen.Arc(190, 346, +1, r.X1 + 137.5, r.Row3 + 37.5, 37.5);
   pen.Arc(332, 420, +1, r.X1 + 95.5, r.Row3 + 4, 89.25);
   if (r.LetterNo == Bha) {
     HeadTick(pen, r.WX1, r.Row2, 56.25);
-    pen.LineDown(bowlEndX, bowlEndY, r.Row4 + 20);
+    pen.LineDown(bowl.x, bowl.y, r.Row4 + 20);
   }
 }
 

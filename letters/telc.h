@@ -10,7 +10,7 @@ namespace bramlee {
 /// A tile and the routine that writes its letter.
 struct TeluguConsonant {
   int tile;
-  void (*write)(StrokeRec& r, Pen& pen);
+  Letter write;
 };
 
 /// The forms that a consonant takes below another one, in telc_below.cpp.

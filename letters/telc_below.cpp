@@ -22,11 +22,10 @@ void WriteKha(StrokeRec& r, Pen& pen) {
   pen.Arc(95, -270, -1, r.X1 + 82.5, r.Row4 + 22.5, 10.5);
   pen.Arc(110, -108, -1, LastX + 6.6, LastY + 33, 33);
   pen.Arc(270, 120, -1, LastX, LastY - 15, 15);
-  pen.Arc(130, 0, -1, LastX + 12, LastY + 21.6, 24);
-  const double archEndX = LastX, archEndY = LastY;
+  const EndPoint arch = pen.Arc(130, 0, -1, LastX + 12, LastY + 21.6, 24);
   pen.Arc(210, 347, +1, LastX + 26.4, LastY - 14.4, 24);
   pen.Arc(-20, 75, +1, LastX - 39, LastY - 7.8, 39);
-  pen.LineDown(archEndX + 6, archEndY, archEndY + 12);
+  pen.LineDown(arch.x + 6, arch.y, arch.y + 12);
 }
 
 void WriteGa(StrokeRec& r, Pen& pen) {
@@ -37,13 +36,12 @@ void WriteGa(StrokeRec& r, Pen& pen) {
 
 void WriteGha(StrokeRec& r, Pen& pen) {
   r.X1 = r.Col4;
-  pen.Arc(0, 360, +1, r.X1 + 70, r.Row4 + 43.75, 18.75);
-  const double ringEndX = LastX, ringEndY = LastY;
+  const EndPoint ring = pen.Arc(0, 360, +1, r.X1 + 70, r.Row4 + 43.75, 18.75);
   pen.Arc(190, 346, +1, r.X1 + 107.5, r.Row4 + 43.75, 18.75);
   pen.Arc(332, 410, +1, LastX - 31.875, LastY - 18.75, 37.5);
   pen.Arc(190, 346, +1, r.X1 + 145, r.Row4 + 43.75, 18.75);
   pen.Arc(332, 410, +1, LastX - 31.875, LastY - 18.75, 37.5);
-  pen.LineDown(ringEndX, ringEndY, r.Row5 - 2.625);
+  pen.LineDown(ring.x, ring.y, r.Row5 - 2.625);
 }
 
 // Nga is larger than ja and dza. X1 is the middle of the left loop, X2 of the right one.
@@ -82,12 +80,11 @@ void WriteCha(StrokeRec& r, Pen& pen) {
 void WriteJha(StrokeRec& r, Pen& pen) {
   r.X1 = r.Col3;
   pen.Arc(-25, 335, +1, r.X1 + 90, r.Row4 + 37.5, 30);
-  pen.Arc(180, 346, +1, r.X1 + 135, r.Row4 + 52.5, 15);
-  const double bowlEndX = LastX, bowlEndY = LastY;
-  pen.Arc(335, 420, +1, r.X1 + 117, bowlEndY - 14.52, 36.3);
+  const EndPoint bowl = pen.Arc(180, 346, +1, r.X1 + 135, r.Row4 + 52.5, 15);
+  pen.Arc(335, 420, +1, r.X1 + 117, bowl.y - 14.52, 36.3);
   pen.Arc(190, 346, +1, r.X1 + 165, r.Row4 + 52.5, 15);
-  pen.Arc(335, 420, +1, r.X1 + 147, bowlEndY - 14.52, 36.3);
-  pen.LineDown(bowlEndX + 2, bowlEndY, bowlEndY + 20);
+  pen.Arc(335, 420, +1, r.X1 + 147, bowl.y - 14.52, 36.3);
+  pen.LineDown(bowl.x + 2, bowl.y, bowl.y + 20);
 }
 
 void WriteNya(StrokeRec& r, Pen& pen) {
@@ -120,10 +117,9 @@ void WriteDda(StrokeRec& r, Pen& pen) {
   enum { Dda = 32, Ddha = 33 };
   r.X1 = r.LetterNo == Dda ? r.Col3 + 137.325 : r.Col4 + 112.575;  // the middle
   pen.Arc(40, 185, +1, r.X1, r.Row4 + 46.575, 37.575);
-  pen.Arc(180, 360, +1, r.X1 - 18.7875, r.Row4 + 46.575, 18.7875);
-  const double bowlEndX = LastX, bowlEndY = LastY;
+  const EndPoint bowl = pen.Arc(180, 360, +1, r.X1 - 18.7875, r.Row4 + 46.575, 18.7875);
   pen.Arc(180, 370, +1, r.X1 + 18.7875, r.Row4 + 46.575, 18.7875);
-  if (r.LetterNo == Ddha) pen.LineDown(bowlEndX, bowlEndY, bowlEndY + 25);
+  if (r.LetterNo == Ddha) pen.LineDown(bowl.x, bowl.y, bowl.y + 25);
 }
 
 void WriteNna(StrokeRec& r, Pen& pen) {
@@ -144,25 +140,22 @@ void WriteDa(StrokeRec& r, Pen& pen) {
   enum { Tha = 53, Da = 54, Dha = 55 };
   r.X1 = ColumnOf(r, r.LetterNo - Tha + 2);
   pen.Arc(90, 185, +1, r.X1 + 120.625, r.Row4 + 38.125, 35);
-  pen.Arc(180, 360, +1, r.X1 + 103.125, r.Row4 + 38.125, 17.5);
-  const double bowlEndX = LastX, bowlEndY = LastY;
+  const EndPoint bowl = pen.Arc(180, 360, +1, r.X1 + 103.125, r.Row4 + 38.125, 17.5);
   pen.Arc(180, 370, +1, r.X1 + 138.125, r.Row4 + 38.125, 17.5);
   pen.Arc(0, 90, +1, r.X1 + 120.625, r.Row4 + 38.125, 35);
-  if (r.LetterNo == Tha) pen.Arc(0, 90, +1, bowlEndX, bowlEndY - 13.78125, 2.75625);
-  if (r.LetterNo != Da) pen.LineDown(bowlEndX, bowlEndY, bowlEndY + 25);
+  if (r.LetterNo == Tha) pen.Arc(0, 90, +1, bowl.x, bowl.y - 13.78125, 2.75625);
+  if (r.LetterNo != Da) pen.LineDown(bowl.x, bowl.y, bowl.y + 25);
 }
 
 // Two ways of writing na, side by side.
 void WriteNa(StrokeRec& r, Pen& pen) {
-  pen.Arc(95, -90, -1, r.Col1 + 153, r.Row4 + 7.5, 33.75);
-  r.WX1 = LastX, r.WY1 = LastY;  // the foot of the first
-  pen.Arc(260, 190, -1, r.WX1, r.WY1 - 9, 9);
-  pen.Arc(180, 0, -1, r.WX1 + 8.46, r.WY1 - 10.62, 18);
-  pen.Arc(180, 350, +1, r.WX1 + 45, r.WY1 - 18, 18);
-  pen.Arc(70, -50, -1, r.Col2 + 146.25, r.Row4 - 11.25, 56.25);
-  r.WX2 = LastX, r.WY2 = LastY;  // the foot of the second
-  pen.Arc(310, 10, -1, r.WX2 - 9.45, r.WY2 - 10.575, 13.5);
-  pen.Arc(225, 315, +1, r.WX2 + 32.4, r.WY2 - 34.2, 36);
+  const EndPoint first = pen.Arc(95, -90, -1, r.Col1 + 153, r.Row4 + 7.5, 33.75);
+  pen.Arc(260, 190, -1, first.x, first.y - 9, 9);
+  pen.Arc(180, 0, -1, first.x + 8.46, first.y - 10.62, 18);
+  pen.Arc(180, 350, +1, first.x + 45, first.y - 18, 18);
+  const EndPoint second = pen.Arc(70, -50, -1, r.Col2 + 146.25, r.Row4 - 11.25, 56.25);
+  pen.Arc(310, 10, -1, second.x - 9.45, second.y - 10.575, 13.5);
+  pen.Arc(225, 315, +1, second.x + 32.4, second.y - 34.2, 36);
 }
 
 // X1 is the middle of the ring, Y1 of ring and bowl.
@@ -173,13 +166,12 @@ void WritePa(StrokeRec& r, Pen& pen) {
          : r.LetterNo == Sa  ? r.Col3 + 168.75
                              : r.Col4 + 120;
   r.Y1 = r.LetterNo == Pa || r.LetterNo == Pha ? r.Row4 + 37.5 : r.Row4 + 18.75;
-  if (r.LetterNo == Sa) pen.Arc(260, -10, -1, r.X1, r.Y1, 18.75);
-  if (r.LetterNo != Sa) pen.Arc(0, 360, +1, r.X1, r.Y1, 18.75);
-  const double ringEndX = LastX, ringEndY = LastY;
+  const EndPoint ring = r.LetterNo == Sa ? pen.Arc(260, -10, -1, r.X1, r.Y1, 18.75)
+                                         : pen.Arc(0, 360, +1, r.X1, r.Y1, 18.75);
   pen.Arc(190, 346, +1, r.X1 + 37.5, r.Y1, 18.75);
   if (r.LetterNo != Ha) pen.Arc(332, 435, +1, r.X1 + 3.75, r.Y1 - 24, 60);
   if (r.LetterNo == Ha) pen.Arc(332, 400, +1, r.X1 + 24, r.Y1 - 15, 37.5);
-  if (r.LetterNo == Pha) pen.LineDown(ringEndX, ringEndY, ringEndY + 25);
+  if (r.LetterNo == Pha) pen.LineDown(ring.x, ring.y, ring.y + 25);
   if (r.LetterNo == Ha) SideHook(pen, LastX + 3.75, r.Row4 - 22.5, 9.375);
 }
 
@@ -187,11 +179,10 @@ void WriteBa(StrokeRec& r, Pen& pen) {
   enum { Ba = 59, Bha = 60 };
   r.X1 = r.LetterNo == Ba ? r.Col3 : r.Col4;
   pen.Arc(180, -90, -1, r.X1 + 191.875, r.Row4 + 3.75, 18.75);
-  pen.Arc(90, 360, +1, r.X1 + 191.875, r.Row4 + 41.25, 18.75);
-  const double bowlEndX = LastX, bowlEndY = LastY;
+  const EndPoint bowl = pen.Arc(90, 360, +1, r.X1 + 191.875, r.Row4 + 41.25, 18.75);
   pen.Arc(190, 346, +1, r.X1 + 229.375, r.Row4 + 41.25, 18.75);
   pen.Arc(332, 435, +1, r.X1 + 191.875, r.Row4 + 22.5, 60);
-  if (r.LetterNo == Bha) pen.LineDown(bowlEndX, bowlEndY, bowlEndY + 28.125);
+  if (r.LetterNo == Bha) pen.LineDown(bowl.x, bowl.y, bowl.y + 28.125);
 }
 
 // Two ways of writing ma, side by side.
@@ -243,19 +234,17 @@ void WriteVa(StrokeRec& r, Pen& pen) {
 
 void WriteSha(StrokeRec& r, Pen& pen) {
   r.X1 = r.Col1;
-  pen.Arc(145, 25, -1, r.X1 + 170.625, r.Row4 + 26.25, 26.25);
-  const double archEndX = LastX, archEndY = LastY;
-  pen.Arc(40, -265, -1, archEndX - 15, archEndY + 13.125, 18.75);
-  pen.Arc(-90, 85, +1, archEndX - 15, archEndY - 43.125, 37.5);
+  const EndPoint arch = pen.Arc(145, 25, -1, r.X1 + 170.625, r.Row4 + 26.25, 26.25);
+  pen.Arc(40, -265, -1, arch.x - 15, arch.y + 13.125, 18.75);
+  pen.Arc(-90, 85, +1, arch.x - 15, arch.y - 43.125, 37.5);
 }
 
 // Two ways of writing ssa, side by side.
 void WriteSsa(StrokeRec& r, Pen& pen) {
   pen.Arc(0, 360, +1, r.Col1 + 168.75, r.Row4 + 37.5, 18.75);
-  pen.Arc(190, 346, +1, r.Col1 + 206.25, r.Row4 + 37.5, 18.75);
-  const double bowlEndX = LastX, bowlEndY = LastY;
+  const EndPoint bowl = pen.Arc(190, 346, +1, r.Col1 + 206.25, r.Row4 + 37.5, 18.75);
   pen.Arc(332, 390, +1, r.Col1 + 202.125, r.Row4 + 27, 26.25);
-  pen.LineDown(bowlEndX + 5, bowlEndY, bowlEndY + 20);
+  pen.LineDown(bowl.x + 5, bowl.y, bowl.y + 20);
   pen.Arc(140, 350, +1, r.Col1 + 324.25, r.Row4 + 28.125, 22.5);
   pen.Arc(190, 400, +1, r.Col1 + 369.25, r.Row4 + 28.125, 22.5);
   pen.LineDown(LastX + 5, LastY + 5, LastY + 47.25);

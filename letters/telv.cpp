@@ -263,7 +263,6 @@ void WriteVirama(StrokeRec& r, Pen& pen) {
 }
 
 // Letters that differ by a stroke or a column share a routine.
-using Letter = void (*)(StrokeRec&, Pen&);
 constexpr Letter kLetters[] = {
     WriteA,             // 1 అ
     WriteAa,            // 2 ఆ
@@ -307,9 +306,7 @@ static_assert(std::size(kLetters) == 36);
 }  // namespace
 
 void WriteTeluguVowel(StrokeRec& rec, DrawingSurface& sheet) {
-  if (rec.LetterNo < 1 || rec.LetterNo > 36) return;
-  Pen pen{rec, sheet};
-  kLetters[rec.LetterNo - 1](rec, pen);
+  WriteFrom(kLetters, rec, sheet);
 }
 
 }  // namespace bramlee

@@ -29,6 +29,7 @@ constexpr const char* kBoards[] = {
     "hinv",  //
     "telv",  //
     "telc",  //
+    "mat",   //
 };
 
 /// How far an argument may lie from the golden one: they are sums of decimal fractions.
