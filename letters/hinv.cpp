@@ -1,6 +1,7 @@
 // Hindi vowels and vowel signs. A letter hangs from a bar at Y1 (325) and is 150 high; what
 // stands above the bar goes up from Y1, what hangs below the foot goes down from Y2 (475). X1
 // places the letter in its cell: the anchors of all tiles stand in one table at the end.
+#include "letters/hindi_shapes.h"
 #include "letters/letter_sets.h"
 #include "letters/pen.h"
 
@@ -65,10 +66,7 @@ void WriteAAa(StrokeRec& r, Pen& pen) {
 
 void WriteIIi(StrokeRec& r, Pen& pen) {
   enum { I = 3, Ii = 4 };
-  pen.LineDown(r.X1, r.Y1, r.Y1 + 22.5);
-  pen.LineLeft(r.X1 - 28.5, r.Y1 + 22.5, r.X1);
-  pen.Arc(90, 270, +1, r.X1 - 28.5, r.Y1 + 50.25, 27.75);
-  const EndPoint bowl = pen.Arc(90, -150, -1, r.X1 - 28.5, r.Y1 + 115.05, 36);
+  const EndPoint bowl = WriteHook(r, pen).lower;
   pen.SlantRight(60, bowl.x, bowl.y, bowl.y + 36);
   pen.LineRight(r.X1 - 55.5, r.Y1, r.X1 + 27.75);
   if (r.LetterNo == Ii) pen.Arc(250, 70, -1, r.X1 + 5.625, r.Y1 - 26.25, 26.25);

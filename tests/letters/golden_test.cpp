@@ -27,6 +27,7 @@ constexpr const char* kBoards[] = {
     "engc",  //
     "engs",  //
     "hinv",  //
+    "hinc",  //
     "telv",  //
     "telc",  //
     "mat",   //
