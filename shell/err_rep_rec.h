@@ -1,0 +1,24 @@
+// One record of the error report's file.
+#pragma once
+
+#include <QByteArray>
+
+#include "shell/record_codec.h"
+
+namespace bramlee {
+
+inline constexpr int kErrRepRecLen = 150;
+
+struct ErrRepRec {
+  std::int32_t ErrCount = 0;  ///< highest record used; valid in record 1
+  FixedText<20> ErrSerial;
+  FixedText<100> ErrMessage;
+  FixedText<26> ErrStamp;  ///< always blank
+};
+
+/// The record in those bytes, which must be kErrRepRecLen. Any bytes are a record.
+ErrRepRec DecodeErrRep(const QByteArray& bytes);
+/// The record's bytes; those of a decoded record are the ones it came from.
+QByteArray EncodeErrRep(const ErrRepRec& rec);
+
+}  // namespace bramlee

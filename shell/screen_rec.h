@@ -1,0 +1,30 @@
+// The sizes that the shell's forms lay themselves out by.
+#pragma once
+
+#include <cstdint>
+
+namespace bramlee {
+
+class Form;
+
+/// Filled anew by each form of the shell when it loads. All lengths in twips.
+struct ScreenRec {
+  std::int32_t ScrH = 0;  ///< the screen's height, a thousandth short
+  std::int32_t ScrW = 0;  ///< the screen's width, a thousandth short
+  std::int32_t UnitH = 0;
+  std::int32_t UnitW = 0;
+  std::int32_t WorkH = 0;
+  std::int32_t MarginW = 0;
+  std::int32_t MarginH = 0;
+  std::int32_t WorkW = 0;
+  std::uint8_t ScaleFlag = 0;  ///< passed on by the forms, read by nothing
+};
+
+/// Fills the record from the screen. A size too large for its field is reported, and the record
+/// then stays as it was. Tag "com1:01".
+void FillScreenRec(ScreenRec& rec);
+
+/// Gives the form that outer size, in twips, in the middle of the screen.
+void CentreOnScreen(Form& form, double width, double height);
+
+}  // namespace bramlee
