@@ -25,7 +25,7 @@ void fcomsav1::Form_Load() {
     setProperty("ScaleFlag", screen.ScaleFlag);
     const double width = screen.ScrW * 1.8 / 3;
     const double height = screen.ScrH / 6.0;
-    CentreOnScreen(*this, width, height);
+    CentreOnScreen(width, height);
     Place(
         Named<Label>(QStringLiteral("lbl1")),
         {.left = width / 10, .top = height * 3 / 8, .width = width * 8 / 10, .height = height / 4});

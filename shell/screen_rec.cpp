@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "shell/form.h"
 #include "shell/numbers.h"
 #include "shell/report.h"
 #include "shell/screen.h"
@@ -42,14 +41,6 @@ void FillScreenRec(ScreenRec& rec) {
   Trap(
       QStringLiteral("com1:01"), [&](ErrInfo&) { rec = RecOf(Screen()); },
       [](ErrInfo& err) { ReportError(err); });
-}
-
-void CentreOnScreen(Form& form, double width, double height) {
-  const ScreenSize screen = Screen();
-  form.SetOuter({.left = (screen.width - width) / 2,
-                 .top = (screen.height - height) / 2,
-                 .width = width,
-                 .height = height});
 }
 
 }  // namespace bramlee

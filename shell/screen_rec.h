@@ -5,8 +5,6 @@
 
 namespace bramlee {
 
-class Form;
-
 /// Filled anew by each form of the shell when it loads. All lengths in twips.
 struct ScreenRec {
   std::int32_t ScrH = 0;  ///< the screen's height, a thousandth short
@@ -23,8 +21,5 @@ struct ScreenRec {
 /// Fills the record from the screen. A size too large for its field is reported, and the record
 /// then stays as it was. Tag "com1:01".
 void FillScreenRec(ScreenRec& rec);
-
-/// Gives the form that outer size, in twips, in the middle of the screen.
-void CentreOnScreen(Form& form, double width, double height);
 
 }  // namespace bramlee
