@@ -24,6 +24,10 @@ namespace bramlee {
 
 class Board;
 
+// The grounds of the boards' sheets.
+inline constexpr ColourWord kCapitalsGround = 0x00FFFFC0;
+inline constexpr ColourWord kGround = 0x00E0E0E0;  ///< of all but the capitals
+
 // The ways most boards do it; a record names another where its board differs.
 void NoOwnPart(Board& board);
 void NoOwnPart(Board& board, StrokeRec& rec);
@@ -44,7 +48,7 @@ void DrawAllTiles(Board& board);
 struct BoardRecord {
   const char* form;                     ///< the form's name
   const char* title;                    ///< text of txthdr1 and the window's caption
-  ColourWord backColor = 0x00E0E0E0;    ///< of the sheet
+  ColourWord backColor = kGround;       ///< of the sheet
   const char* letterSet;                ///< name of its letters, of its pictures' folder too
   std::int16_t cueBoardNo;              ///< its number among the sound sets
   const char* backItem = "mnuclose";    ///< name of "&Back"

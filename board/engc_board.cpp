@@ -56,7 +56,7 @@ void LayOut(Board& board) {
 const BoardRecord kCapitalsBoard{
     .form = "fbrmengc02",
     .title = "English Capital Letters",
-    .backColor = 0x00FFFFC0,
+    .backColor = kCapitalsGround,
     .letterSet = "engc",
     .cueBoardNo = 1,
     .lastTile = 26,

@@ -1,0 +1,51 @@
+// bramlee-strokes: tells what the program of a letter does.
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "tools/strokes/pictures.h"
+#include "tools/strokes/report.h"
+#include "tools/strokes/request.h"
+
+namespace bramlee {
+namespace {
+
+enum ExitStatus { kDone = 0, kFailed = 1, kBadArguments = 2 };
+
+ExitStatus Fail(ExitStatus status, const QString& error) {
+  std::fprintf(stderr, "bramlee-strokes: %s\n", qPrintable(error.simplified()));
+  return status;
+}
+
+ExitStatus Print(const std::string& text) {
+  const bool printed =
+      std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
+  return printed ? kDone : Fail(kFailed, QStringLiteral("the output cannot be written"));
+}
+
+ExitStatus DrawPictures(const Request& request) {
+  const QString error = request.svg.isEmpty() ? QString() : WriteSvg(request);
+  if (!error.isEmpty()) return Fail(kFailed, error);
+  const QString second = request.png.isEmpty() ? QString() : WritePng(request);
+  return second.isEmpty() ? kDone : Fail(kFailed, second);
+}
+
+ExitStatus Run(const QStringList& arguments) {
+  const Parsed parsed = ParseArguments(arguments);
+  if (!parsed.error.isEmpty()) return Fail(kBadArguments, parsed.error);
+  if (!parsed.text.isEmpty()) return Print(parsed.text.toStdString());
+  const Request& request = parsed.request;
+  if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
+  for (int tile = request.firstTile; tile <= request.lastTile; ++tile) {
+    const ExitStatus status = Print(StrokesAsJson(request, tile));
+    if (status != kDone) return status;
+  }
+  return kDone;
+}
+
+}  // namespace
+}  // namespace bramlee
+
+int main(int argc, char** argv) {
+  const QCoreApplication app(argc, argv);
+  return bramlee::Run(QCoreApplication::arguments());
+}

@@ -1,0 +1,202 @@
+#include "tools/strokes/request.h"
+
+#include <QCommandLineParser>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace bramlee {
+namespace {
+
+/// Below this a coordinate of a few hundred pixels grows so slowly that a letter takes hours, and
+/// a little further down not at all: it would never end.
+constexpr double kLeastStep = 1e-6;
+
+constexpr double kLeastScale = 0.1;
+constexpr double kLargestScale = 8;
+
+/// A number that takes up the whole text.
+template <class Number>
+std::optional<Number> NumberIn(const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  Number number{};
+  const auto [end, error] = std::from_chars(bytes.begin(), bytes.end(), number);
+  if (error != std::errc() || end != bytes.end()) return std::nullopt;
+  return number;
+}
+
+QString SetName(const LetterSet& set) {
+  return QString::fromUtf8(set.name.data(), static_cast<qsizetype>(set.name.size()));
+}
+
+QString BoardNames() {
+  QStringList names;
+  for (const LetterSet& set : LetterSets()) names.append(SetName(set));
+  return names.join(u' ');
+}
+
+struct Options {
+  QCommandLineOption alt{QStringLiteral("alt"), QStringLiteral("The letters' alternative forms.")};
+  QCommandLineOption place{QStringLiteral("place"),
+                           QStringLiteral("A digit at place N, 1 to 5, of a typed number."),
+                           QStringLiteral("N")};
+  QCommandLineOption step{
+      QStringLiteral("step"),
+      QStringLiteral("Pixels between the dots of a line, degrees between those of an arc. "
+                     "Without it 0.01."),
+      QStringLiteral("S")};
+  QCommandLineOption svg{QStringLiteral("svg"),
+                         QStringLiteral("Write the letter to FILE as an SVG picture."),
+                         QStringLiteral("FILE")};
+  QCommandLineOption png{QStringLiteral("png"),
+                         QStringLiteral("Write the letter to FILE as a PNG picture."),
+                         QStringLiteral("FILE")};
+  QCommandLineOption scale{QStringLiteral("scale"),
+                           QStringLiteral("N pixels of the PNG to a pixel of the sheet, 0.1 to 8."),
+                           QStringLiteral("N")};
+};
+
+/// Reads a command line part by part; each part gives an error, or an empty text.
+class Reader {
+ public:
+  explicit Reader(const QStringList& arguments) {
+    parser_.setApplicationDescription(
+        QStringLiteral(
+            "Tells what the program of a letter does: its strokes with their arguments, one JSON\n"
+            "object a line and tile, or as a picture. Without TILE it tells every tile.\n"
+            "BOARD is one of: %1")
+            .arg(BoardNames()));
+    parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."));
+    parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."),
+                                  QStringLiteral("[TILE]"));
+    parser_.addOptions({options_.alt, options_.place, options_.step, options_.svg, options_.png,
+                        options_.scale, help_, version_});
+    parsed_ = parser_.parse(arguments);
+    rest_ = parser_.positionalArguments();
+  }
+
+  Parsed Read() {
+    if (!parsed_) return {.request = {}, .text = {}, .error = parser_.errorText()};
+    if (parser_.isSet(help_)) return {.request = {}, .text = parser_.helpText(), .error = {}};
+    if (parser_.isSet(version_)) {
+      return {.request = {},
+              .text = QStringLiteral("bramlee-strokes " BRAMLEE_VERSION "\n"),
+              .error = {}};
+    }
+    for (const auto part : {&Reader::ReadBoard, &Reader::ReadTile, &Reader::ReadForm,
+                            &Reader::ReadPlace, &Reader::ReadStep, &Reader::ReadPictures}) {
+      const QString error = (this->*part)();
+      if (!error.isEmpty()) return {.request = {}, .text = {}, .error = error};
+    }
+    return {.request = request_, .text = {}, .error = {}};
+  }
+
+ private:
+  QString ReadBoard() {
+    if (rest_.isEmpty()) return QStringLiteral("no board is named: %1").arg(BoardNames());
+    if (rest_.size() > 2) return QStringLiteral("one argument too many: %1").arg(rest_.at(2));
+    request_.set = FindLetterSet(rest_.at(0).toStdString());
+    if (request_.set != nullptr) return {};
+    return QStringLiteral("no board \"%1\": %2").arg(rest_.at(0), BoardNames());
+  }
+
+  QString ReadTile() {
+    request_.lastTile = request_.set->tiles;
+    if (rest_.size() < 2) return {};
+    const auto tile = NumberIn<int>(rest_.at(1));
+    if (!tile || *tile < 1 || *tile > request_.set->tiles) {
+      return QStringLiteral("no tile \"%1\": %2 has tiles 1 to %3")
+          .arg(rest_.at(1), SetName(*request_.set))
+          .arg(request_.set->tiles);
+    }
+    request_.firstTile = request_.lastTile = *tile;
+    return {};
+  }
+
+  QString ReadForm() {
+    request_.form.alternative = parser_.isSet(options_.alt);
+    if (!request_.form.alternative || !request_.set->secondForms.empty()) return {};
+    return QStringLiteral("--alt: %1 has no alternative forms").arg(SetName(*request_.set));
+  }
+
+  QString ReadPlace() {
+    if (!parser_.isSet(options_.place)) return {};
+    const QString text = parser_.value(options_.place);
+    const int digits = request_.set->digits;
+    if (digits == 0) return QStringLiteral("--place: %1 has no digits").arg(SetName(*request_.set));
+    if (request_.firstTile > digits) {
+      return QStringLiteral("--place: tile %1 is no digit, these are 1 to %2")
+          .arg(request_.firstTile)
+          .arg(digits);
+    }
+    const auto place = NumberIn<int>(text);
+    if (!place || *place < 1 || *place > 5) {
+      return QStringLiteral("--place: \"%1\" is no place from 1 to 5").arg(text);
+    }
+    request_.form.place = *place;
+    request_.lastTile = std::min(request_.lastTile, digits);
+    return {};
+  }
+
+  QString ReadStep() {
+    if (!parser_.isSet(options_.step)) return {};
+    const QString text = parser_.value(options_.step);
+    const auto step = NumberIn<double>(text);
+    if (!step || !std::isfinite(*step) || *step <= 0) {
+      return QStringLiteral("--step: \"%1\" is no number greater than 0").arg(text);
+    }
+    if (*step < kLeastStep) {
+      return QStringLiteral("--step: with \"%1\" it would never end, the least is 0.000001")
+          .arg(text);
+    }
+    request_.step = *step;
+    return {};
+  }
+
+  QString ReadPictures() {
+    for (const auto& [option, file] :
+         {std::pair(&options_.svg, &request_.svg), std::pair(&options_.png, &request_.png)}) {
+      if (!parser_.isSet(*option)) continue;
+      const QString name = option->names().constFirst();
+      *file = parser_.value(*option);
+      if (file->isEmpty()) return QStringLiteral("--%1: the file has no name").arg(name);
+      if (request_.firstTile == request_.lastTile) continue;
+      return QStringLiteral("--%1: a picture shows one letter, name its tile").arg(name);
+    }
+    return ReadScale();
+  }
+
+  QString ReadScale() {
+    if (!parser_.isSet(options_.scale)) return {};
+    if (request_.png.isEmpty()) return QStringLiteral("--scale: goes with --png");
+    const QString text = parser_.value(options_.scale);
+    const auto scale = NumberIn<double>(text);
+    if (!scale || !(*scale >= kLeastScale && *scale <= kLargestScale)) {
+      return QStringLiteral("--scale: \"%1\" is no number from 0.1 to 8").arg(text);
+    }
+    request_.scale = *scale;
+    return {};
+  }
+
+  QCommandLineParser parser_;
+  const Options options_;
+  const QCommandLineOption help_{
+      {QStringLiteral("h"), QStringLiteral("help")},
+      QStringLiteral("This help.")
+  };
+  const QCommandLineOption version_{
+      {QStringLiteral("v"), QStringLiteral("version")},
+      QStringLiteral("The version.")
+  };
+  bool parsed_ = false;
+  QStringList rest_;
+  Request request_;
+};
+
+}  // namespace
+
+Parsed ParseArguments(const QStringList& arguments) {
+  return Reader(arguments).Read();
+}
+
+}  // namespace bramlee

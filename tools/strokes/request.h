@@ -1,0 +1,34 @@
+// What bramlee-strokes was asked for.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "letters/letter_sets.h"
+
+namespace bramlee {
+
+/// A request that can be carried out.
+struct Request {
+  const LetterSet* set = nullptr;
+  int firstTile = 1;
+  int lastTile = 1;
+  TileForm form;
+  double step = 0.01;
+  QString svg;       ///< the file for the letter as SVG; empty for none
+  QString png;       ///< the file for the letter as PNG; empty for none
+  double scale = 1;  ///< of the PNG: its pixels to a sheet pixel
+};
+
+/// What the arguments come to: a text to print (help, version), an error of one line, or, when
+/// both are empty, a request.
+struct Parsed {
+  Request request;
+  QString text;
+  QString error;
+};
+
+/// Reads a command line; its first element is the program's name.
+Parsed ParseArguments(const QStringList& arguments);
+
+}  // namespace bramlee
