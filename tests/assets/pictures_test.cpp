@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <algorithm>
+#include <map>
+
+#include "letters/letter_sets.h"
+
+namespace bramlee {
+namespace {
+
+QString Path(const LetterSet& set, int tile) {
+  return QStringLiteral(":/pictures/%1/%2.jpg").arg(QString::fromLatin1(set.name.data())).arg(tile);
+}
+
+/// Whether a part of the picture stands out clearly from its commonest shade.
+bool HasInk(const QImage& picture) {
+  int shades[256] = {};
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) ++shades[qGray(picture.pixel(x, y))];
+  }
+  const auto ground = std::ranges::max_element(shades) - std::begin(shades);
+  int inked = 0;
+  for (int shade = 0; shade < 256; ++shade) {
+    if (std::abs(shade - ground) > 60) inked += shades[shade];
+  }
+  return inked > picture.width() * picture.height() / 200;
+}
+
+class TilePictures : public testing::TestWithParam<LetterSet> {};
+
+TEST_P(TilePictures, AreThereInFourfoldSizeWithInkAndAllDiffer) {
+  const LetterSet& set = GetParam();
+  const QSize size = set.name == "engc" ? QSize(324, 164) : QSize(240, 220);
+  std::map<QByteArray, int> seen;
+  for (int tile = 1; tile <= set.tiles; ++tile) {
+    if (set.name == "hinv" && tile == 14) continue;
+    const QImage picture(Path(set, tile));
+    ASSERT_EQ(picture.size(), size) << set.name << ' ' << tile;
+    EXPECT_TRUE(HasInk(picture)) << set.name << ' ' << tile;
+    const QByteArray bytes(reinterpret_cast<const char*>(picture.constBits()),
+                           picture.sizeInBytes());
+    const auto [twin, fresh] = seen.emplace(bytes, tile);
+    EXPECT_TRUE(fresh) << set.name << ' ' << tile << " looks like " << twin->second;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(EverySet, TilePictures,
+                         testing::ValuesIn(LetterSets().begin(), LetterSets().end()),
+                         [](const auto& set) { return std::string(set.param.name); });
+
+TEST(TilePictures, LeaveTheTileOfTheLetteringWithoutOne) {
+  EXPECT_FALSE(QFile::exists(QStringLiteral(":/pictures/hinv/14.jpg")));
+  const QImage lettering(QStringLiteral(":/pictures/hinv/0.jpg"));
+  EXPECT_EQ(lettering.size(), QSize(952, 180));  // four times 238 by 45
+  EXPECT_TRUE(HasInk(lettering));
+}
+
+TEST(Pictures, AreThereForSubjectsChartsSignsAndCard) {
+  QStringList names;
+  for (int subject = 1; subject <= 7; ++subject) {
+    names.append(QStringLiteral("home/%1.jpg").arg(subject));
+  }
+  for (const char* set : {"hinv", "hinc", "telv", "telc"}) {
+    names.append(QStringLiteral("charts/%1.jpg").arg(QString::fromLatin1(set)));
+  }
+  for (int button = 1; button <= 3; ++button) {
+    names.append(QStringLiteral("hinc/set%1.jpg").arg(button));
+  }
+  for (int sign = 11; sign <= 15; ++sign) names.append(QStringLiteral("mat/sign%1.jpg").arg(sign));
+  names.append({QStringLiteral("mat/equal.jpg"), QStringLiteral("mat/table.jpg"),
+                QStringLiteral("card/idcard.jpg"), QStringLiteral("card/school.jpg"),
+                QStringLiteral("bramlee.png")});
+  for (const QString& name : names) {
+    const QImage picture(QStringLiteral(":/pictures/") + name);
+    ASSERT_FALSE(picture.isNull()) << name.toStdString();
+    EXPECT_TRUE(HasInk(picture)) << name.toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace bramlee
