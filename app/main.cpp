@@ -1,5 +1,6 @@
 // The program.
 #include <QApplication>
+#include <QIcon>
 
 #include "board/board.h"
 #include "maths/maths.h"
@@ -9,10 +10,13 @@
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("bramlee"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/bramlee.png")));
   QApplication::setQuitOnLastWindowClosed(false);
   bramlee::RegisterShell();
   bramlee::RegisterBoards();
   bramlee::RegisterMaths();
-  bramlee::ShowForm(QStringLiteral("fbrmengc02"));
-  return QApplication::exec();
+  bramlee::ShowForm(QStringLiteral("fbrmsta1"));
+  const int status = QApplication::exec();
+  bramlee::DestroyForms();
+  return status;
 }

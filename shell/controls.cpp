@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace bramlee {
 
@@ -65,6 +66,19 @@ ColourWord BackColorOf(const QWidget* control) {
 
 ColourWord ForeColorOf(const QWidget* control) {
   return WordOf(control->palette().color(TextRole(control)));
+}
+
+void FitFont(QLabel* label, QFont font, QSize room) {
+  const auto fits = [&](int pixels) {
+    font.setPixelSize(pixels);
+    const QFontMetrics metrics(font);
+    return metrics.height() <= room.height() &&
+           metrics.horizontalAdvance(label->text()) <= room.width();
+  };
+  int pixels = std::max(room.height(), 1);
+  while (pixels > 1 && !fits(pixels)) --pixels;
+  font.setPixelSize(pixels);
+  label->setFont(font);
 }
 
 Label::Label(const QString& text, QWidget* parent) : QLabel(parent) {

@@ -46,6 +46,9 @@ void SetForeColor(QWidget* control, ColourWord colour);
 ColourWord BackColorOf(const QWidget* control);
 ColourWord ForeColorOf(const QWidget* control);
 
+/// Gives the label that font, as large as lets its text stand in a room of that size, in pixels.
+void FitFont(QLabel* label, QFont font, QSize room);
+
 /// A label that can be clicked.
 class Label : public QLabel {
   Q_OBJECT

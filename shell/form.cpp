@@ -23,6 +23,10 @@ void Form::SetClient(QWidget* client, QWidget* scroller) {
   setCentralWidget(scroller != nullptr ? scroller : client);
 }
 
+void Form::SetGround(ColourWord colour) const {
+  if (auto* ground = dynamic_cast<Ground*>(client_)) ground->SetBackColor(colour);
+}
+
 void Form::Present() {
   if (frame_ != nullptr) {
     frame_->Present();

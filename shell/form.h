@@ -31,6 +31,9 @@ class Form : public QMainWindow {
 
   Kind kind() const { return kind_; }
 
+  /// Colours the client, unless the form has put another than the plain one in its place.
+  void SetGround(ColourWord colour) const;
+
   /// Where the controls stand. Its origin is the form's: below the menu bar.
   QWidget* client() const { return client_; }
 

@@ -1,0 +1,35 @@
+// The home form: the seven subjects, the drive that the media lie on, the way to the card and out.
+#pragma once
+
+#include "shell/form.h"
+#include "shell/screen_rec.h"
+
+namespace bramlee {
+
+class fbrmhom1 : public Form {
+  Q_OBJECT
+ public:
+  fbrmhom1();
+
+  /// Lays the form out and chooses drive C:. Tag "603:01"; an error is told and reported.
+  void Form_Load() override;
+  /// Tag "601:23"; an error is told.
+  void LayOut(const ScreenRec& rec);
+
+  /// Shows the subject's board.
+  void pic_Click(int index);
+  /// Shows the subject's board and, but for the first, hands it the drive.
+  void lbl1_Click(int index);
+  void mnudrv_Click(int index);
+  void mnuback_Click();
+  void mnubiodata_Click();
+  /// Tag "603:02".
+  void mnuexit_Click();
+
+ private:
+  void MakeTitle();
+  void MakeSubjects();
+  void MakeMenus();
+};
+
+}  // namespace bramlee

@@ -1,0 +1,47 @@
+// The start form: a moving title, and the way on to the home form.
+#pragma once
+
+#include <cstdint>
+
+#include "shell/form.h"
+
+namespace bramlee {
+
+class fbrmsta1 : public Form {
+  Q_OBJECT
+ public:
+  fbrmsta1();
+
+  /// Lays the form out, makes drive C: current and sees to its folder "bramlee". Tag "601:02".
+  void Form_Load() override;
+  /// The program has no other way in: closing it is its "&Exit".
+  void CloseAsked() override;
+
+  /// A click anywhere on the form starts. Tag "601:01".
+  void Form_Click();
+  void mnustart_Click();  ///< Tag "601:03".
+  void mnuexit_Click();
+  /// The switch in front of the home form. Tag "601:06".
+  void mnupp_Click(int index);
+  /// Two lines of the title pass each other. Tag "601:04".
+  void tmr1_Timer();
+  /// The third line walks in a circle. Tag "601:05".
+  void tmr2_Timer();
+
+  std::int32_t cnt() const { return cnt_; }
+  double angle() const { return angle_; }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void MakeMenus();
+  void LayOut();
+  Label* Line(int index) const;
+
+  std::int32_t cnt_ = 0;
+  double angle_ = 0;
+};
+
+}  // namespace bramlee
