@@ -9,18 +9,17 @@
 namespace bramlee {
 namespace {
 
-constexpr int kLetterCount = 37;
 constexpr int kSets = 3;
 
 /// A full stem is this long.
 constexpr double kHeight = 150;
 
 int LetterOf(const StrokeRec& r) {
-  return (r.LetterNo - 1) % kLetterCount + 1;
+  return (r.LetterNo - 1) % kHindiSetTiles + 1;
 }
 
 int SetOf(const StrokeRec& r) {
-  return (r.LetterNo - 1) / kLetterCount + 1;
+  return (r.LetterNo - 1) / kHindiSetTiles + 1;
 }
 
 bool IsHalf(const StrokeRec& r) {
@@ -355,12 +354,12 @@ constexpr Anchors kLetters[] = {
     {WriteJnya,          900,    {1032.5, 150}, {907.5, 150},    kNone,        kNone,           {4, 0.24}},  // 37 jnya ज्ञ
 };
 // clang-format on
-static_assert(std::size(kLetters) == kLetterCount);
+static_assert(std::size(kLetters) == kHindiSetTiles);
 
 }  // namespace
 
 void WriteHindiConsonant(StrokeRec& rec, DrawingSurface& sheet) {
-  if (rec.LetterNo < 1 || rec.LetterNo > kSets * kLetterCount) return;
+  if (rec.LetterNo < 1 || rec.LetterNo > kSets * kHindiSetTiles) return;
   if (!HasSecondForm(*FindLetterSet("hinc"), rec.LetterNo)) rec.AltFlag = 0;
   const Anchors& letter = kLetters[LetterOf(rec) - 1];
   const Extent& stem = IsHalf(rec) ? letter.halfStem : letter.stem;

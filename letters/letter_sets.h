@@ -63,7 +63,7 @@ struct TileForm {
 };
 
 /// Writes all that belongs to one tile from a fresh record, as its board does on a click: for
-/// uses without a board.
+/// uses without a board. A tile outside the set writes nothing.
 void WriteWholeTile(const LetterSet& set, int tile, const TileForm& form, DrawingSurface& sheet);
 
 }  // namespace bramlee

@@ -49,10 +49,8 @@ EndPoint Pen::SlantUpRight(double angle, double x, double y, double limitY) {
 
 void WriteFrom(std::span<const Letter> letters, StrokeRec& rec, DrawingSurface& sheet) {
   if (rec.LetterNo < 1 || rec.LetterNo > std::ssize(letters)) return;
-  const Letter write = letters[static_cast<std::size_t>(rec.LetterNo - 1)];
-  if (write == nullptr) return;
   Pen pen{rec, sheet};
-  write(rec, pen);
+  letters[static_cast<std::size_t>(rec.LetterNo - 1)](rec, pen);
 }
 
 }  // namespace bramlee

@@ -10,12 +10,14 @@ namespace bramlee {
 struct Dot {
   float x;
   float y;
+  bool operator==(const Dot&) const = default;
 };
 
 struct RecordedRun {
   Primitive primitive;
   std::vector<double> arguments;
   int dots = 0;
+  bool operator==(const RecordedRun&) const = default;
 };
 
 /// Remembers every dot and every run.
