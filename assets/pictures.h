@@ -23,7 +23,7 @@ struct Subject {
 /// The subjects in the order of the home form.
 std::span<const Subject> Subjects();
 
-/// The tile's letter, as large as `place` allows, its strokes `width` wide.
+/// The tile's letter, as large as `place` allows, its strokes at most `width` wide.
 void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRectF& place,
                 double width);
 

@@ -9,10 +9,8 @@ namespace {
 /// The letters that stand for a subject.
 std::vector<int> Emblem(const Subject& subject) {
   if (subject.letterSet == "mat") return {1, 11, 2};
-  if (subject.letterSet == "telc") return {1, 2, 3};
-  if (subject.letterSet == "telv") return {1, 3};
-  if (subject.letterSet.starts_with("hin")) return {1, 3};
-  return {1, 2, 3};
+  if (subject.letterSet.starts_with("eng")) return {1, 2, 3};
+  return {1, 3};
 }
 
 }  // namespace

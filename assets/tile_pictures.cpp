@@ -17,9 +17,9 @@ const Subject kSubjects[] = {
     {"engc", {324, 164}, QColor(0xC62828), QColor(0xFFF6F0), 7 },
     {"engs", kTile,      QColor(0xAD3A8C), QColor(0xFDF3FA), 7 },
     {"hinv", kTile,      QColor(0x1565C0), QColor(0xF1F7FE), 7 },
-    {"hinc", kTile,      QColor(0x00695C), QColor(0xEFF9F6), 12},
+    {"hinc", kTile,      QColor(0x00695C), QColor(0xEFF9F6), 10},
     {"telv", kTile,      QColor(0x6A1B9A), QColor(0xF8F2FC), 9 },
-    {"telc", kTile,      QColor(0x9E4A00), QColor(0xFFF7EC), 12},
+    {"telc", kTile,      QColor(0x9E4A00), QColor(0xFFF7EC), 13},
     {"mat",  kTile,      QColor(0x2E7D32), QColor(0xF2FAF0), 6 },
 };
 
@@ -53,12 +53,15 @@ void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRect
   const double scale =
       std::min({room.width() / std::max(bounds.width(), 1.0),
                 room.height() / std::max(bounds.height(), 1.0), 1.4 * room.height() / kFullHeight});
+  // Nor is a letter drawn with a much broader pen than on the sheet: its loops would fill up.
+  constexpr double kBroadest = 16;  // sheet pixels; the pen itself is 10
+  const double pen = std::clamp(kBroadest * scale, width * 0.42, width);
   painter.save();
   painter.translate(room.center());
   painter.scale(scale, scale);
   painter.translate(-bounds.center());
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(subject.ink, width / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(subject.ink, pen / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPath(path);
   painter.restore();
 }
@@ -106,7 +109,7 @@ QImage LetteringPicture() {
   QImage image = Blank({952, 180}, Qt::white);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के कै को"),
+  DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के"),
               QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignCenter, QColor(0x1565C0));
   return image;
 }
