@@ -4,6 +4,7 @@
 
 #include "board/board.h"
 #include "maths/maths.h"
+#include "media/media.h"
 #include "shell/forms.h"
 #include "shell/shell.h"
 
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/bramlee.png")));
   QApplication::setQuitOnLastWindowClosed(false);
   bramlee::RegisterShell();
+  bramlee::RegisterMedia();
   bramlee::RegisterBoards();
   bramlee::RegisterMaths();
   bramlee::ShowForm(QStringLiteral("fbrmsta1"));

@@ -1,7 +1,26 @@
 #include "media/play_media_file.h"
 
+#include "media/windows_media_player.h"
+#include "shell/drives.h"
+#include "shell/form.h"
+#include "shell/forms.h"
+#include "shell/message_box.h"
+#include "shell/numbers.h"
+#include "shell/trap.h"
+
 namespace bramlee {
 
-void PlayMediaFile(const QString& /*path*/) {}
+void PlayMediaFile(const QString& path) {
+  Trap(QStringLiteral("1207:220"), [&path](ErrInfo& err) {
+    err.ErrText = QStringLiteral("File Not Found: ( %1 )").arg(Trim(path));
+    if (FileMissing(path)) MsgBox(err.ErrText);
+    // Named only now: while the box stood, the countdown may have unloaded the form.
+    const Form* form = LoadForm(QStringLiteral("f1207vid"));
+    if (form == nullptr) return;  // all forms are being unloaded
+    auto* player = form->Named<WindowsMediaPlayer>(QStringLiteral("WindowsMediaPlayer1"));
+    player->SetURL(Trim(path));
+    player->Play();
+  });
+}
 
 }  // namespace bramlee

@@ -1,0 +1,43 @@
+// Shows clips with pictures.
+#pragma once
+
+#include <QMediaPlayer>
+#include <QString>
+#include <QWidget>
+
+class QAudioOutput;
+class QVideoWidget;
+
+namespace bramlee {
+
+/// The place in which a clip shows, black while none does. Its player is made by the first Play
+/// and made anew after every failure, since one that failed stays silent for the next good file.
+class ClipPlayer : public QWidget {
+  Q_OBJECT
+ public:
+  explicit ClipPlayer(QWidget* parent = nullptr);
+  ~ClipPlayer() override;
+
+  /// Plays the clip of that system path from its start; one that cannot be played stays dark.
+  void Play(const QString& file);
+  void Stop();
+  bool Playing() const;
+
+  void SetRate(double rate);
+  void SetMute(bool mute);
+  void SetStretchToFit(bool stretch);
+
+ private:
+  void MakePlayer();
+  void LetGoOfPlayer();
+  void TakeRate(QMediaPlayer::MediaStatus status);
+
+  QMediaPlayer* player_ = nullptr;
+  QAudioOutput* output_ = nullptr;
+  QVideoWidget* picture_ = nullptr;
+  double rate_ = 1;
+  bool mute_ = false;
+  bool stretch_ = false;
+};
+
+}  // namespace bramlee

@@ -1,0 +1,56 @@
+// The media player that stands on f1207vid.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include "media/sound_engine.h"
+
+namespace bramlee {
+
+class ClipPlayer;
+
+/// Plays one file at a time and returns from every call at once; what cannot be played is silent
+/// and dark. Sounds go to the sound engine, clips with pictures show in this widget. Nothing is
+/// loaded for either before the first Play. When it is destroyed, its sound stops.
+class WindowsMediaPlayer : public QWidget {
+  Q_OBJECT
+ public:
+  explicit WindowsMediaPlayer(QWidget* parent = nullptr);
+  ~WindowsMediaPlayer() override;
+
+  /// The path of what Play plays, as the program names files. A new one, the same again too,
+  /// ends what is playing and starts nothing.
+  const QString& URL() const { return url_; }
+  void SetURL(const QString& path);
+
+  // --- controls
+  /// From the start. While it is playing, nothing.
+  void Play();
+  void Stop();
+  bool Playing() const;
+
+  // --- settings; they stay from file to file
+  /// 1 is as recorded. What is not greater than 0 is passed over.
+  double Rate() const { return rate_; }
+  void SetRate(double rate);
+  bool Mute() const { return mute_; }
+  void SetMute(bool mute);
+
+  /// Whether a picture fills the place also where that distorts it.
+  bool StretchToFit() const { return stretchToFit_; }
+  void SetStretchToFit(bool stretch);
+
+ private:
+  void MakeButtons(QWidget* strip);
+  void SoundEnded(int number);
+
+  QString url_;
+  double rate_ = 1;
+  bool mute_ = false;
+  bool stretchToFit_ = false;
+  int sound_ = 0;  ///< the engine's number of the sound that is playing, 0 for none
+  ClipPlayer* clip_;
+};
+
+}  // namespace bramlee
