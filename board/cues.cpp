@@ -1,10 +1,108 @@
 #include "board/cues.h"
 
+#include <iterator>
+
+#include "media/play_media_file.h"
+#include "shell/drives.h"
+#include "shell/form.h"
+#include "shell/forms.h"
+#include "shell/message_box.h"
+#include "shell/numbers.h"
+#include "shell/trap.h"
+
 namespace bramlee {
 
 std::int16_t CueBoardNo = 0;
 
-std::int16_t PlayCue(std::int16_t /*letterNo*/, std::int16_t /*cueBoardNo*/) {
+namespace {
+
+constexpr int kFormats = 4;
+
+/// How the letter's part of a file's name reads.
+enum class LetterPart : std::uint8_t { Character, Number };
+
+/// One set of sounds.
+struct CueSet {
+  const char* prefix;    ///< folder and beginning of the file's name
+  const char* board;     ///< the form whose checked format and drive count
+  const char* captions;  ///< the form whose format items give the extension
+  LetterPart part;
+};
+
+// The small letters ask the capitals' board, and the Hindi vowels take their captions there.
+constexpr CueSet kCueSets[] = {
+    {R"(\bramlee\aud\engc\eng-)",      "fbrmengc02", "fbrmengc02", LetterPart::Character},
+    {R"(\bramlee\aud\engs\eng-)",      "fbrmengc02", "fbrmengc02", LetterPart::Character},
+    {R"(\bramlee\aud\hin\hinv\hinv-)", "fbrmhinv01", "fbrmengc02", LetterPart::Number   },
+    {R"(\bramlee\aud\hin\hinc\hinc-)", "fbrmhinc01", "fbrmhinc01", LetterPart::Number   },
+    {R"(\bramlee\aud\tel\telv\telv-)", "fbrmtelv01", "fbrmtelv01", LetterPart::Number   },
+    {R"(\bramlee\aud\tel\telc\telc-)", "fbrmtelc01", "fbrmtelc01", LetterPart::Number   },
+    {R"(\bramlee\aud\mat\mat-)",       "fbrmmat01",  "fbrmmat01",  LetterPart::Number   },
+};
+
+constexpr std::int16_t kMathsSet = 7;
+/// Whole numbers, in the place of the maths board's tiles while its txtaud is not 0.
+constexpr char kNumbersPrefix[] = R"(\bramlee\aud\mat\matc\mat-)";
+
+const Form* Loaded(const char* name) {
+  const Form* form = LoadForm(QString::fromLatin1(name));
+  if (form == nullptr) throw TrappedError(QStringLiteral("no form of that name"));
+  return form;
+}
+
+QString Extension(const Form* board, const Form* captions) {
+  const auto caption = [captions](int i) {
+    return CaptionOf(captions->Named<QAction>(Indexed("mnufor", i)));
+  };
+  for (int i = 1; i <= kFormats; ++i) {
+    if (board->Named<QAction>(Indexed("mnufor", i))->isChecked()) return caption(i);
+  }
+  return caption(1);
+}
+
+QString Prefix(std::int16_t cueBoardNo, const Form* board) {
+  const bool numbers = cueBoardNo == kMathsSet && Val(board->TextOf(QStringLiteral("txtaud"))) != 0;
+  return QString::fromLatin1(numbers ? kNumbersPrefix : kCueSets[cueBoardNo - 1].prefix);
+}
+
+QString LetterText(const CueSet& set, std::int16_t letterNo) {
+  if (set.part == LetterPart::Number) return QString::number(letterNo);
+  QString letter;
+  if (CueLetterChar(letterNo, letter) != 0) {
+    throw TrappedError(QStringLiteral("no letter of that number"));
+  }
+  return letter;
+}
+
+}  // namespace
+
+std::int16_t CueLetterChar(std::int16_t letterNo, QString& text) {
+  if (letterNo < 1 || letterNo > 26) return 1;
+  text = QChar(u'a' + letterNo - 1);
+  return 0;
+}
+
+std::int16_t CuePath(std::int16_t letterNo, std::int16_t cueBoardNo, QString& path) {
+  path.clear();
+  if (cueBoardNo < 1 || cueBoardNo > std::ssize(kCueSets)) return 0;
+  const CueSet& set = kCueSets[cueBoardNo - 1];
+  const bool built = Trap({}, [&](ErrInfo&) {
+    const Form* captions = Loaded(set.captions);
+    const Form* board = Loaded(set.board);
+    path = Trim(board->TextOf(QStringLiteral("txtdrv"))) + Trim(Prefix(cueBoardNo, board)) +
+           LetterText(set, letterNo) + Trim(Extension(board, captions));
+  });
+  return built ? 0 : 1;
+}
+
+std::int16_t PlayCue(std::int16_t letterNo, std::int16_t cueBoardNo) {
+  QString path;
+  if (CuePath(letterNo, cueBoardNo, path) != 0) return 1;
+  if (FileMissing(path)) {
+    MsgBox(Trim(path) + QStringLiteral(" Not Found: "));
+  } else {
+    PlayMediaFile(path);
+  }
   return 0;
 }
 

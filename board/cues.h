@@ -1,15 +1,27 @@
 // Sound cues: one file on the media drive for each letter of each board.
 #pragma once
 
+#include <QString>
 #include <cstdint>
 
 namespace bramlee {
 
-/// The set number of the board that asks for a cue. A board stores it just before the call.
+/// The set number of the board that asks for a cue, 1 to 7. A board stores it just before the
+/// call.
 extern std::int16_t CueBoardNo;
 
 /// Builds the name of the letter's sound file and hands it to the player; a missing file gives
-/// a message and no sound. Returns 1 when building the name failed, else 0.
+/// the message "path Not Found: " and no sound. An unknown set number has an empty path, which
+/// counts as missing. Returns 1 when building the name failed, with no message, else 0.
 std::int16_t PlayCue(std::int16_t letterNo, std::int16_t cueBoardNo);
+
+/// The complete path of the letter's sound file into `path`: drive and format as the boards' menus
+/// stand now. What the set reads from another board loads that board unseen. `path` stays empty
+/// for an unknown set number. Returns 1 when the letter has no name or no form to read from, else
+/// 0; `path` is then empty.
+std::int16_t CuePath(std::int16_t letterNo, std::int16_t cueBoardNo, QString& path);
+
+/// 1 to 26 gives "a" to "z" and returns 0; any other number returns 1 and leaves `text` alone.
+std::int16_t CueLetterChar(std::int16_t letterNo, QString& text);
 
 }  // namespace bramlee
