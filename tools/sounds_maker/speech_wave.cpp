@@ -1,0 +1,137 @@
+#include "tools/sounds_maker/speech_wave.h"
+
+#include <QtEndian>
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace bramlee {
+namespace {
+
+constexpr double kFullScale = 32767;
+const double kAverage = kFullScale * std::pow(10, -20.0 / 20);
+const double kPeak = kFullScale * std::pow(10, -1.0 / 20);
+/// What is not louder is silence: half a per cent of full scale.
+constexpr int kSilence = 164;
+
+// In milliseconds. The decoders of .mp3 and .wma give up to 32 ms of silence of their own before
+// a sound, so its own may only be short for a sound to begin within 50 ms; there must be some, as
+// other players leave those 32 ms out.
+constexpr int kAheadMs = 16;
+constexpr int kBehindMs = 60;
+constexpr int kKeptMs = 5;  ///< of what was cut off, for a soft beginning
+constexpr int kFadeInMs = 3;
+constexpr int kFadeOutMs = 10;
+
+constexpr qsizetype kRiffHeader = 12;
+constexpr qsizetype kChunkHeader = 8;
+constexpr qsizetype kFormatLength = 16;
+
+std::uint32_t Number32(const QByteArray& bytes, qsizetype at) {
+  return qFromLittleEndian<std::uint32_t>(bytes.constData() + at);
+}
+
+std::uint16_t Number16(const QByteArray& bytes, qsizetype at) {
+  return qFromLittleEndian<std::uint16_t>(bytes.constData() + at);
+}
+
+void Append32(QByteArray& bytes, std::size_t number) {
+  const std::uint32_t little = qToLittleEndian(static_cast<std::uint32_t>(number));
+  bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
+}
+
+void Append16(QByteArray& bytes, int number) {
+  const std::uint16_t little = qToLittleEndian(static_cast<std::uint16_t>(number));
+  bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
+}
+
+std::size_t Samples(const SpeechWave& wave, int ms) {
+  return static_cast<std::size_t>(wave.rate) * static_cast<std::size_t>(ms) / 1000;
+}
+
+/// The speech from its first loud sample to its last, with a little of what is around it.
+std::vector<std::int16_t> Spoken(const SpeechWave& speech) {
+  const auto loud = [](std::int16_t sample) { return std::abs(int{sample}) > kSilence; };
+  const auto& all = speech.samples;
+  const auto first = std::find_if(all.begin(), all.end(), loud);
+  if (first == all.end()) return {};
+  const auto last = std::find_if(all.rbegin(), all.rend(), loud).base();
+  const auto kept = static_cast<std::ptrdiff_t>(Samples(speech, kKeptMs));
+  return {first - std::min(kept, first - all.begin()), last + std::min(kept, all.end() - last)};
+}
+
+double LevelGain(const std::vector<std::int16_t>& samples) {
+  double squares = 0;
+  double peak = 0;
+  for (const std::int16_t sample : samples) {
+    squares += 1.0 * sample * sample;
+    peak = std::max(peak, std::abs(1.0 * sample));
+  }
+  const double average = std::sqrt(squares / static_cast<double>(samples.size()));
+  return std::min(kAverage / average, kPeak / peak);
+}
+
+}  // namespace
+
+std::optional<SpeechWave> ReadWave(const QByteArray& file) {
+  if (!file.startsWith("RIFF") || file.mid(8, 4) != "WAVE") return {};
+  SpeechWave wave;
+  for (qsizetype at = kRiffHeader; at + kChunkHeader <= file.size();) {
+    const QByteArray name = file.mid(at, 4);
+    const qsizetype length = Number32(file, at + 4);
+    at += kChunkHeader;
+    if (name == "fmt " && length >= kFormatLength && at + kFormatLength <= file.size()) {
+      const bool plain = Number16(file, at) == 1 && Number16(file, at + 2) == 1;
+      if (!plain || Number16(file, at + 14) != 16) return {};
+      wave.rate = static_cast<int>(Number32(file, at + 4));
+    } else if (name == "data") {
+      const qsizetype end = std::min(length, file.size() - at);
+      for (qsizetype i = 0; i + 2 <= end; i += 2) {
+        wave.samples.push_back(static_cast<std::int16_t>(Number16(file, at + i)));
+      }
+      break;
+    }
+    at += length + length % 2;
+  }
+  if (wave.rate <= 0 || wave.samples.empty()) return {};
+  return wave;
+}
+
+QByteArray WriteWave(const SpeechWave& wave) {
+  const std::size_t bytes = wave.samples.size() * 2;
+  QByteArray file("RIFF");
+  Append32(file, 36 + bytes);
+  file += "WAVEfmt ";
+  Append32(file, kFormatLength);
+  Append16(file, 1);  // plain samples
+  Append16(file, 1);  // channels
+  Append32(file, static_cast<std::size_t>(wave.rate));
+  Append32(file, static_cast<std::size_t>(wave.rate) * 2);
+  Append16(file, 2);   // bytes a sample
+  Append16(file, 16);  // bits a sample
+  file += "data";
+  Append32(file, bytes);
+  for (const std::int16_t sample : wave.samples) Append16(file, sample);
+  return file;
+}
+
+SpeechWave MakeCue(const SpeechWave& speech) {
+  std::vector<std::int16_t> spoken = Spoken(speech);
+  if (spoken.empty()) return {.rate = speech.rate, .samples = {}};
+  const double gain = LevelGain(spoken);
+  const double fadeIn = static_cast<double>(Samples(speech, kFadeInMs));
+  const double fadeOut = static_cast<double>(Samples(speech, kFadeOutMs));
+  for (std::size_t i = 0; i < spoken.size(); ++i) {
+    const double begun = static_cast<double>(i + 1) / fadeIn;
+    const double left = static_cast<double>(spoken.size() - i) / fadeOut;
+    const double level = gain * std::min({1.0, begun, left});
+    spoken[i] = static_cast<std::int16_t>(std::lround(spoken[i] * level));
+  }
+  SpeechWave cue{.rate = speech.rate,
+                 .samples = std::vector<std::int16_t>(Samples(speech, kAheadMs))};
+  cue.samples.insert(cue.samples.end(), spoken.begin(), spoken.end());
+  cue.samples.insert(cue.samples.end(), Samples(speech, kBehindMs), 0);
+  return cue;
+}
+
+}  // namespace bramlee

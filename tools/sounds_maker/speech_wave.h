@@ -1,0 +1,28 @@
+// Speech as it comes from the synthesiser, made ready to be a cue.
+#pragma once
+
+#include <QByteArray>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace bramlee {
+
+/// Speech of one channel, 16 bits a sample.
+struct SpeechWave {
+  int rate = 0;  ///< samples a second
+  std::vector<std::int16_t> samples;
+};
+
+/// Reads a .wav file of one channel and 16 bits. Nothing for any other file.
+std::optional<SpeechWave> ReadWave(const QByteArray& file);
+
+/// The .wav file of that speech.
+QByteArray WriteWave(const SpeechWave& wave);
+
+/// Takes the silence off both ends, brings the speech to -20 dB on the average with no peak above
+/// -1 dB, softens its ends and puts a short silence around it. Speech that is silence throughout
+/// comes back empty.
+SpeechWave MakeCue(const SpeechWave& speech);
+
+}  // namespace bramlee
