@@ -1,7 +1,0 @@
-#include "maths/maths.h"
-
-namespace bramlee {
-
-void RegisterMaths() {}
-
-}  // namespace bramlee

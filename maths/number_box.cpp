@@ -1,0 +1,85 @@
+#include "maths/number_box.h"
+
+#include "board/cues.h"
+#include "shell/numbers.h"
+#include "shell/trap.h"
+
+namespace bramlee {
+namespace {
+
+constexpr ColourWord kBlack = 0;
+constexpr ColourWord kRed = 0xFF;
+constexpr int kLastEntry = 100;
+constexpr qsizetype kLongestWritten = 4;
+
+/// Low enough to leave the signs beneath it, whose pictures stand in the middle of their tiles,
+/// whole. In twips.
+constexpr double kHeight = 450;
+constexpr int kLetterPixels = 20;
+
+Combo* NumberBox(const Board& board) {
+  return board.Named<Combo>(QStringLiteral("cmb(0)"));
+}
+
+/// The tile that bears the digit.
+int TileOf(QChar digit) {
+  return digit == u'0' ? 10 : digit.digitValue();
+}
+
+void SpeakWhole(Board& board, const QString& text) {
+  CueBoardNo = board.record().cueBoardNo;
+  PlayCue(RoundToInteger(Val(text)), CueBoardNo);
+}
+
+/// Each digit is a click of its tile, told its place. A tile that wipes forgets the place with
+/// the wipe and writes where it would by itself.
+void WriteDigits(Board& board, const QString& text) {
+  const Sheet::Writing writing(board.sheet());
+  for (int place = 1; place <= text.size(); ++place) {
+    const QChar digit = text[place - 1];
+    if (!digit.isDigit()) continue;
+    board.SetText(QStringLiteral("txtalt3"), QStringLiteral("3"));
+    board.SetText(QStringLiteral("txtaltno"), QString::number(place));
+    board.SetText(QStringLiteral("txtaud"), QStringLiteral("1"));
+    board.pic_Click(TileOf(digit));
+    board.SetText(QStringLiteral("txtalt"), QStringLiteral("0"));
+  }
+}
+
+}  // namespace
+
+void MakeNumberBox(Board& board) {
+  Combo* box = board.AddCombo(QStringLiteral("cmb(0)"));
+  for (int i = 0; i <= kLastEntry; ++i) box->addItem(QString::number(i));
+  box->setCurrentIndex(-1);
+  box->clearEditText();
+  QFont font = box->font();
+  font.setPixelSize(kLetterPixels);
+  box->setFont(font);
+  box->setAccessibleName(QStringLiteral("Number to write"));
+  SetBackColor(box, 0xFFFFFF);
+  SetForeColor(box, kBlack);
+  QObject::connect(box, &Combo::Picked, &board, [&board] { NumberBox_Click(board); });
+  QObject::connect(box, &Combo::Entered, &board, [&board] { NumberBox_Click(board); });
+}
+
+void LayOutNumberBox(Board& board) {
+  const TwipsRect plus = PlaceOf(board.Tile(11));
+  Place(NumberBox(board), {.left = plus.left,
+                           .top = plus.top,
+                           .width = 3.5 * PlaceOf(board.Tile(10)).width,
+                           .height = kHeight});
+}
+
+void NumberBox_Click(Board& board) {
+  Trap(QStringLiteral("mat:01"), [&board](ErrInfo&) {
+    SetForeColor(NumberBox(board), kBlack);
+    const QString text = NumberBox(board)->currentText();
+    if (!IsNumeric(text)) return SetForeColor(NumberBox(board), kRed);
+    board.SetText(QStringLiteral("txtaud"), QStringLiteral("1"));
+    if (board.Checked(QStringLiteral("mnuaud"))) SpeakWhole(board, text);
+    if (text.size() <= kLongestWritten) WriteDigits(board, text);
+  });
+}
+
+}  // namespace bramlee

@@ -1,0 +1,17 @@
+// Multiplication tables: twenty rows of text for a chosen number.
+#pragma once
+
+#include "board/board.h"
+
+namespace bramlee {
+
+/// Makes pict, hidden. After the drills' row, whose first number and result box it uses.
+void MakeTablePicture(Board& board);
+
+/// "&ShowTables" with "&Tables" in that menu.
+void MakeTableMenu(Board& board, QMenu* menu);
+
+/// pict_Click: the table of the number in cmb(16), of 0 for a text that is none.
+void pict_Click(Board& board);
+
+}  // namespace bramlee
