@@ -1,28 +1,52 @@
 #include "board/sheet.h"
 
+#include <QGuiApplication>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
+#include <cmath>
+#include <utility>
 
 #include "shell/numbers.h"
 
 namespace bramlee {
+namespace {
 
-Sheet::Sheet(QWidget* parent)
-    : QWidget(parent), dots_(1400, 900, QImage::Format_ARGB32_Premultiplied) {
-  dots_.fill(Qt::transparent);
+bool& Paced() {
+  static bool paced = QGuiApplication::platformName() != QStringLiteral("offscreen");
+  return paced;
 }
 
-Sheet::~Sheet() = default;
+}  // namespace
 
-void Sheet::PSet(float x, float y) {
-  QPainter painter(&dots_);
-  painter.setBrush(ColourOf(foreColor_));
-  painter.setPen(Qt::NoPen);
-  painter.drawEllipse(QPointF(static_cast<double>(x), static_cast<double>(y)), 5, 5);
+Sheet::Sheet(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-double Sheet::Step() const {
-  return stepBox_ == nullptr ? 0.01 : Val(stepBox_->text());
+void Sheet::SetPaced(bool paced) {
+  Paced() = paced && QGuiApplication::platformName() != QStringLiteral("offscreen");
+}
+
+void Sheet::EndRun() {
+  ink_.EndRun();
+  if (writing_ == 0) update();
+}
+
+void Sheet::SetStepBox(QLineEdit* txtspd) {
+  stepBox_ = txtspd;
+  connect(stepBox_, &QLineEdit::textChanged, this, &Sheet::TakeStep);
+  TakeStep(stepBox_->text());
+}
+
+void Sheet::TakeStep(const QString& text) {
+  const double step = Val(text);
+  if (!IsNumeric(text) || !std::isfinite(step) || step < kSmallestStep) {
+    stepBox_->setText(stepText_);
+    return;
+  }
+  stepText_ = text;
+  ink_.SetStep(step);
 }
 
 void Sheet::SetBackColor(ColourWord colour) {
@@ -31,19 +55,75 @@ void Sheet::SetBackColor(ColourWord colour) {
 }
 
 void Sheet::Wipe() {
-  dots_.fill(Qt::transparent);
+  ink_.Wipe();
   update();
 }
 
-Sheet::Writing::Writing(Sheet& sheet) : sheet_(sheet) {}
-Sheet::Writing::~Writing() {
-  sheet_.update();
+Sheet::Writing::Writing(Sheet& sheet) : sheet_(sheet) {
+  if (sheet_.writing_++ == 0) sheet_.BeginWriting();
 }
 
-void Sheet::paintEvent(QPaintEvent* /*event*/) {
+Sheet::Writing::~Writing() {
+  if (--sheet_.writing_ == 0) sheet_.EndWriting();
+}
+
+void Sheet::BeginWriting() {
+  if (!Paced() || !isVisible()) return;
+  pace_.Begin(screen()->refreshRate());
+  dotsToFrame_ = pace_.DotsPerFrame();
+}
+
+void Sheet::EndWriting() {
+  ink_.EndRun();
+  const std::int64_t dotsToFrame = std::exchange(dotsToFrame_, kNever);
+  if (dotsToFrame > pace_.DotsPerFrame()) return update();  // no pace was kept
+  ShowNewDots();
+  Rest(pace_.DotsPerFrame() - dotsToFrame);
+}
+
+void Sheet::EndFrame() {
+  if (pace_.FrameIsDue()) {
+    ShowNewDots();
+    LetWindowsLive();
+  }
+  Rest(pace_.DotsPerFrame());
+  dotsToFrame_ = pace_.DotsPerFrame();
+}
+
+void Sheet::Rest(std::int64_t dots) {
+  if (!EndIsAwaited()) pace_.Rest(dots);
+}
+
+void Sheet::ShowNewDots() {
+  const QRect dirty = Refresh();
+  if (dirty.isEmpty()) return;
+  const double ratio = devicePixelRatioF();
+  repaint(
+      QRectF(dirty.x() / ratio, dirty.y() / ratio, dirty.width() / ratio, dirty.height() / ratio)
+          .toAlignedRect());
+}
+
+/// Brings what is shown up to date; returns what has changed, in device pixels.
+QRect Sheet::Refresh() {
+  const double ratio = devicePixelRatioF();
+  ink_.Cover(rect(), ratio);
+  QRect dirty = ink_.TakeDirty();
+  if (shown_.size() != ink_.CoveredSize()) {
+    shown_ = QImage(ink_.CoveredSize(), QImage::Format_RGB32);
+    shownGround_.reset();
+  }
+  if (shownGround_ != backColor_) dirty = shown_.rect();
+  shownGround_ = backColor_;
+  shown_.setDevicePixelRatio(ratio);
+  ink_.Compose(shown_, dirty, backColor_);
+  return dirty;
+}
+
+void Sheet::paintEvent(QPaintEvent* event) {
+  Refresh();
   QPainter painter(this);
-  painter.fillRect(rect(), backColor_);
-  painter.drawImage(0, 0, dots_);
+  painter.setClipRegion(event->region());
+  painter.drawImage(0, 0, shown_);
 }
 
 }  // namespace bramlee

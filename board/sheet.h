@@ -1,37 +1,62 @@
 // The sheet of a board: the surface that letters are written on, dot by dot.
 #pragma once
 
+#include <QImage>
+#include <QString>
 #include <QWidget>
+#include <cstdint>
+#include <limits>
+#include <optional>
 
+#include "board/ink.h"
+#include "board/pace.h"
 #include "engine/drawing_surface.h"
 #include "shell/controls.h"
+#include "shell/held_input.h"
 
 class QLineEdit;
 
 namespace bramlee {
 
 /// A board's client area as a drawing surface, in logical pixels from its top left. Tiles stand
-/// on it as child widgets; strokes run behind them.
-class Sheet : public QWidget, public DrawingSurface {
+/// on it as child widgets; strokes run behind them. What was written stays through resizes,
+/// scrolling and other pixel ratios, also where it lies outside of the window.
+class Sheet final : public QWidget, public DrawingSurface {
  public:
   explicit Sheet(QWidget* parent = nullptr);
-  ~Sheet() override;
 
-  void PSet(float x, float y) override;
-  double Step() const override;
+  void PSet(float x, float y) override {
+    ink_.PSet(x, y);
+    if (--dotsToFrame_ == 0) EndFrame();
+  }
+  double Step() const override { return ink_.Step(); }
+  void BeginRun(Primitive primitive, std::span<const double> arguments) override {
+    ink_.BeginRun(primitive, arguments);
+  }
+  void EndRun() override;
 
-  /// The text box whose numeric value is the step; without one it is 0.01.
-  void SetStepBox(const QLineEdit* txtspd) { stepBox_ = txtspd; }
+  /// The text box whose numeric value is the step; without one it is 0.01. From now on the box
+  /// refuses a text that is no finite number of kSmallestStep or more: it goes back to the text
+  /// that it had, or to "0.01", so that no other step ever reaches a run.
+  void SetStepBox(QLineEdit* txtspd);
+
+  /// A smaller step could leave a coordinate as it is, and the run would never end.
+  static constexpr double kSmallestStep = 1e-6;
 
   void SetBackColor(ColourWord colour);
-  ColourWord ForeColor() const { return foreColor_; }
-  void SetForeColor(ColourWord colour) { foreColor_ = colour; }
+  ColourWord ForeColor() const { return ink_.Colour(); }
+  void SetForeColor(ColourWord colour) { ink_.SetColour(colour); }
 
   /// Takes every dot away.
   void Wipe();
 
+  /// The dots alone, for pictures.
+  const Ink& Dots() const { return ink_; }
+
   /// Strokes are written while one of these lives (they nest): no input, timer tick or close
-  /// reaches a form before the outermost one ends.
+  /// reaches a form before the outermost one ends, see shell/held_input.h. On a window one sees,
+  /// the pen keeps its pace and rests for what is left of it at the end of the outermost one; it
+  /// hurries once somebody waits for the end.
   class Writing {
    public:
     explicit Writing(Sheet& sheet);
@@ -41,16 +66,38 @@ class Sheet : public QWidget, public DrawingSurface {
 
    private:
     Sheet& sheet_;
+    HoldInput hold_;
   };
+
+  /// Whether the pen keeps its pace on windows that one sees; it does at first. Where there is
+  /// no display it never does.
+  static void SetPaced(bool paced);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const QLineEdit* stepBox_ = nullptr;
-  ColourWord foreColor_ = 0x000000FF;
-  QColor backColor_;
-  QImage dots_;
+  static constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
+
+  void BeginWriting();
+  void EndWriting();
+  void EndFrame();
+  void Rest(std::int64_t dots);
+  void ShowNewDots();
+  QRect Refresh();
+  void TakeStep(const QString& text);
+
+  QLineEdit* stepBox_ = nullptr;
+  QString stepText_ = QStringLiteral("0.01");
+
+  Ink ink_;
+  QColor backColor_{Qt::white};
+  QImage shown_;                       ///< all of the sheet as it was shown last
+  std::optional<QColor> shownGround_;  ///< what it was shown over
+
+  int writing_ = 0;
+  Pace pace_;
+  std::int64_t dotsToFrame_ = kNever;
 };
 
 }  // namespace bramlee

@@ -1,0 +1,40 @@
+// The pace of the pen.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+
+namespace bramlee {
+
+/// How many dots the pen sets in a second, whatever the machine.
+inline constexpr double kDotsPerSecond = 100'000;
+
+/// Keeps the pen to its pace: it is told of dots that have been set, and rests for as long as
+/// they should have taken. It reckons from the begin, so that nothing adds up; a machine that
+/// cannot keep up is never waited for.
+class Pace {
+ public:
+  /// The pen begins, and is shown so many times a second.
+  void Begin(double framesPerSecond);
+
+  /// How many dots are due within a frame.
+  std::int64_t DotsPerFrame() const { return dotsPerFrame_; }
+
+  /// Whether what is shown is older than half a frame; if so, it counts as shown anew.
+  bool FrameIsDue();
+
+  /// `dots` more have been set: rests until they are due. After a delay of more than a quarter of
+  /// a second the pen does not race to catch up.
+  void Rest(std::int64_t dots);
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  std::int64_t dotsPerFrame_ = 1;
+  Clock::duration frame_{};
+  Clock::time_point shown_;
+  Clock::time_point start_;
+  std::int64_t dots_ = 0;  ///< since the start
+};
+
+}  // namespace bramlee

@@ -1,0 +1,35 @@
+// Input that waits while a handler keeps the program busy for long.
+//
+// A letter is written within its click, and its strokes may take a minute. Meanwhile nothing may
+// reach a form, and nothing may get lost: clicks, keys and the wheel wait and are delivered in
+// order once the handler has returned, closes last of all. The windows live on all the same.
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+namespace bramlee {
+
+/// Input waits while one of these lives; they nest. Delivery never begins in the destructor but
+/// in a later turn of the event loop, one event a turn.
+class HoldInput {
+ public:
+  HoldInput();
+  ~HoldInput();
+  HoldInput(const HoldInput&) = delete;
+  HoldInput& operator=(const HoldInput&) = delete;
+};
+
+/// To be called every few milliseconds while input is held: windows are repainted where they were
+/// uncovered or resized, and the window manager gets its answers. No timer ticks, and input that
+/// comes joins what waits. Does nothing when input is not held.
+void LetWindowsLive();
+
+/// Whether the user waits for the end: the close of a window, or Esc, is among what waits.
+bool EndIsAwaited();
+
+/// What another thread has to tell a form comes by this way: `call` runs at once, or while input
+/// waits in its turn after it, if `context` still lives then.
+void WhenFree(QObject* context, std::function<void()> call);
+
+}  // namespace bramlee
