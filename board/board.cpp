@@ -66,6 +66,7 @@ void Board::MakeControls() {
   }
   TextBox* title = AddText(QStringLiteral("txthdr1"), QString::fromUtf8(record_.title));
   title->setReadOnly(true);
+  title->setFrame(false);
   title->setFocusPolicy(Qt::NoFocus);
   title->setAlignment(Qt::AlignCenter);
   bramlee::SetBackColor(title, 0xFF0000);
@@ -131,8 +132,7 @@ void Board::BringIntoView(const StrokeRec& rec) {
 
 void Board::Present() {
   showMaximized();
-  raise();
-  activateWindow();
+  Form::Present();
 }
 
 void Board::Timer1_Timer() {
@@ -243,7 +243,7 @@ void Board::PlaceTile(int index, double left, double top, double width, double h
 
 void Board::PlaceTitle(double left, double width) const {
   Place(Named<QWidget>(QStringLiteral("txthdr1")),
-        {.left = left, .top = 60, .width = width, .height = 480});
+        {.left = left, .top = 15, .width = width, .height = 510});
 }
 
 void NoOwnPart(Board& /*board*/) {}

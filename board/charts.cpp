@@ -31,7 +31,6 @@ void LayOutHindi(Form& chart, PictureBox& picture) {
 void LayOutTelugu(Form& chart, PictureBox& picture) {
   const ScreenSize screen = Screen();
   chart.SetOuter({.left = 0, .top = 0, .width = screen.width, .height = screen.height});
-  chart.setWindowState(Qt::WindowMaximized);
   const double width = 0.9 * screen.width;
   const double height = 0.8 * screen.height;
   Place(&picture, {.left = (screen.width - width) / 2,
@@ -60,6 +59,7 @@ constexpr ChartRecord kTeluguVowels{
     .picture = ":/pictures/charts/telv.jpg",
     .board = "fbrmtelv01",
     .layOut = LayOutTelugu,
+    .maximised = true,
     .formClicks = true,
 };
 constexpr ChartRecord kTeluguConsonants{
@@ -68,6 +68,7 @@ constexpr ChartRecord kTeluguConsonants{
     .picture = ":/pictures/charts/telc.jpg",
     .board = "fbrmtelc01",
     .layOut = LayOutTelugu,
+    .maximised = true,
 };
 
 }  // namespace
@@ -81,6 +82,11 @@ Chart::Chart(const ChartRecord& record) : Form(QString::fromLatin1(record.form))
 
 void Chart::Form_Load() {
   Trap(QStringLiteral("brd:30"), [this](ErrInfo&) { record_.layOut(*this, *picture_); });
+}
+
+void Chart::Present() {
+  if (record_.maximised) showMaximized();
+  Form::Present();
 }
 
 void Chart::Form_Click() {

@@ -12,6 +12,7 @@ struct ChartRecord {
   const char* picture;  ///< resource of pic(1)
   const char* board;    ///< form that a click shows; "" for none
   void (*layOut)(Form&, PictureBox&);
+  bool maximised = false;   ///< whether it is shown as a board is
   bool formClicks = false;  ///< whether a click beside the picture shows the board too
 };
 
@@ -21,6 +22,7 @@ class Chart : public Form {
   explicit Chart(const ChartRecord& record);
 
   void Form_Load() override;
+  void Present() override;
   void Form_Click();
   void pic_Click();
 

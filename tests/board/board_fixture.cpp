@@ -1,0 +1,84 @@
+#include "tests/board/board_fixture.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPixmap>
+
+#include "shell/forms.h"
+
+namespace bramlee {
+namespace {
+
+class Home : public Form {
+ public:
+  Home() : Form(Q("fbrmhom1")) { AddHiddenText(Q("txtdrv"), Q("C:")); }
+};
+
+constexpr int kManyRecords = 8;
+
+}  // namespace
+
+QString Q(const char* latin) {
+  return QString::fromLatin1(latin);
+}
+
+QString Q(const char* array, int index) {
+  return Indexed(array, index);
+}
+
+void Pick(const Form& form, const QString& item) {
+  form.Named<QAction>(item)->trigger();
+}
+
+std::vector<int> Marked(const Board& board, const char* array, int last) {
+  std::vector<int> marked;
+  for (int i = 1; i <= last; ++i) {
+    if (board.Checked(Indexed(array, i))) marked.push_back(i);
+  }
+  return marked;
+}
+
+QColor ColourAt(const Board& board, int x, int y) {
+  return board.sheet().grab(QRect(x, y, 1, 1)).toImage().pixelColor(0, 0);
+}
+
+bool IsBlank(const Board& board, int x, int y) {
+  return ColourAt(board, x, y) == ColourOf(board.record().backColor);
+}
+
+std::string PlaceText(const Form& form, const QString& control) {
+  const TwipsRect place = PlaceOf(form.Named<QWidget>(control));
+  return QStringLiteral("%1 %2 %3 %4")
+      .arg(place.left)
+      .arg(place.top)
+      .arg(place.width)
+      .arg(place.height)
+      .toStdString();
+}
+
+void BoardTest::SetUp() {
+  records_.reserve(kManyRecords);  // forms refer to their records
+  RegisterBoards();
+  RegisterForm(Q("fbrmhom1"), [] { return new Home; });
+  real_ = ReplaceMessageBoxes(
+      {.show = [this](const QString& text, const QString&) { boxes.append(text); }, .ask = {}});
+}
+
+void BoardTest::TearDown() {
+  UnloadAll();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  ReplaceMessageBoxes(real_);
+}
+
+Board& BoardTest::Open(const char* form) {
+  auto& board = dynamic_cast<Board&>(*LoadForm(Q(form)));
+  board.SetText(Q("txtspd"), Q("1"));
+  return board;
+}
+
+Board& BoardTest::Open(const BoardRecord& record) {
+  RegisterBoard(records_.emplace_back(record));
+  return Open(record.form);
+}
+
+}  // namespace bramlee

@@ -1,0 +1,61 @@
+// What tests of boards share: real forms by their names, real menu items and tiles, a home form
+// that is nothing but its drive, and message boxes that are only remembered.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+#include "board/board.h"
+#include "shell/message_box.h"
+
+namespace bramlee {
+
+inline const QColor kRed(0xFF, 0, 0);
+inline const QColor kBlue(0, 0, 0xFF);
+inline const QColor kGreen(0, 0xFF, 0);
+inline const QColor kBlack(0, 0, 0);
+inline const QColor kWhite(0xFF, 0xFF, 0xFF);
+
+QString Q(const char* latin);
+QString Q(const char* array, int index);
+
+/// Picks the menu item of that name, as a user would.
+void Pick(const Form& form, const QString& item);
+inline void Pick(const Form& form, const char* item) {
+  Pick(form, Q(item));
+}
+
+/// The indices of the marked items of an array of six, five or four.
+std::vector<int> Marked(const Board& board, const char* array, int last);
+
+/// The sheet's colour at a place, tiles and all.
+QColor ColourAt(const Board& board, int x, int y);
+
+/// Whether nothing but the ground is to be seen there.
+bool IsBlank(const Board& board, int x, int y);
+
+/// A control's place in twips, as text: "1450 560 900 825".
+std::string PlaceText(const Form& form, const QString& control);
+
+class BoardTest : public ::testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  /// The real board of that form's name, loaded unseen, at the quickest step without a mark.
+  Board& Open(const char* form);
+  /// A board of a changed record, loaded unseen under the record's name.
+  Board& Open(const BoardRecord& record);
+
+  QStringList boxes;  ///< texts of the message boxes shown
+
+ private:
+  std::vector<BoardRecord> records_;
+  MessageBoxes real_;
+};
+
+}  // namespace bramlee

@@ -1,0 +1,434 @@
+// Rules, grids, group starts, clicks and Draw All on the boards.
+#include <QCoreApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <stdexcept>
+
+#include "board/board.h"
+#include "board/cues.h"
+#include "shell/forms.h"
+#include "tests/board/board_fixture.h"
+
+namespace bramlee {
+namespace {
+
+class BoardWriting : public BoardTest {
+ protected:
+  void SetUp() override {
+    BoardTest::SetUp();
+    Log().clear();
+  }
+  static std::string& Log() {
+    static std::string log;
+    return log;
+  }
+  static void Note(const std::string& what) { Log() += Log().empty() ? what : " " + what; }
+
+  /// A board that notes its loads as "load" and each letter by its number, writing none.
+  static BoardRecord Noting(BoardRecord record) {
+    record.layOut = [](Board&) { Note("load"); };
+    record.cue = [](Board&, const StrokeRec&) {};
+    record.write = [](Board&, StrokeRec& rec) { Note(std::to_string(rec.LetterNo)); };
+    return record;
+  }
+};
+
+struct Kind {
+  const char* form;
+  SheetExtent grid;
+  int groupStart;  ///< a tile that wipes
+  int free;        ///< X of a place between two columns where no letter of that tile comes
+};
+const Kind kKinds[] = {
+    {"fbrmengc02", {400, 1200, 50, 450, 100, 200}, 1, 1100},
+    {"fbrmengs01", {400, 1200, 50, 350, 75, 200},  1, 1100},
+    {"fbrmhinv01", {100, 1100, 250, 550, 75, 250}, 1, 1000},
+    {"fbrmhinc01", {100, 1100, 250, 550, 75, 250}, 1, 1000},
+    {"fbrmtelv01", {100, 1100, 250, 550, 75, 250}, 1, 1000},
+    {"fbrmtelc01", {100, 1100, 250, 550, 75, 250}, 1, 1000},
+};
+
+TEST_F(BoardWriting, AGridIsDrawnInTheGridColourAndThePenPutBack) {
+  for (const Kind& kind : kKinds) {
+    Board& board = Open(kind.form);
+    Pick(board, "mnugcolor(3)");
+    Pick(board, "mnucolor(1)");
+    Pick(board, "mnugrid");
+    const SheetExtent& grid = kind.grid;
+    for (int line = 0; line < 5; ++line) {
+      const int y = static_cast<int>(grid.top + line * grid.rowPitch);
+      const int x = static_cast<int>(grid.left + line * grid.columnPitch);
+      EXPECT_EQ(ColourAt(board, static_cast<int>(grid.left + grid.columnPitch / 2), y), kGreen);
+      EXPECT_EQ(ColourAt(board, x, static_cast<int>(grid.top + grid.rowPitch / 2)), kGreen);
+    }
+    EXPECT_EQ(board.sheet().ForeColor(), 0U) << kind.form;
+    EXPECT_TRUE(board.Checked(Q("mnugrid")));
+    EXPECT_EQ(board.TextOf(Q("txtundo(32)")), Q("1"));
+  }
+}
+
+TEST_F(BoardWriting, ARuleIsMarkedAndFlaggedAndDrawnInTheGridColour) {
+  Board& board = Open("fbrmengc02");
+  Pick(board, "mnurulled(2)");
+  EXPECT_EQ(Marked(board, "mnurulled", 5), std::vector<int>{2});
+  EXPECT_EQ(board.TextOf(Q("txtundo(28)")), Q("1"));
+  EXPECT_EQ(ColourAt(board, 500, 250), kBlue);
+  EXPECT_EQ(ColourAt(board, 500, 350), kBlue);
+  EXPECT_TRUE(IsBlank(board, 500, 150));
+  EXPECT_EQ(board.sheet().ForeColor(), 0xFFU);
+}
+
+TEST_F(BoardWriting, AnotherRuleTakesTheMarkAndLeavesTheLines) {
+  Board& board = Open("fbrmengc02");
+  Pick(board, "mnurulled(2)");
+  Pick(board, "mnurulled(5)");
+  EXPECT_EQ(Marked(board, "mnurulled", 5), std::vector<int>{5});
+  EXPECT_EQ(board.TextOf(Q("txtundo(28)")), Q("0"));
+  EXPECT_EQ(board.TextOf(Q("txtundo(31)")), Q("1"));
+  EXPECT_EQ(ColourAt(board, 500, 450), kBlue);
+  Pick(board, "mnurulled(5)");  // picked again it only loses its mark
+  EXPECT_TRUE(Marked(board, "mnurulled", 5).empty());
+  EXPECT_EQ(board.TextOf(Q("txtundo(31)")), Q("0"));
+  EXPECT_EQ(ColourAt(board, 500, 450), kBlue);
+}
+
+TEST_F(BoardWriting, TheLaterOfGridAndRuleLiesOnTop) {
+  Board& board = Open("fbrmengc02");
+  Pick(board, "mnugrid");
+  Pick(board, "mnugcolor(3)");
+  Pick(board, "mnurulled(1)");
+  EXPECT_EQ(ColourAt(board, 500, 350), kGreen);
+  EXPECT_EQ(ColourAt(board, 500, 250), kBlue);
+  Pick(board, "mnugcolor(4)");
+  Pick(board, "mnugrid");
+  Pick(board, "mnugrid");
+  EXPECT_EQ(ColourAt(board, 500, 350), kRed);
+}
+
+TEST_F(BoardWriting, RulesOfTeluguVowelsLieOffTheirGrid) {
+  Board& board = Open("fbrmtelv01");
+  Pick(board, "mnurulled(5)");
+  for (const int y : {275, 350}) {
+    EXPECT_EQ(ColourAt(board, 450, y), kBlue);
+    EXPECT_EQ(ColourAt(board, 1195, y), kBlue);
+    EXPECT_TRUE(IsBlank(board, 390, y));
+  }
+  EXPECT_TRUE(IsBlank(board, 450, 325));
+}
+
+TEST_F(BoardWriting, AGroupStartBringsTheGridBackOnEveryBoardAndTheRuleOnAllButCapitals) {
+  for (const Kind& kind : kKinds) {
+    Board& board = Open(kind.form);
+    Pick(board, "mnugrid");
+    Pick(board, "mnugcolor(3)");
+    Pick(board, "mnurulled(1)");
+    board.SetText(Q("txtundo(0)"), Q("1"));
+    board.pic_Click(kind.groupStart);
+    const bool capitals = Q(kind.form) == Q("fbrmengc02");
+    const int gridX = static_cast<int>(kind.grid.left + 3 * kind.grid.columnPitch);
+    EXPECT_EQ(ColourAt(board, gridX, static_cast<int>(kind.grid.top + 30)), kGreen) << kind.form;
+    // Rule 1 lies on the fourth line; both are green now, so the grid is taken away once more.
+    Pick(board, "mnugrid");
+    board.pic_Click(kind.groupStart);
+    const int ruleY = Q(kind.form) == Q("fbrmtelv01")
+                          ? 275
+                          : static_cast<int>(kind.grid.top + 3 * kind.grid.rowPitch);
+    if (capitals) {
+      EXPECT_TRUE(IsBlank(board, kind.free, ruleY)) << kind.form;
+    } else {
+      EXPECT_EQ(ColourAt(board, kind.free, ruleY), kGreen) << kind.form;
+    }
+    EXPECT_EQ(Marked(board, "mnurulled", 5), std::vector<int>{1}) << kind.form;
+    EXPECT_EQ(board.TextOf(Q("txtundo(0)")), Q("0"));
+    EXPECT_EQ(board.sheet().ForeColor(), 0xFFU);
+  }
+}
+
+TEST_F(BoardWriting, OneRuleComesBackTheFirstThatIsMarked) {
+  Board& board = Open("fbrmengs01");
+  board.SetText(Q("txtundo(27)"), Q("1"));
+  board.pic_Click(1);
+  board.SetChecked(Q("mnurulled(3)"), true);
+  EXPECT_EQ(ColourAt(board, 1100, 275), kBlue);
+  EXPECT_TRUE(IsBlank(board, 1100, 125));
+}
+
+TEST_F(BoardWriting, GridAndRuleAreBackBeforeTheSound) {
+  BoardRecord record = kTeluguVowelsBoard;
+  record.cue = [](Board& board, const StrokeRec&) {
+    Note(ColourAt(board, 1100, 300) == kBlue ? "grid" : "");
+    Note(ColourAt(board, 1150, 350) == kBlue ? "rule" : "");
+    Note(IsBlank(board, 157, 325 - 10) ? "blank" : "");
+  };
+  Board& board = Open(record);
+  Pick(board, "mnugrid");
+  Pick(board, "mnurulled(5)");
+  board.pic_Click(1);
+  EXPECT_EQ(Log(), "grid rule blank");
+}
+
+TEST_F(BoardWriting, OnlyAGroupsFirstTileWipes) {
+  Board& board = Open("fbrmengc02");
+  for (const int tile : {1, 2, 3, 4}) board.Tile(tile)->click();
+  EXPECT_EQ(ColourAt(board, 625, 200), kRed);   // B
+  EXPECT_EQ(ColourAt(board, 1025, 200), kRed);  // D
+  board.Tile(5)->click();
+  EXPECT_TRUE(IsBlank(board, 625, 200));
+  EXPECT_TRUE(IsBlank(board, 1025, 200));
+  EXPECT_EQ(ColourAt(board, 425, 200), kRed);  // E
+}
+
+TEST_F(BoardWriting, TileTwoAloneWipesNothingAndTileOneTakesItAway) {
+  Board& board = Open("fbrmtelv01");
+  board.Tile(2)->click();
+  EXPECT_EQ(ColourAt(board, 407, 325), kRed);
+  board.Tile(1)->click();
+  EXPECT_TRUE(IsBlank(board, 407, 325));
+  EXPECT_EQ(ColourAt(board, 157, 325), kRed);
+}
+
+TEST_F(BoardWriting, AfterDrawAllTheSheetHoldsTheLastGroupOnly) {
+  Board& board = Open("fbrmengc02");
+  Pick(board, "mnuaud");
+  Pick(board, "mnufor(2)");
+  Pick(board, "mnudall");
+  EXPECT_EQ(ColourAt(board, 500, 300), kRed);  // the stem of Y
+  EXPECT_EQ(ColourAt(board, 700, 150), kRed);  // the top of Z
+  EXPECT_TRUE(IsBlank(board, 1025, 155));
+  EXPECT_FALSE(board.Checked(Q("mnuaud")));
+  EXPECT_TRUE(Marked(board, "mnufor", 4).empty());
+  EXPECT_TRUE(boxes.isEmpty());  // no cue was asked for
+}
+
+TEST_F(BoardWriting, AClickOrdersGroupStartRecordCueAndStrokes) {
+  BoardRecord record = Noting(kCapitalsBoard);
+  record.prepare = [](Board&, StrokeRec& rec) {
+    Note("record" + std::to_string(static_cast<int>(rec.Col5)));
+  };
+  record.cue = [](Board&, const StrokeRec& rec) { Note("cue" + std::to_string(rec.LetterNo)); };
+  Board& board = Open(record);
+  board.Tile(5)->click();
+  board.Tile(6)->click();
+  EXPECT_EQ(Log(), "load load record1200 cue5 5 record1200 cue6 6");
+}
+
+TEST_F(BoardWriting, DrawAllOfTheEnglishBoardsWipesTwiceAtGroupStarts) {
+  for (BoardRecord record : {kCapitalsBoard, kSmallLettersBoard}) {
+    Log().clear();
+    Board& board = Open(Noting(record));
+    Log().clear();
+    Pick(board, "mnudall");
+    EXPECT_EQ(Log(),
+              "load load 1 2 3 4 load load 5 6 7 8 load load 9 10 11 12 load load 13 14 15 16 "
+              "load load 17 18 19 20 load load 21 22 23 24 load load 25 26");
+  }
+}
+
+TEST_F(BoardWriting, DrawAllOfHindiVowelsRunsAllTilesInEitherMode) {
+  Board& board = Open(Noting(kHindiVowelsBoard));
+  const std::string expected =
+      "load load 1 2 3 4 load load 5 6 7 load load 8 9 10 11 load load 12 13 load load 14 15 16 17 "
+      "load load 18 19 20 load load 21 22 23 24 load load 25 26 27 28";
+  Log().clear();
+  Pick(board, "mnudall");
+  EXPECT_EQ(Log(), expected);
+  Pick(board, "mnudrawalt");
+  Log().clear();
+  Pick(board, "mnudall");
+  EXPECT_EQ(Log(), expected);
+}
+
+TEST_F(BoardWriting, DrawAllOfTeluguVowelsGoesInReadingOrder) {
+  Board& board = Open(Noting(kTeluguVowelsBoard));
+  Log().clear();
+  Pick(board, "mnudall");
+  EXPECT_EQ(
+      Log(),
+      "load load 1 2 3 4 load load 5 6 load load 7 8 load load 9 10 11 load load 12 13 14 "
+      "load load 31 32 "
+      "load load 15 16 load load 17 load load 18 load load 19 20 load load 21 22 load load 23 "
+      "24 25 load load 26 27 28 load load 29 30 "
+      "load load 33 load load 34 load load 35 load load 36");
+}
+
+TEST_F(BoardWriting, DrawAllOfTeluguConsonantsGoesByNumberAndNeverWipesAfter71) {
+  Board& board = Open(Noting(kTeluguConsonantsBoard));
+  const std::vector<int> starts{1,  5,  6,  9,  12, 13, 15, 16, 17, 18, 22, 23, 26, 29, 30, 34,
+                                35, 36, 39, 40, 44, 45, 49, 52, 56, 57, 61, 62, 63, 66, 67, 71};
+  std::string expected;
+  for (int tile = 1; tile <= 75; ++tile) {
+    if (std::find(starts.begin(), starts.end(), tile) != starts.end()) expected += " load load";
+    expected += " " + std::to_string(tile);
+  }
+  Log().clear();
+  Pick(board, "mnudall");
+  EXPECT_EQ(" " + Log(), expected);
+}
+
+TEST_F(BoardWriting, DrawAllOfHindiConsonantsRunsTheSetInUseAndOnlyItsTilesWipe) {
+  Board& board = Open(Noting(kHindiConsonantsBoard));
+  const std::vector<int> starts{1, 5, 6, 10, 11, 15, 16, 20, 21, 25, 26, 30, 34};
+  for (int set = 1; set <= 3; ++set) {
+    std::string expected;
+    for (int letter = 1; letter <= 37; ++letter) {
+      if (std::find(starts.begin(), starts.end(), letter) != starts.end()) expected += " load";
+      expected += " " + std::to_string(letter + 37 * (set - 1));
+    }
+    board.Named<PictureBox>(Q("pic1", set))->click();
+    Log().clear();
+    Pick(board, "mnudall");
+    EXPECT_EQ(" " + Log(), expected);
+  }
+  Pick(board, "mnudrawalt");
+  Log().clear();
+  Pick(board, "mnudall");
+  EXPECT_EQ(Log(), "load");
+}
+
+TEST_F(BoardWriting, DrawAllEndsWithSoundOffOnEveryBoard) {
+  for (const BoardRecord* record :
+       {&kCapitalsBoard, &kSmallLettersBoard, &kHindiVowelsBoard, &kHindiConsonantsBoard,
+        &kTeluguVowelsBoard, &kTeluguConsonantsBoard}) {
+    BoardRecord noting = *record;
+    noting.cue = [](Board& board, const StrokeRec&) {
+      if (board.Checked(Q("mnuaud"))) Note("cue");
+    };
+    noting.write = [](Board&, StrokeRec&) {};
+    Board& board = Open(noting);
+    Pick(board, "mnuaud");
+    Pick(board, "mnudall");
+    EXPECT_FALSE(board.Checked(Q("mnuaud")));
+    EXPECT_EQ(Log(), "") << record->form;
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(BoardWriting, ACueIsAskedForOnlyWhilePlayIsOnAndWithTheBoardsNumber) {
+  const struct {
+    const char* form;
+    std::int16_t number;
+  } kNumbers[] = {
+      {"fbrmengc02", 1},
+      {"fbrmengs01", 2},
+      {"fbrmhinv01", 3},
+      {"fbrmhinc01", 4},
+      {"fbrmtelv01", 5},
+      {"fbrmtelc01", 6},
+  };
+  for (const auto& expected : kNumbers) {
+    Board& board = Open(expected.form);
+    CueBoardNo = 99;
+    board.Tile(2)->click();
+    EXPECT_EQ(CueBoardNo, 99) << expected.form;
+    Pick(board, "mnuaud");
+    board.Tile(2)->click();
+    EXPECT_EQ(CueBoardNo, expected.number) << expected.form;
+  }
+}
+
+TEST_F(BoardWriting, AnUnknownTileIsAnsweredByTheBoardsMessageAndWipesNothing) {
+  const struct {
+    const char* form;
+    const char* message;
+    int beyond;
+  } kMessages[] = {
+      {"fbrmengc02", "My Mom is Calling.I am going for CHACOLATE",    27 },
+      {"fbrmengs01", "My Mom is Calling.I am going for CHACOLATE",    27 },
+      {"fbrmhinv01", "My Dad is Calling.He brings me  Dolls",         29 },
+      {"fbrmhinc01", "My Friend is Calling.I am going for Ice-Cream", 112},
+      {"fbrmtelv01", "My Mom is Calling.I am going for CHACOLATE",    37 },
+      {"fbrmtelc01", "My Friend is Calling.I am going for Ice-Cream", 76 },
+  };
+  for (const auto& expected : kMessages) {
+    Board& board = Open(expected.form);
+    Pick(board, "mnurulled(5)");
+    const QImage before = board.sheet().grab().toImage();
+    for (const int index : {0, -1, expected.beyond, 1000}) {
+      boxes.clear();
+      board.pic_Click(index);
+      EXPECT_EQ(boxes, QStringList{Q(expected.message)}) << expected.form << " " << index;
+    }
+    EXPECT_EQ(board.sheet().grab().toImage(), before) << expected.form;
+  }
+}
+
+TEST_F(BoardWriting, AnUnknownTileHasItsRecordAndItsCueFirst) {
+  BoardRecord record = kCapitalsBoard;
+  record.prepare = [](Board&, StrokeRec& rec) { Note("record" + std::to_string(rec.LetterNo)); };
+  record.cue = [](Board&, const StrokeRec&) { Note("cue"); };
+  Board& board = Open(record);
+  board.pic_Click(27);
+  EXPECT_EQ(Log(), "record27 cue");
+  EXPECT_EQ(boxes.size(), 1);
+}
+
+TEST_F(BoardWriting, AHandlerThatFailsEndsWithoutAWordAndDrawAllGoesOn) {
+  BoardRecord record = Noting(kCapitalsBoard);
+  record.write = [](Board&, StrokeRec& rec) {
+    if (rec.LetterNo == 2) throw std::runtime_error("no ink");
+    Note(std::to_string(rec.LetterNo));
+  };
+  Board& board = Open(record);
+  Log().clear();
+  EXPECT_NO_THROW(Pick(board, "mnudall"));
+  EXPECT_EQ(Log().substr(0, 19), "load load 1 3 4 loa");
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
+TEST_F(BoardWriting, AtTheQuickestSpeedTheCrossbarOfAMeetsItsLegs) {
+  Board& board = Open("fbrmengc02");
+  board.Tile(1)->click();
+  // The legs stand 37.7 to either side at 100 below the top.
+  for (const int x : {462, 500, 538}) EXPECT_EQ(ColourAt(board, x, 250), kRed) << x;
+  EXPECT_TRUE(IsBlank(board, 450, 250));
+  EXPECT_TRUE(IsBlank(board, 550, 250));
+}
+
+TEST_F(BoardWriting, TheLettersCellIsInViewBeforeItIsWritten) {
+  const struct {
+    const char* form;
+    int tile;
+    QRect cell;
+  } kCells[] = {
+      {"fbrmengc02", 8, QRect(1025, 150, 150, 200)},
+      {"fbrmengc02", 1, QRect(430,  150, 140, 200)},
+      {"fbrmtelv01", 4, QRect(870,  330, 200, 140)},
+      {"fbrmtelv01", 1, QRect(130,  330, 150, 130)},
+  };
+  for (const auto& expected : kCells) {
+    for (const bool fromTheRight : {false, true}) {
+      BoardRecord record =
+          *(Q(expected.form) == Q("fbrmengc02") ? &kCapitalsBoard : &kTeluguVowelsBoard);
+      static QRect seen;
+      record.write = [](Board& board, StrokeRec&) {
+        const auto* view = board.findChild<QScrollArea*>()->viewport();
+        seen = QRect(-board.sheet().pos(), view->size());
+      };
+      Board& board = Open(record);
+      board.show();
+      board.resize(500, 420);
+      QCoreApplication::processEvents();
+      auto* scroller = board.findChild<QScrollArea*>();
+      const int end = scroller->horizontalScrollBar()->maximum();
+      scroller->horizontalScrollBar()->setValue(fromTheRight ? end : 0);
+      scroller->verticalScrollBar()->setValue(fromTheRight ? 1000 : 0);
+      board.pic_Click(expected.tile);
+      EXPECT_TRUE(seen.contains(expected.cell)) << expected.form << " " << expected.tile;
+      UnloadForm(&board);
+    }
+  }
+}
+
+TEST_F(BoardWriting, ALetterInViewScrollsNothing) {
+  Board& board = Open("fbrmengc02");
+  board.show();
+  board.resize(1024, 700);
+  QCoreApplication::processEvents();
+  auto* bar = board.findChild<QScrollArea*>()->horizontalScrollBar();
+  bar->setValue(90);
+  board.pic_Click(2);
+  EXPECT_EQ(bar->value(), 90);
+}
+
+}  // namespace
+}  // namespace bramlee
