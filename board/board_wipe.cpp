@@ -2,6 +2,7 @@
 // is done in place, so that no window flashes or moves and no form goes in its own handler.
 #include "board/board.h"
 #include "shell/numbers.h"
+#include "shell/report.h"
 #include "shell/trap.h"
 
 namespace bramlee {
@@ -79,12 +80,15 @@ void Board::PutBack(const Kept& kept) {
 }
 
 void Board::mnuclear1_Click() {
-  Trap(QStringLiteral("brd:06"), [this](ErrInfo&) {
-    const Kept kept = Keep();
-    ResetToDesign();
-    RunFormLoad();  // copies the drive of the home form, which the board's own then replaces
-    PutBack(kept);
-  });
+  Trap(
+      QStringLiteral("brd:06"),
+      [this](ErrInfo&) {
+        const Kept kept = Keep();
+        ResetToDesign();
+        RunFormLoad();  // copies the drive of the home form, which the board's own then replaces
+        PutBack(kept);
+      },
+      ReportError);
 }
 
 }  // namespace bramlee

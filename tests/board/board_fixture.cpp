@@ -5,6 +5,7 @@
 #include <QPixmap>
 
 #include "shell/forms.h"
+#include "shell/shell.h"
 
 namespace bramlee {
 namespace {
@@ -58,16 +59,14 @@ std::string PlaceText(const Form& form, const QString& control) {
 
 void BoardTest::SetUp() {
   records_.reserve(kManyRecords);  // forms refer to their records
+  RegisterShell();
   RegisterBoards();
   RegisterForm(Q("fbrmhom1"), [] { return new Home; });
-  real_ = ReplaceMessageBoxes(
-      {.show = [this](const QString& text, const QString&) { boxes.append(text); }, .ask = {}});
 }
 
 void BoardTest::TearDown() {
   UnloadAll();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  ReplaceMessageBoxes(real_);
 }
 
 Board& BoardTest::Open(const char* form) {

@@ -1,16 +1,13 @@
 // What tests of boards share: real forms by their names, real menu items and tiles, a home form
-// that is nothing but its drive, and message boxes that are only remembered.
+// that is nothing but its drive, and drives without a sound.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QColor>
-#include <QStringList>
 #include <string>
 #include <vector>
 
 #include "board/board.h"
-#include "shell/message_box.h"
+#include "tests/shell/temp_drives.h"
 
 namespace bramlee {
 
@@ -41,7 +38,7 @@ bool IsBlank(const Board& board, int x, int y);
 /// A control's place in twips, as text: "1450 560 900 825".
 std::string PlaceText(const Form& form, const QString& control);
 
-class BoardTest : public ::testing::Test {
+class BoardTest : public TempDrives {
  protected:
   void SetUp() override;
   void TearDown() override;
@@ -51,11 +48,8 @@ class BoardTest : public ::testing::Test {
   /// A board of a changed record, loaded unseen under the record's name.
   Board& Open(const BoardRecord& record);
 
-  QStringList boxes;  ///< texts of the message boxes shown
-
  private:
   std::vector<BoardRecord> records_;
-  MessageBoxes real_;
 };
 
 }  // namespace bramlee

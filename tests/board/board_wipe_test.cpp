@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <stdexcept>
 
 #include "board/board.h"
 #include "shell/forms.h"
@@ -158,6 +159,20 @@ TEST_F(Wipe, NeitherFlashesNorMovesNorScrollsTheWindow) {
   EXPECT_EQ(watch.seen, 0);
   EXPECT_EQ(LoadedForm(Q("fbrmtelc01")), &board);
   EXPECT_EQ(board.focusWidget(), board.Tile(3));
+}
+
+TEST_F(Wipe, ReportsItsFailure) {
+  BoardRecord record = kCapitalsBoard;
+  static bool fails;
+  fails = false;
+  record.layOut = [](Board&) {
+    if (fails) throw std::runtime_error("no room");
+  };
+  const Board& board = Open(record);
+  EXPECT_EQ(LoadedForm(Q("fcomsav1")), nullptr);
+  fails = true;
+  EXPECT_NO_THROW(Pick(board, "mnuclear1"));
+  EXPECT_NE(LoadedForm(Q("fcomsav1")), nullptr);
 }
 
 TEST_F(Wipe, LeavesTheLocalsOfTheCallerAlone) {
