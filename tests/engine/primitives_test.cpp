@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "engine/last_point.h"
 #include "tests/recorder.h"
@@ -230,11 +233,26 @@ TEST_F(SlantTest, AtAngleZeroRunsStraightAlongY) {
 }
 
 TEST_F(SlantTest, DotThatCrossesTheLimitIsTheLast) {
+  const auto endsAt = [](auto slant, double startY, double limitY, auto crosses) {
+    Recorder sheet(1);
+    slant(sheet, 20.65, 500.0, startY, limitY);
+    ASSERT_EQ(sheet.dots.size(), 214U);  // 200 / cos(20.65 degrees)
+    EXPECT_TRUE(crosses(static_cast<double>(sheet.dots[213].y), limitY));
+    EXPECT_FALSE(crosses(static_cast<double>(sheet.dots[212].y), limitY));
+  };
+  endsAt(SlantLeft, 150, 350, std::greater_equal<>());
+  endsAt(SlantRight, 150, 350, std::greater_equal<>());
+  endsAt(SlantUpRight, 350, 150, std::less_equal<>());
+}
+
+TEST_F(SlantTest, DotOnTheLimitIsTheLast) {
   Recorder sheet(1);
-  SlantRight(sheet, 20.65, 500, 150, 350);
-  ASSERT_EQ(sheet.dots.size(), 214U);  // 200 / cos(20.65 degrees)
-  EXPECT_GE(sheet.dots.back().y, 350.F);
-  EXPECT_LT(sheet.dots[sheet.dots.size() - 2].y, 350.F);
+  SlantLeft(sheet, 0, 40, 10, 13);
+  SlantRight(sheet, 0, 40, 10, 13);
+  SlantUpRight(sheet, 0, 40, 16, 13);
+  ASSERT_EQ(sheet.runs.size(), 3U);
+  for (const RecordedRun& run : sheet.runs) EXPECT_EQ(run.dots, 3);
+  EXPECT_EQ(sheet.dots.back(), (Dot{40, 13}));
 }
 
 TEST_F(SlantTest, StopsAtOnceWhenTheLimitLiesBehindIt) {
