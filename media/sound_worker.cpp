@@ -102,9 +102,7 @@ void SoundWorker::TakeDecoded() {
 /// Both of a good end and of an error: what was decoded so far is played.
 void SoundWorker::DecoderEnded() {
   if (!decoder_) return;
-  // The decoder is still telling of its end.
-  decoder_->disconnect(this);
-  decoder_.release()->deleteLater();
+  LetGoOfDecoder();
   NextFile();
 }
 
@@ -117,11 +115,17 @@ void SoundWorker::StartSink() {
   if (sink_->error() != QAudio::NoError) End(SoundEnd::NoDevice);
 }
 
+/// It may be telling something just now, so it goes later; it stops at once, since its own threads
+/// would go on telling one that is half gone.
+void SoundWorker::LetGoOfDecoder() {
+  if (!decoder_) return;
+  decoder_->disconnect(this);
+  decoder_->stop();
+  decoder_.release()->deleteLater();
+}
+
 void SoundWorker::LetGo() {
-  if (decoder_) {
-    decoder_->disconnect(this);
-    decoder_.release()->deleteLater();
-  }
+  LetGoOfDecoder();
   sink_.reset();
   pcm_.reset();
   warmUpFiles_.reset();

@@ -34,6 +34,7 @@ class SoundWorker : public QObject {
   void TakeDecoded();
   void DecoderEnded();
   void StartSink();
+  void LetGoOfDecoder();
   void LetGo();
   void End(SoundEnd end);
 

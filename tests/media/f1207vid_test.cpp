@@ -1,0 +1,318 @@
+#include "media/f1207vid.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <cmath>
+
+#include "media/media.h"
+#include "shell/message_box.h"
+#include "shell/numbers.h"
+#include "shell/screen.h"
+#include "shell/screen_rec.h"
+#include "tests/media/sound_files.h"
+#include "tests/shell/temp_drives.h"
+
+namespace bramlee {
+namespace {
+
+const QString kForm = QStringLiteral("f1207vid");
+
+QString Name(const char* latin) {
+  return QString::fromLatin1(latin);
+}
+
+class F1207vid : public TempDrives {
+ protected:
+  F1207vid() {
+    SetScreen(ScreenSize{.width = 15360, .height = 11520});
+    RegisterMedia();
+    form = dynamic_cast<f1207vid*>(LoadForm(kForm));
+    player = form->Named<WindowsMediaPlayer>(Name("WindowsMediaPlayer1"));
+  }
+  ~F1207vid() override { SetScreen({}); }
+  F1207vid(const F1207vid&) = delete;
+  F1207vid& operator=(const F1207vid&) = delete;
+
+  QString Text(const char* name) const { return form->TextOf(Name(name)); }
+  template <class Control>
+  Control* Find(const char* name) const {
+    return form->findChild<Control*>(Name(name));
+  }
+  static bool Loaded() { return LoadedForm(kForm) != nullptr; }
+  void Tick(int times) {
+    for (int i = 0; i < times; ++i) form->Timerete_Timer();
+  }
+
+  f1207vid* form;
+  WindowsMediaPlayer* player;
+};
+
+TEST_F(F1207vid, IsLoadedUnseenWithItsSettledValues) {
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_EQ(form->windowTitle(), Name("AUDIO / VIDEO CLIPS"));
+  EXPECT_EQ(Text("txtpath"), Name("1"));
+  EXPECT_EQ(Text("txtete"), Name("5"));
+  EXPECT_EQ(Text("txtcnt"), Name("0"));
+  EXPECT_EQ(Text("txtpcnt"), Name("1"));
+  EXPECT_EQ(Text("txtformno"), Name("0"));
+  EXPECT_EQ(Find<QWidget>("txtcnt")->toolTip(), Name("Form Count for unload"));
+  EXPECT_EQ(Find<QWidget>("txtpcnt")->toolTip(), Name("Play Count"));
+  EXPECT_EQ(Find<QLabel>("lblremtime")->text(), Name("P.TIME "));
+  EXPECT_EQ(Find<QLabel>("lblremtime")->toolTip(), Name("Period Time"));
+  EXPECT_EQ(Find<QLabel>("lblmin")->text(), Name("MIN."));
+  EXPECT_EQ(Find<QLabel>("lblmin")->toolTip(), Name("Minutes"));
+  EXPECT_NE(Find<PictureBox>("pictmp"), nullptr);
+  EXPECT_NE(Find<Combo>("cmbindx"), nullptr);
+}
+
+TEST_F(F1207vid, RunsBothTimersFromItsLoad) {
+  EXPECT_EQ(Find<QTimer>("Timer1")->interval(), 9000);
+  EXPECT_EQ(Find<QTimer>("Timerete")->interval(), 20000);
+  EXPECT_TRUE(Find<QTimer>("Timer1")->isActive());
+  EXPECT_TRUE(Find<QTimer>("Timerete")->isActive());
+}
+
+TEST_F(F1207vid, HasItsMenus) {
+  QStringList bar;
+  for (const QAction* item : form->BarItems()) bar.append(CaptionOf(item));
+  EXPECT_EQ(bar, (QStringList{Name("File"), Name("List"), Name("Play"), Name("Stop"),
+                              Name("ScreenSize"), Name("Speed"), Name("CountDown")}));
+  for (const char* name : {"mnufile", "mnudissize", "mnuspeed", "mnucdown1"}) {
+    EXPECT_NE(Find<QMenu>(name), nullptr) << name;
+  }
+  EXPECT_EQ(Find<QAction>("mnudsize(1)")->text(), Name("&1/4"));
+  EXPECT_EQ(Find<QAction>("mnudsize(4)")->text(), Name("&DoubleSize"));
+  EXPECT_EQ(Find<QAction>("mnucdown(1)")->text(), Name("&On"));
+  EXPECT_EQ(Find<QAction>("mnucdown(2)")->text(), Name("&Off"));
+}
+
+TEST_F(F1207vid, HasNoSpeedOfFourTenths) {
+  for (int i = 1; i <= 20; ++i) {
+    const auto* item = form->findChild<QAction*>(Indexed("mnuspd", i));
+    ASSERT_EQ(item != nullptr, i != 4) << i;
+    if (item == nullptr) continue;
+    EXPECT_EQ(item->text(), QString::number(i / 10.0, 'f', 1));
+  }
+  EXPECT_EQ(Find<QMenu>("mnuspeed")->actions().size(), 19);
+}
+
+TEST_F(F1207vid, SetsTheSpeedOfTheItemsCaption) {
+  Find<QAction>("mnuspd(1)")->trigger();
+  EXPECT_EQ(player->Rate(), 0.1);
+  Find<QAction>("mnuspd(20)")->trigger();
+  EXPECT_EQ(player->Rate(), 2);
+  Find<QAction>("mnuspd(10)")->setText(Name("&1.0"));
+  Find<QAction>("mnuspd(10)")->trigger();
+  EXPECT_EQ(player->Rate(), 1);
+}
+
+TEST_F(F1207vid, IsMadeAsLargeAsTheScreenRecordTells) {
+  const TwipsRect outer = form->Outer();
+  EXPECT_EQ(outer.width, 15345);
+  EXPECT_EQ(outer.height, 11508);
+  EXPECT_EQ(outer.left, 7.5);
+  EXPECT_EQ(outer.top, 6);
+}
+
+TEST_F(F1207vid, StandsItsBandInUnitsAboveThePlayer) {
+  for (const char* name : {"lblremtime", "txtete", "lblmin"}) {
+    const TwipsRect place = PlaceOf(Find<QWidget>(name));
+    EXPECT_EQ(std::fmod(place.left, 77), 0) << name;
+    EXPECT_EQ(std::fmod(place.width, 77), 0) << name;
+    EXPECT_LE(place.top + place.height, PlaceOf(player).top) << name;
+  }
+}
+
+TEST_F(F1207vid, KeepsThePlayersSizeLessTenUnits) {
+  const TwipsRect place = PlaceOf(player);
+  EXPECT_EQ(Val(Text("txtssize(0)")), place.height - 1150);
+  EXPECT_EQ(Val(Text("txtssize(1)")), place.left);
+  EXPECT_EQ(Val(Text("txtssize(2)")), place.top);
+  EXPECT_EQ(Val(Text("txtssize(3)")), place.width);
+}
+
+TEST_F(F1207vid, SizesThePlayerByTheFormAndLeavesItsTopAlone) {
+  const double top = PlaceOf(player).top;
+  const double shares[] = {0.25, 0.5, 1, 2};
+  for (int i = 1; i <= 4; ++i) {
+    form->findChild<QAction*>(Indexed("mnudsize", i))->trigger();
+    const TwipsRect place = PlaceOf(player);
+    EXPECT_DOUBLE_EQ(place.height, 11508 * shares[i - 1]) << i;
+    EXPECT_DOUBLE_EQ(place.width, 15345 * shares[i - 1]) << i;
+    EXPECT_DOUBLE_EQ(place.left, (15345 - place.width) / 2) << i;
+    EXPECT_EQ(place.top, top) << i;
+  }
+  EXPECT_LT(PlaceOf(player).left, 0);
+}
+
+TEST_F(F1207vid, DefaultSizeIsTheSavedOne) {
+  const TwipsRect before = PlaceOf(player);
+  Find<QAction>("mnudsize(4)")->trigger();
+  Find<QAction>("mnudsize(0)")->trigger();
+  const TwipsRect place = PlaceOf(player);
+  EXPECT_DOUBLE_EQ(place.height, before.height - 10 * 115);
+  EXPECT_DOUBLE_EQ(place.left, before.left);
+  EXPECT_DOUBLE_EQ(place.top, before.top);
+  EXPECT_DOUBLE_EQ(place.width, before.width);
+}
+
+TEST_F(F1207vid, FlipsItsListWhichIsEmptyAndHidden) {
+  auto* list = Find<Combo>("cmbavi");
+  EXPECT_EQ(list->toolTip(), Name("If File not found, It can't Play. "));
+  EXPECT_EQ(list->count(), 0);
+  EXPECT_TRUE(list->isHidden());
+  Find<QAction>("mnulist")->trigger();
+  EXPECT_FALSE(list->isHidden());
+  Find<QAction>("mnulist")->trigger();
+  EXPECT_TRUE(list->isHidden());
+}
+
+TEST_F(F1207vid, PlaysAPickedClipAndHidesTheList) {
+  auto* list = Find<Combo>("cmbavi");
+  list->addItems({Name("C:\\one.wav"), Name(" C:\\two.wav ")});
+  Find<QAction>("mnulist")->trigger();
+  list->setCurrentIndex(1);
+  EXPECT_TRUE(boxes.isEmpty());
+  Q_EMIT list->activated(1);
+  EXPECT_TRUE(list->isHidden());
+  EXPECT_EQ(boxes, QStringList{Name("File Not Found: ( C:\\two.wav )")});
+  EXPECT_EQ(player->URL(), Name("C:\\two.wav"));
+}
+
+TEST_F(F1207vid, PlaysAndStopsByItsMenu) {
+  Find<QAction>("mnuplay")->trigger();
+  EXPECT_FALSE(player->Playing());
+  WriteBytes(On("c/a.wav"), ToneWave(440, 300));
+  player->SetURL(Name("C:\\a.wav"));
+  EXPECT_FALSE(player->Playing());
+  Find<QAction>("mnuplay")->trigger();
+  EXPECT_TRUE(player->Playing());
+  Find<QAction>("mnustop")->trigger();
+  EXPECT_FALSE(player->Playing());
+}
+
+TEST_F(F1207vid, FlipsMuteAndStretching) {
+  form->FlipMute();
+  EXPECT_TRUE(player->Mute());
+  form->FlipMute();
+  EXPECT_FALSE(player->Mute());
+  form->FlipStretchToFit();
+  EXPECT_TRUE(player->StretchToFit());
+  form->FlipStretchToFit();
+  EXPECT_FALSE(player->StretchToFit());
+}
+
+TEST_F(F1207vid, CountsFromItsFirstTick) {
+  Tick(1);
+  EXPECT_EQ(Text("txtete"), Name("4.666"));
+  Tick(1);
+  EXPECT_EQ(Text("txtete"), Name("4.333"));
+  Tick(1);
+  EXPECT_EQ(Text("txtete"), Name("4"));
+}
+
+TEST_F(F1207vid, UnloadsAtTheFifteenthTick) {
+  Tick(14);
+  EXPECT_TRUE(Loaded());
+  EXPECT_EQ(Text("txtete"), Name("0.333"));
+  Tick(1);
+  EXPECT_FALSE(Loaded());
+  EXPECT_FALSE(Find<QTimer>("Timerete")->isActive());
+  EXPECT_EQ(Text("txtete"), Name("0"));
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
+TEST_F(F1207vid, ReadsTheMinutesAtTheFirstTickOnly) {
+  form->SetText(Name("txtete"), Name("2"));
+  Tick(1);
+  EXPECT_EQ(Text("txtete"), Name("1.666"));
+  form->SetText(Name("txtete"), Name("90"));
+  Tick(1);
+  EXPECT_EQ(Text("txtete"), Name("1.333"));
+}
+
+TEST_F(F1207vid, SaysThatThereAreNoMinutesAndUnloads) {
+  for (const char* minutes : {"0", "", "five"}) {
+    auto* fresh = dynamic_cast<f1207vid*>(LoadForm(kForm));
+    fresh->SetText(Name("txtete"), Name(minutes));
+    boxes.clear();
+    fresh->Timerete_Timer();
+    EXPECT_EQ(boxes, QStringList{Name("READER:Duration is Nil")}) << minutes;
+    EXPECT_FALSE(Loaded());
+    EXPECT_TRUE(fresh->findChild<QLineEdit*>(Name("txtete"))->isHidden());
+    EXPECT_EQ(fresh->TextOf(Name("txtete")), Name("0"));
+    EXPECT_FALSE(fresh->findChild<QTimer*>(Name("Timerete"))->isActive());
+  }
+}
+
+TEST_F(F1207vid, UnloadsAtOnceForLessThanNoMinutes) {
+  form->SetText(Name("txtete"), Name("-1"));
+  Tick(1);
+  EXPECT_FALSE(Loaded());
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
+TEST_F(F1207vid, MayGoWhileItsBoxStands) {
+  form->SetText(Name("txtete"), Name("0"));
+  f1207vid* reloaded = nullptr;
+  const MessageBoxes before =
+      ReplaceMessageBoxes({.show =
+                               [&](const QString&, const QString&) {
+                                 form->SetText(Name("txtcnt"), Name("1"));
+                                 form->Timer1_Timer();
+                                 QCoreApplication::sendPostedEvents(form, QEvent::DeferredDelete);
+                                 reloaded = dynamic_cast<f1207vid*>(LoadForm(kForm));
+                               },
+                           .ask = {}});
+  form->Timerete_Timer();
+  ReplaceMessageBoxes(before);
+  EXPECT_EQ(LoadedForm(kForm), reloaded);
+  EXPECT_EQ(reloaded->TextOf(Name("txtete")), Name("5"));
+}
+
+TEST_F(F1207vid, SwitchesTheCountdownWithColoursAndKeepsWhatHasElapsed) {
+  Tick(3);
+  Find<QAction>("mnucdown(2)")->trigger();
+  EXPECT_FALSE(Find<QTimer>("Timerete")->isActive());
+  EXPECT_EQ(BackColorOf(Find<QWidget>("txtete")), 0x00FFFFFFU);
+  Find<QAction>("mnucdown(1)")->trigger();
+  EXPECT_TRUE(Find<QTimer>("Timerete")->isActive());
+  EXPECT_EQ(BackColorOf(Find<QWidget>("txtete")), 65535U);
+  Tick(1);
+  EXPECT_EQ(Text("txtete"), Name("3.666"));
+}
+
+TEST_F(F1207vid, LoadedAnewCountsAnew) {
+  Tick(15);
+  auto* fresh = dynamic_cast<f1207vid*>(LoadForm(kForm));
+  fresh->Timerete_Timer();
+  EXPECT_EQ(fresh->TextOf(Name("txtete")), Name("4.666"));
+}
+
+TEST_F(F1207vid, UnloadsByItsFormCount) {
+  form->Timer1_Timer();
+  EXPECT_TRUE(Loaded());
+  form->SetText(Name("txtcnt"), Name("1"));
+  form->Timer1_Timer();
+  EXPECT_FALSE(Loaded());
+  EXPECT_FALSE(Find<QTimer>("Timer1")->isActive());
+}
+
+TEST_F(F1207vid, GoesBackToNoForm) {
+  form->SetText(Name("txtformno"), Name("1205"));
+  const auto others = LoadedForms().size() - 1;
+  Find<QAction>("mnuback")->trigger();
+  EXPECT_FALSE(Loaded());
+  EXPECT_EQ(LoadedForms().size(), others);
+}
+
+TEST_F(F1207vid, StopsItsSoundWhenItUnloads) {
+  WriteBytes(On("c/a.wav"), ToneWave(440, 300));
+  player->SetURL(Name("C:\\a.wav"));
+  player->Play();
+  UnloadForm(form);
+  EXPECT_FALSE(player->Playing());
+}
+
+}  // namespace
+}  // namespace bramlee
