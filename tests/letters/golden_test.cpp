@@ -4,10 +4,8 @@
 #include <string>
 #include <tuple>
 
-#include "engine/last_point.h"
-#include "letters/letter_sets.h"
 #include "tests/golden_strokes.h"
-#include "tests/recorder.h"
+#include "tests/letters/written.h"
 
 namespace bramlee {
 namespace {
@@ -15,11 +13,9 @@ namespace {
 constexpr const char* kBoards[] = {"engc", "engs", "hinv", "hinc", "telv", "telc", "mat"};
 
 /// The golden tile as the program writes it.
-ToldTile Written(const ToldTile& golden) {
-  Recorder sheet(std::stod(golden.step));
-  ClearLastPoint();
-  WriteWholeTile(*FindLetterSet(golden.board), golden.tile,
-                 {.alternative = golden.alt != 0, .place = golden.place}, sheet);
+ToldTile AsWritten(const ToldTile& golden) {
+  const TileForm form{.alternative = golden.alt != 0, .place = golden.place};
+  const Recorder sheet = Written(golden.board, golden.tile, form, std::stod(golden.step));
   ToldTile written = golden;
   written.last = {LastX, LastY, LastX2, LastY2};
   written.strokes.clear();
@@ -40,7 +36,7 @@ TEST_P(GoldenStrokes, AreWritten) {
   for (const QByteArray& line : lines) {
     const ToldTile golden = ParseTile(line);
     EXPECT_EQ(golden.board, board);
-    EXPECT_EQ(Difference(golden, Written(golden), lastDots), "") << golden.Name();
+    EXPECT_EQ(Difference(golden, AsWritten(golden), lastDots), "") << golden.Name();
   }
 }
 

@@ -46,12 +46,6 @@ TEST(NumberTile, StandsAtTheLeftEdgeOfItsTable) {
   }
 }
 
-TEST(NumberTile, WritesNothingOutsideItsTiles) {
-  for (const int tile : {-1, 0, 18}) {
-    EXPECT_TRUE(Write(WriteNumberTile, Clicked(tile)).runs.empty()) << tile;
-  }
-}
-
 TEST(NumberTile, IgnoresThePlaceOfATypedNumber) {
   for (int tile = 1; tile <= 17; ++tile) {
     EXPECT_EQ(ArgumentsOf(Write(WriteNumberTile, Clicked(tile, 0, 4))),

@@ -4,19 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/last_point.h"
-#include "letters/letter_sets.h"
-#include "tests/recorder.h"
+#include "tests/letters/written.h"
 
 namespace bramlee {
 namespace {
-
-Recorder Write(const char* set, int tile, double step = 1) {
-  Recorder sheet(step);
-  ClearLastPoint();
-  WriteWholeTile(*FindLetterSet(set), tile, {}, sheet);
-  return sheet;
-}
 
 /// The dots of one run, the first run being 1.
 std::vector<Dot> DotsOf(const Recorder& sheet, std::size_t run) {
@@ -33,33 +24,11 @@ bool SameDots(const std::vector<Dot>& a, const std::vector<Dot>& b) {
 class TeluguSets : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(Both, TeluguSets, testing::Values("telv", "telc"));
 
-TEST_P(TeluguSets, WriteNothingOutsideTheirTiles) {
-  const int tiles = FindLetterSet(GetParam())->tiles;
-  for (const int tile : {-1, 0, tiles + 1, 200}) {
-    EXPECT_TRUE(Write(GetParam(), tile).runs.empty()) << tile;
-  }
-}
-
-TEST_P(TeluguSets, LeaveTheCellTablesAsTheyAre) {
-  const LetterSet& set = *FindLetterSet(GetParam());
-  for (int tile = 1; tile <= set.tiles; ++tile) {
-    Recorder sheet(1);
-    StrokeRec rec = FillStrokeRec(set.sheet, static_cast<std::int16_t>(tile));
-    set.write(rec, sheet);
-    EXPECT_EQ((std::vector{rec.Col1, rec.Col2, rec.Col3, rec.Col4, rec.Col5}),
-              (std::vector<double>{100, 350, 600, 850, 1100}))
-        << tile;
-    EXPECT_EQ((std::vector{rec.Row1, rec.Row2, rec.Row3, rec.Row4, rec.Row5}),
-              (std::vector<double>{250, 325, 400, 475, 550}))
-        << tile;
-  }
-}
-
 TEST_P(TeluguSets, TickFromTheEndOfAShortFirstArm) {
   const LetterSet& set = *FindLetterSet(GetParam());
   int ticks = 0;
   for (int tile = 1; tile <= set.tiles; ++tile) {
-    const Recorder sheet = Write(GetParam(), tile, 0.01);
+    const Recorder sheet = Written(GetParam(), tile, {}, 0.01);
     for (std::size_t run = 1; run < sheet.runs.size(); ++run) {
       const RecordedRun& arm = sheet.runs[run - 1];
       const RecordedRun& rise = sheet.runs[run];
@@ -77,7 +46,7 @@ TEST_P(TeluguSets, TickFromTheEndOfAShortFirstArm) {
 
 TEST(TeluguVowels, WriteTheirLongWordsPastTheFourthColumn) {
   for (const int tile : {33, 34, 35}) {
-    const Recorder sheet = Write("telv", tile);
+    const Recorder sheet = Written("telv", tile);
     const auto [left, right] = std::ranges::minmax(sheet.dots, {}, &Dot::x);
     EXPECT_LT(left.x, 200) << tile;
     EXPECT_GT(right.x, 930) << tile;
@@ -85,8 +54,8 @@ TEST(TeluguVowels, WriteTheirLongWordsPastTheFourthColumn) {
 }
 
 TEST(TeluguVowels, WriteTheSameCrestTwice) {
-  const Recorder am = Write("telv", 33);
-  const Recorder candrabindu = Write("telv", 34);
+  const Recorder am = Written("telv", 33);
+  const Recorder candrabindu = Written("telv", 34);
   for (std::size_t stroke = 0; stroke < 5; ++stroke) {
     EXPECT_TRUE(SameDots(DotsOf(am, 13 + stroke), DotsOf(am, 20 + stroke))) << stroke;
     EXPECT_TRUE(SameDots(DotsOf(candrabindu, 13 + stroke), DotsOf(candrabindu, 18 + stroke)))
@@ -95,9 +64,9 @@ TEST(TeluguVowels, WriteTheSameCrestTwice) {
 }
 
 TEST(TeluguVowels, WriteTheSameFirstLetterInAAndItsWords) {
-  const Recorder a = Write("telv", 1);
+  const Recorder a = Written("telv", 1);
   for (const int tile : {33, 34, 35}) {
-    const Recorder word = Write("telv", tile);
+    const Recorder word = Written("telv", tile);
     for (std::size_t stroke = 1; stroke <= 4; ++stroke) {
       EXPECT_TRUE(SameDots(DotsOf(a, stroke), DotsOf(word, stroke))) << tile << ' ' << stroke;
     }
@@ -106,22 +75,22 @@ TEST(TeluguVowels, WriteTheSameFirstLetterInAAndItsWords) {
 
 TEST(TeluguConsonants, GoOverSomeTicksTwice) {
   for (const int tile : {39, 44, 45, 48}) {
-    const Recorder sheet = Write("telc", tile);
+    const Recorder sheet = Written("telc", tile);
     EXPECT_TRUE(SameDots(DotsOf(sheet, 4), DotsOf(sheet, 6))) << tile;
     EXPECT_TRUE(SameDots(DotsOf(sheet, 5), DotsOf(sheet, 7))) << tile;
   }
 }
 
 TEST(TeluguConsonants, HangTheFootOfTsaOnItsTick) {
-  const Recorder sheet = Write("telc", 7);
+  const Recorder sheet = Written("telc", 7);
   const double tickX = sheet.runs.at(5).arguments.at(1);
   EXPECT_EQ(sheet.runs.at(6).arguments.at(3), tickX + 2.5 * 15);
   EXPECT_EQ(sheet.runs.at(7).arguments, (std::vector<double>{tickX - 30, 250, tickX + 37.5}));
 }
 
 TEST(TeluguConsonants, MoveJhaWithTheSpeedByLessThanAStep) {
-  const Recorder fast = Write("telc", 11, 1);
-  const Recorder slow = Write("telc", 11, 0.01);
+  const Recorder fast = Written("telc", 11);
+  const Recorder slow = Written("telc", 11, {}, 0.01);
   const double fastX = fast.runs.at(3).arguments.at(3);
   const double slowX = slow.runs.at(3).arguments.at(3);
   EXPECT_NE(fastX, slowX);
@@ -130,7 +99,7 @@ TEST(TeluguConsonants, MoveJhaWithTheSpeedByLessThanAStep) {
 }
 
 TEST(TeluguConsonants, TakeTheHeightOfTheFormOfLaFromItsColumn) {
-  const Recorder sheet = Write("telc", 64);
+  const Recorder sheet = Written("telc", 64);
   for (const RecordedRun& run : sheet.runs) EXPECT_EQ(run.arguments.at(4), 600 - 75);
 }
 
