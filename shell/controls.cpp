@@ -22,6 +22,11 @@ QString Indexed(const char* array, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1StringView(array)).arg(index);
 }
 
+Ground::Ground(QWidget* parent) : QWidget(parent) {
+  // It fills all of itself: nothing behind it has to be painted first when something on it moves.
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
 void Ground::SetBackColor(ColourWord colour) {
   backColor_ = ColourOf(colour);
   update();

@@ -25,7 +25,7 @@ QString Indexed(const char* array, int index);
 /// own and reaches no child, and text on it stays dark under any desktop theme.
 class Ground : public QWidget {
  public:
-  explicit Ground(QWidget* parent = nullptr) : QWidget(parent) {}
+  explicit Ground(QWidget* parent = nullptr);
   void SetBackColor(ColourWord colour);
 
  protected:

@@ -1,5 +1,6 @@
 #include "shell/fbrmsta1.h"
 
+#include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <cmath>
 
@@ -41,7 +42,8 @@ fbrmsta1::fbrmsta1() : Form(QStringLiteral("fbrmsta1"), Kind::FrameChild) {
   client()->setCursor(Qt::PointingHandCursor);
   for (int i = 0; i < kLines; ++i) {
     const TitleLine& line = kTitle[i];
-    Label* label = AddLabel(Indexed("lblsta", i), QString::fromLatin1(line.caption));
+    auto* label = new MovingLine(QString::fromLatin1(line.caption), client());
+    label->setObjectName(Indexed("lblsta", i));
     label->setAlignment(Qt::AlignCenter);
     SetForeColor(label, line.colour);
     connect(label, &Label::Clicked, this, &fbrmsta1::Form_Click);
@@ -65,6 +67,10 @@ void fbrmsta1::MakeMenus() {
 void fbrmsta1::Form_Load() {
   Trap(QStringLiteral("601:02"), [this](ErrInfo& err) {
     LayOut();
+    if (SubWindow() != nullptr) {
+      connect(SubWindow(), &QMdiSubWindow::aboutToActivate, this,
+              [this] { client()->setUpdatesEnabled(true); });
+    }
     Trap(err.ErrTag, [](ErrInfo&) { MkDir(QStringLiteral("C:/bramlee")); });  // it may be there
     ChDrive(QStringLiteral("C:"));
     ChDir(QStringLiteral("C:\\"));
@@ -132,8 +138,14 @@ void fbrmsta1::mnupp_Click(int index) {
   });
 }
 
+/// While the home form covers all of this one, the title walks on unpainted.
+void fbrmsta1::PaintIfSeen() {
+  client()->setUpdatesEnabled(!client()->visibleRegion().isEmpty());
+}
+
 void fbrmsta1::tmr1_Timer() {
   Trap(QStringLiteral("601:04"), [this](ErrInfo&) {
+    PaintIfSeen();
     const ScreenSize screen = Screen();
     const double a = RoundToLong(screen.width / 284);
     const double b = RoundToLong(screen.width / 36);

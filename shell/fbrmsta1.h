@@ -38,6 +38,7 @@ class fbrmsta1 : public Form {
  private:
   void MakeMenus();
   void LayOut();
+  void PaintIfSeen();
   Label* Line(int index) const;
 
   std::int32_t cnt_ = 0;

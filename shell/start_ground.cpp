@@ -82,4 +82,29 @@ void StartGround::paintEvent(QPaintEvent* event) {
   }
 }
 
+void MovingLine::paintEvent(QPaintEvent* /*event*/) {
+  const double ratio = devicePixelRatioF();
+  if (letters_.isNull() || drawn_ != text() || letters_.devicePixelRatio() != ratio) {
+    letters_ = QPixmap((QSizeF(size()) * ratio).toSize());
+    letters_.setDevicePixelRatio(ratio);
+    letters_.fill(Qt::transparent);
+    QPainter painter(&letters_);
+    painter.setFont(font());
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect(), static_cast<int>(alignment()), text());
+    drawn_ = text();
+  }
+  QPainter(this).drawPixmap(0, 0, letters_);
+}
+
+void MovingLine::changeEvent(QEvent* event) {
+  letters_ = {};
+  Label::changeEvent(event);
+}
+
+void MovingLine::resizeEvent(QResizeEvent* event) {
+  letters_ = {};
+  Label::resizeEvent(event);
+}
+
 }  // namespace bramlee

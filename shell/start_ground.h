@@ -1,4 +1,5 @@
-// The ground of the start form: a meadow with cards of what there is to learn.
+// What the start form shows: a meadow with cards of what there is to learn, and over it the lines
+// of a title that move.
 #pragma once
 
 #include <QPixmap>
@@ -25,6 +26,21 @@ class StartGround : public Ground {
     QPixmap card;
   };
   QList<Shown> cards_;
+};
+
+/// A line of the title. Its large letters are drawn once, not at every step of its way.
+class MovingLine : public Label {
+ public:
+  MovingLine(const QString& text, QWidget* parent) : Label(text, parent) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QPixmap letters_;
+  QString drawn_;  ///< the text that `letters_` shows
 };
 
 }  // namespace bramlee
