@@ -1,9 +1,11 @@
 #include "board/board.h"
 
+#include <QFocusEvent>
 #include <QScrollArea>
 #include <algorithm>
 
 #include "board/reach.h"
+#include "letters/letter_names.h"
 #include "shell/forms.h"
 #include "shell/numbers.h"
 #include "shell/screen.h"
@@ -49,6 +51,7 @@ Board::Board(const BoardRecord& record)
   setWindowTitle(QString::fromUtf8(record.title));
   MakeControls();
   MakeMenus();
+  for (PictureBox* picture : sheet_->findChildren<PictureBox*>()) picture->installEventFilter(this);
   ResetToDesign();
   reach_ = ReachOfAll();
 }
@@ -62,6 +65,7 @@ void Board::MakeControls() {
     PictureBox* tile = AddPicture(Indexed("pic", i), QStringLiteral("Click To Draw"));
     tile->SetPicture(
         QStringLiteral(":/pictures/%1/%2.jpg").arg(QString::fromLatin1(record_.letterSet)).arg(i));
+    tile->setAccessibleName(QString::fromStdString(LetterName(record_.letterSet, i)));
     connect(tile, &PictureBox::clicked, this, [this, i] { pic_Click(i); });
   }
   TextBox* title = AddText(QStringLiteral("txthdr1"), QString::fromUtf8(record_.title));
@@ -128,6 +132,17 @@ void Board::BringIntoView(const StrokeRec& rec) {
   reach.setSize(reach.size().boundedTo(scroller_->viewport()->size()));
   const QPoint centre = reach.center();
   scroller_->ensureVisible(centre.x(), centre.y(), reach.width() / 2, reach.height() / 2);
+}
+
+bool Board::eventFilter(QObject* picture, QEvent* event) {
+  // Only the keyboard scrolls to what it reaches: a press that moved its tile away would be lost.
+  if (event->type() == QEvent::FocusIn) {
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) {
+      scroller_->ensureWidgetVisible(static_cast<QWidget*>(picture), kEdge, kEdge);
+    }
+  }
+  return Form::eventFilter(picture, event);
 }
 
 void Board::Present() {

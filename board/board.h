@@ -84,6 +84,9 @@ class Board : public Form {
   static QString RuleFlagName(int rule);  ///< the flag of mnurulled(rule), "txtundo(27)" and on
   static QString GridFlagName();          ///< the flag of mnugrid, "txtundo(32)"
 
+ protected:
+  bool eventFilter(QObject* picture, QEvent* event) override;
+
  private:
   struct Kept;
 

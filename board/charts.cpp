@@ -31,8 +31,8 @@ void LayOutHindi(Form& chart, PictureBox& picture) {
 void LayOutTelugu(Form& chart, PictureBox& picture) {
   const ScreenSize screen = Screen();
   chart.SetOuter({.left = 0, .top = 0, .width = screen.width, .height = screen.height});
-  const double width = 0.9 * screen.width;
-  const double height = 0.8 * screen.height;
+  const double width = 0.95 * screen.width;
+  const double height = 0.85 * screen.height;
   Place(&picture, {.left = (screen.width - width) / 2,
                    .top = (screen.height - height) / 2,
                    .width = width,

@@ -13,6 +13,9 @@ constexpr int kLetters = 37;  ///< tiles of a set
 constexpr int kTiles = kSets * kLetters;
 constexpr int kFootSet = 3;  ///< the set whose letters bear the foot stroke
 
+constexpr const char* kSetNames[kSets] = {"whole letters", "half letters",
+                                          "letters with the foot stroke"};
+
 /// The first letters of the groups, in each set.
 constexpr auto kGroupStarts = [] {
   constexpr int kInSet[] = {1, 5, 6, 10, 11, 15, 16, 20, 21, 25, 26, 30, 34};
@@ -48,6 +51,7 @@ void MakeOwn(Board& board) {
   board.AddHiddenText(QStringLiteral("txtsetno"), QStringLiteral("1"));
   for (int set = 1; set <= kSets; ++set) {
     PictureBox* button = board.AddPicture(Indexed("pic1", set));
+    button->setAccessibleName(QString::fromLatin1(kSetNames[set - 1]));
     button->SetPicture(QStringLiteral(":/pictures/hinc/set%1.jpg").arg(set));
     QObject::connect(button, &PictureBox::clicked, &board,
                      [&board, set] { pic1_Click(board, set); });

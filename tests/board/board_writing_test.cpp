@@ -419,6 +419,30 @@ TEST_F(BoardWriting, TheLettersCellIsInViewBeforeItIsWritten) {
   }
 }
 
+TEST_F(BoardWriting, TheKeyboardScrollsToTheTileItReachesAndTheMouseDoesNot) {
+  Board& board = Open("fbrmtelc01");
+  board.show();
+  board.activateWindow();
+  board.resize(500, 420);
+  QCoreApplication::processEvents();
+  board.Tile(75)->setFocus(Qt::MouseFocusReason);
+  EXPECT_EQ(board.sheet().pos(), QPoint(0, 0));
+  board.Tile(74)->setFocus(Qt::TabFocusReason);
+  const auto* view = board.findChild<QScrollArea*>()->viewport();
+  const QRect seen(-board.sheet().pos(), view->size());
+  EXPECT_TRUE(seen.contains(board.Tile(74)->geometry()));
+}
+
+TEST_F(BoardWriting, TilesAreCalledByTheirLetters) {
+  EXPECT_EQ(Open("fbrmengc02").Tile(2)->accessibleName(), Q("capital B"));
+  for (const Kind& kind : kKinds) {
+    const Board& board = Open(kind.form);
+    for (int i = 1; i <= board.letters().tiles; ++i) {
+      EXPECT_FALSE(board.Tile(i)->accessibleName().isEmpty()) << kind.form << " " << i;
+    }
+  }
+}
+
 TEST_F(BoardWriting, ALetterInViewScrollsNothing) {
   Board& board = Open("fbrmengc02");
   board.show();
