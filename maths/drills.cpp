@@ -5,7 +5,6 @@
 #include "maths/arithmetic.h"
 #include "maths/maths_menu.h"
 #include "maths/result_box.h"
-#include "shell/forms.h"
 #include "shell/message_box.h"
 #include "shell/numbers.h"
 #include "shell/trap.h"
@@ -142,13 +141,6 @@ Operands ReadOperands(const Board& board) {
   return {.a = Val(a), .b = Val(b)};
 }
 
-/// Says it and waits. Returns whether the board is still there then.
-bool Say(Board& board, const QString& text) {
-  const QString form = board.objectName();
-  MsgBox(text);
-  return LoadedForm(form) == &board;
-}
-
 }  // namespace
 
 void MakeDrillRow(Board& board) {
@@ -198,7 +190,7 @@ void CalcResult(Board& board) {
     const Operands row = ReadOperands(board);
     if (row.wrong != nullptr) {
       SetBackColor(row.wrong, kRed);
-      if (!Say(board, QStringLiteral("Enter Number"))) return;
+      MsgBox(QStringLiteral("Enter Number"));
     }
     if (IsInfinite(sign, row.a, row.b)) return MsgBox(QStringLiteral("Infinity"));
     const std::optional<double> result = RowResult(sign, row.a, row.b);

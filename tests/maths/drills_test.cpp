@@ -348,7 +348,7 @@ TEST_F(Drills, ResultCanOnlyBeRead) {
   EXPECT_EQ(Find<QPlainTextEdit>("txtval(20)")->toPlainText(), QStringLiteral("3"));
 }
 
-TEST_F(Drills, BoardThatGoesDuringTheMessageIsLeftAlone) {
+TEST_F(Drills, BoardMayGoDuringTheMessage) {
   Pick("mnuadd");
   Type("cmb(16)", "abc");
   const MessageBoxes mine = ReplaceMessageBoxes({.show =
