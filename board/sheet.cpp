@@ -96,14 +96,10 @@ void Sheet::Rest(std::int64_t dots) {
 
 void Sheet::ShowNewDots() {
   const QRect dirty = Refresh();
-  if (dirty.isEmpty()) return;
-  const double ratio = devicePixelRatioF();
-  repaint(
-      QRectF(dirty.x() / ratio, dirty.y() / ratio, dirty.width() / ratio, dirty.height() / ratio)
-          .toAlignedRect());
+  if (!dirty.isEmpty()) repaint(dirty);
 }
 
-/// Brings what is shown up to date; returns what has changed, in device pixels.
+/// Brings what is shown up to date; returns around what has changed, in logical pixels.
 QRect Sheet::Refresh() {
   const double ratio = devicePixelRatioF();
   ink_.Cover(rect(), ratio);
@@ -116,11 +112,15 @@ QRect Sheet::Refresh() {
   shownGround_ = backColor_;
   shown_.setDevicePixelRatio(ratio);
   ink_.Compose(shown_, dirty, backColor_);
-  return dirty;
+  return QRectF(dirty.x() / ratio, dirty.y() / ratio, dirty.width() / ratio, dirty.height() / ratio)
+      .toAlignedRect();
 }
 
 void Sheet::paintEvent(QPaintEvent* event) {
-  Refresh();
+  // What brings this paint may be something else, a window that goes: dots that are new by now
+  // and lie elsewhere would never be seen.
+  const QRegion unseen = QRegion(Refresh()) - event->region();
+  if (!unseen.isEmpty()) update(unseen);
   QPainter painter(this);
   painter.setClipRegion(event->region());
   painter.drawImage(0, 0, shown_);

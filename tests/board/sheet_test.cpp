@@ -4,7 +4,9 @@
 
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QScrollArea>
+#include <QTest>
 
 #include "engine/primitives.h"
 #include "letters/letter_sets.h"
@@ -59,6 +61,26 @@ TEST(Sheet, ShouldShowARunOutsideOfAnyWriting) {
   LineRight(*scrolled.sheet, 400, 100, 500);
   EXPECT_EQ(QColor(Qt::red), scrolled.sheet->grab().toImage().pixelColor(450, 100));
   ExpectShowsItsDots(*scrolled.sheet);
+}
+
+/// Remembers where a widget was painted.
+class PaintedRegion : public QObject {
+ public:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+  QRegion region;
+};
+
+TEST(Sheet, ShouldShowNewDotsThoughSomethingElseWasUncovered) {
+  Scrolled scrolled({1366, 700});
+  const Sheet::Writing writing(*scrolled.sheet);  // as while a message stands between two letters
+  LineRight(*scrolled.sheet, 400, 100, 500);
+  PaintedRegion painted;
+  scrolled.sheet->installEventFilter(&painted);
+  scrolled.sheet->repaint(0, 0, 10, 10);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return painted.region.contains(QPoint(450, 100)); }));
 }
 
 TEST(Sheet, ShouldKeepWhatLiesOutsideOfASmallWindow) {
