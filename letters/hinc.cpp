@@ -314,44 +314,44 @@ constexpr Extent kNone{};
 // Letters that differ by a stroke share a routine.
 // clang-format off
 constexpr Anchors kLetters[] = {
-    // body              X1      stem           bar              half: stem    half: bar        foot
-    {WriteKa,            100,    kNone,         kNone,           kNone,        kNone,           {1, 0}},     //  1 ka क
-    {WriteKha,           370,    kNone,         kNone,           kNone,        kNone,           {2, 0}},     //  2 kha ख
-    {WriteGa,            600,    kNone,         kNone,           kNone,        kNone,           {3, 0.2}},   //  3 ga ग
-    {WriteGha,           900,    {1008.75,150}, {887.5, 150},    kNone,        {887.5, 112.5},  {4, 0.15}},  //  4 gha घ
-    {WriteNgaDda,        250,    kNone,         kNone,           kNone,        kNone,           {1, 0}},     //  5 nga ङ
-    {WriteCha,           165,    {273.75, 150}, {157.5, 150},    kNone,        kNone,           {1, 0.2}},   //  6 cha च
-    {WriteChha,          400,    {508.75, 27},  {420, 125},      {508.75, 27}, kNone,           {2, 0}},     //  7 chha छ
-    {WriteJa,            642.5,  {775, 150},    {657.5, 150},    kNone,        kNone,           {3, 0.2}},   //  8 ja ज
-    {WriteJha,           975,    {1025, 150},   {907.5, 150},    kNone,        {907.5, 125},    {4, 0.2}},   //  9 jha झ
-    {WriteNya,           212.5,  {262.5, 150},  {162.5, 150},    kNone,        kNone,           {1, 0.15}},  // 10 nya ञ
-    {WriteTtaTthaDdha,   225,    kNone,         kNone,           kNone,        kNone,           {1, 0}},     // 11 tta ट
-    {WriteTtaTthaDdha,   475,    kNone,         kNone,           kNone,        kNone,           {2, 0}},     // 12 ttha ठ
-    {WriteNgaDda,        750,    kNone,         kNone,           kNone,        kNone,           {3, 0}},     // 13 dda ड
-    {WriteTtaTthaDdha,   975,    kNone,         kNone,           kNone,        kNone,           {4, 0}},     // 14 ddha ढ
-    {WriteNna,           100,    kNone,         kNone,           kNone,        kNone,           {1, 0.2}},   // 15 nna ण
-    {WriteTa,            200,    kNone,         kNone,           kNone,        kNone,           {1, 0.15}},  // 16 ta त
-    {WriteThaSha,        412.5,  {525, 150},    {490, 75},       kNone,        kNone,           {2, 0.2}},   // 17 tha थ
-    {WriteDa,            750,    kNone,         kNone,           kNone,        kNone,           {3, 0.15}},  // 18 da द
-    {WriteDha,           900,    {1008.75,150}, {970, 87.5},     kNone,        kNone,           {4, 0.15}},  // 19 dha ध
-    {WriteNa,            140,    {272.5, 150},  {157.5, 150},    kNone,        kNone,           {1, 0.2}},   // 20 na न
-    {WritePaPhaSsa,      120,    kNone,         kNone,           kNone,        kNone,           {1, 0.15}},  // 21 pa प
-    {WritePaPhaSsa,      337.5,  kNone,         kNone,           kNone,        kNone,           {2, 0.03}},  // 22 pha फ
-    {WriteBaVa,          737.5,  {747.5, 150},  {662.5, 125},    kNone,        kNone,           {3, 0.1}},   // 23 ba ब
-    {WriteBha,           900,    {1015, 150},   {965, 87.5},     kNone,        kNone,           {4, 0.15}},  // 24 bha भ
-    {WriteMa,            150,    {262.5, 150},  {160, 137.5},    kNone,        {150, 112.5},    {1, 0.15}},  // 25 ma म
-    {WriteYa,            162.5,  {275, 150},    {175, 125},      kNone,        {175, 100},      {1, 0.2}},   // 26 ya य
-    {WriteRa,            420,    kNone,         {437.5, 112.5},  kNone,        kNone,           {2, 0.1}},   // 27 ra र
-    {WriteLa,            690.75, {795, 150},    {637.5, 190},    kNone,        kNone,           {3, 0.27}},  // 28 la ल
-    {WriteBaVa,          987.5,  {997.5, 150},  {912.5, 125},    kNone,        kNone,           {4, 0.1}},   // 29 va व
-    {WriteThaSha,        162.5,  {275, 150},    {240, 75},       kNone,        kNone,           {1, 0.2}},   // 30 sha श
-    {WritePaPhaSsa,      337.5,  kNone,         kNone,           kNone,        kNone,           {2, 0.03}},  // 31 ssa ष
-    {WriteSa,            625,    {762.5, 150},  {624.75, 165},   kNone,        {650, 112.5},    {3, 0.16}},  // 32 sa स
-    {WriteHa,            1000,   kNone,         kNone,           kNone,        kNone,           {4, 0}},     // 33 ha ह
-    {WriteLla,           100,    kNone,         kNone,           kNone,        kNone,           {1, 0}},     // 34 lla ळ
-    {WriteKsha,          400,    {515, 150},    {465, 87.5},     kNone,        kNone,           {2, 0.16}},  // 35 ksha क्ष
-    {WriteTra,           712.5,  {762.5, 150},  {662.5, 150},    kNone,        kNone,           {3, 0.16}},  // 36 tra त्र
-    {WriteJnya,          900,    {1032.5, 150}, {907.5, 150},    kNone,        kNone,           {4, 0.24}},  // 37 jnya ज्ञ
+    // body            X1      stem             bar             half: stem     half: bar       foot
+    {WriteKa,          100,    kNone,           kNone,          kNone,         kNone,          {1, 0}},     //  1 ka क
+    {WriteKha,         370,    kNone,           kNone,          kNone,         kNone,          {2, 0}},     //  2 kha ख
+    {WriteGa,          600,    kNone,           kNone,          kNone,         kNone,          {3, 0.2}},   //  3 ga ग
+    {WriteGha,         900,    {1008.75, 150},  {887.5, 150},   kNone,         {887.5, 112.5}, {4, 0.15}},  //  4 gha घ
+    {WriteNgaDda,      250,    kNone,           kNone,          kNone,         kNone,          {1, 0}},     //  5 nga ङ
+    {WriteCha,         165,    {273.75, 150},   {157.5, 150},   kNone,         kNone,          {1, 0.2}},   //  6 cha च
+    {WriteChha,        400,    {508.75, 27},    {420, 125},     {508.75, 27},  kNone,          {2, 0}},     //  7 chha छ
+    {WriteJa,          642.5,  {775, 150},      {657.5, 150},   kNone,         kNone,          {3, 0.2}},   //  8 ja ज
+    {WriteJha,         975,    {1025, 150},     {907.5, 150},   kNone,         {907.5, 125},   {4, 0.2}},   //  9 jha झ
+    {WriteNya,         212.5,  {262.5, 150},    {162.5, 150},   kNone,         kNone,          {1, 0.15}},  // 10 nya ञ
+    {WriteTtaTthaDdha, 225,    kNone,           kNone,          kNone,         kNone,          {1, 0}},     // 11 tta ट
+    {WriteTtaTthaDdha, 475,    kNone,           kNone,          kNone,         kNone,          {2, 0}},     // 12 ttha ठ
+    {WriteNgaDda,      750,    kNone,           kNone,          kNone,         kNone,          {3, 0}},     // 13 dda ड
+    {WriteTtaTthaDdha, 975,    kNone,           kNone,          kNone,         kNone,          {4, 0}},     // 14 ddha ढ
+    {WriteNna,         100,    kNone,           kNone,          kNone,         kNone,          {1, 0.2}},   // 15 nna ण
+    {WriteTa,          200,    kNone,           kNone,          kNone,         kNone,          {1, 0.15}},  // 16 ta त
+    {WriteThaSha,      412.5,  {525, 150},      {490, 75},      kNone,         kNone,          {2, 0.2}},   // 17 tha थ
+    {WriteDa,          750,    kNone,           kNone,          kNone,         kNone,          {3, 0.15}},  // 18 da द
+    {WriteDha,         900,    {1008.75, 150},  {970, 87.5},    kNone,         kNone,          {4, 0.15}},  // 19 dha ध
+    {WriteNa,          140,    {272.5, 150},    {157.5, 150},   kNone,         kNone,          {1, 0.2}},   // 20 na न
+    {WritePaPhaSsa,    120,    kNone,           kNone,          kNone,         kNone,          {1, 0.15}},  // 21 pa प
+    {WritePaPhaSsa,    337.5,  kNone,           kNone,          kNone,         kNone,          {2, 0.03}},  // 22 pha फ
+    {WriteBaVa,        737.5,  {747.5, 150},    {662.5, 125},   kNone,         kNone,          {3, 0.1}},   // 23 ba ब
+    {WriteBha,         900,    {1015, 150},     {965, 87.5},    kNone,         kNone,          {4, 0.15}},  // 24 bha भ
+    {WriteMa,          150,    {262.5, 150},    {160, 137.5},   kNone,         {150, 112.5},   {1, 0.15}},  // 25 ma म
+    {WriteYa,          162.5,  {275, 150},      {175, 125},     kNone,         {175, 100},     {1, 0.2}},   // 26 ya य
+    {WriteRa,          420,    kNone,           {437.5, 112.5}, kNone,         kNone,          {2, 0.1}},   // 27 ra र
+    {WriteLa,          690.75, {795, 150},      {637.5, 190},   kNone,         kNone,          {3, 0.27}},  // 28 la ल
+    {WriteBaVa,        987.5,  {997.5, 150},    {912.5, 125},   kNone,         kNone,          {4, 0.1}},   // 29 va व
+    {WriteThaSha,      162.5,  {275, 150},      {240, 75},      kNone,         kNone,          {1, 0.2}},   // 30 sha श
+    {WritePaPhaSsa,    337.5,  kNone,           kNone,          kNone,         kNone,          {2, 0.03}},  // 31 ssa ष
+    {WriteSa,          625,    {762.5, 150},    {624.75, 165},  kNone,         {650, 112.5},   {3, 0.16}},  // 32 sa स
+    {WriteHa,          1000,   kNone,           kNone,          kNone,         kNone,          {4, 0}},     // 33 ha ह
+    {WriteLla,         100,    kNone,           kNone,          kNone,         kNone,          {1, 0}},     // 34 lla ळ
+    {WriteKsha,        400,    {515, 150},      {465, 87.5},    kNone,         kNone,          {2, 0.16}},  // 35 ksha क्ष
+    {WriteTra,         712.5,  {762.5, 150},    {662.5, 150},   kNone,         kNone,          {3, 0.16}},  // 36 tra त्र
+    {WriteJnya,        900,    {1032.5, 150},   {907.5, 150},   kNone,         kNone,          {4, 0.24}},  // 37 jnya ज्ञ
 };
 // clang-format on
 static_assert(std::size(kLetters) == kHindiSetTiles);
