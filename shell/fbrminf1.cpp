@@ -1,0 +1,238 @@
+#include "shell/fbrminf1.h"
+
+#include <array>
+
+#include "shell/card_file.h"
+#include "shell/clock.h"
+#include "shell/drives.h"
+#include "shell/fbrminf1_layout.h"
+#include "shell/forms.h"
+#include "shell/label_button.h"
+#include "shell/load_picture.h"
+#include "shell/message_box.h"
+#include "shell/numbers.h"
+#include "shell/trap.h"
+
+namespace bramlee {
+namespace {
+
+const QString kName = QStringLiteral("fbrminf1");
+const QString kNew = QStringLiteral("New");
+const QString kIdCard = QStringLiteral("img");
+const QString kLogo = QStringLiteral("pic");
+const QString kIdCardPath = QStringLiteral("txt(3)");
+const QString kLogoPath = QStringLiteral("txt(4)");
+
+constexpr int kFields = 9;     ///< combos
+constexpr int kItemField = 3;  ///< the one that is no number
+constexpr int kNewButton = 12;
+constexpr int kSaveButton = 13;
+constexpr int kRemoveButton = 14;
+
+/// The nine texts of an item, in the combos' order.
+std::array<QString, kFields> TextsOf(const StudentRec& rec) {
+  return {QString::number(rec.EnterDay),   QString::number(rec.EnterMonth),
+          QString::number(rec.EnterYear),  Trim(rec.ItemName.Text()),
+          NumberText(rec.PricePerItem),    QString::number(rec.TotalItems),
+          QString::number(rec.ItemAmount), QString::number(rec.PocketMoney),
+          QString::number(rec.Balance)};
+}
+
+/// Loads the card afresh. nullptr when it has gone, while a message was read for instance.
+fbrminf1* LoadAgain() {
+  Form* card = LoadedForm(kName);
+  if (card == nullptr) return nullptr;
+  UnloadForm(card);
+  ShowForm(kName);
+  return qobject_cast<fbrminf1*>(LoadedForm(kName));
+}
+
+}  // namespace
+
+fbrminf1::fbrminf1() : Form(kName) {
+  setWindowTitle(QStringLiteral("BRAM-LEE: BioData"));
+  MakeCardControls(*this);
+  for (int i = 0; i < kFields; ++i) {
+    connect(Field(i), &Combo::Picked, this, [this, i] { cmb_Click(i); });
+  }
+  for (const int i : {kNewButton, kSaveButton, kRemoveButton}) {
+    connect(Named<Label>(Indexed("lbl", i)), &Label::Clicked, this, [this, i] { lbl_Click(i); });
+  }
+  SetCardRecNo(QStringLiteral("1"));
+  MakeMenus();
+}
+
+void fbrminf1::MakeMenus() {
+  QMenu* file = AddMenu(QStringLiteral("mnufile1"), QStringLiteral("&File"));
+  AddCommand(file, Indexed("mnufile", 1), QStringLiteral("&Back"), [this] { mnufile_Click(1); });
+  AddCommand(file, Indexed("mnufile", 2), QStringLiteral("&Exit"), [this] { mnufile_Click(2); });
+  QMenu* bio = AddMenu(QStringLiteral("mnubio1"), QStringLiteral("&BioData"));
+  AddCommand(bio, Indexed("mnubio", 1), QStringLiteral("&New"), [this] { mnubio_Click(1); });
+  AddCommand(bio, Indexed("mnubio", 2), QStringLiteral("&Save"), [this] { mnubio_Click(2); });
+  bio->menuAction()->setVisible(false);
+  AddBarItem(QStringLiteral("mnuref"), QStringLiteral("&Refresh"), [this] {
+    mnuref_Click();
+  })->setVisible(false);
+}
+
+void fbrminf1::Form_Load() {
+  Trap(QStringLiteral("601:23"), [this](ErrInfo&) { LayOutCard(*this); });
+  ProvideCard();
+  StudentRec rec;
+  LoadCard(rec);
+}
+
+void fbrminf1::lbl_Click(int index) {
+  Trap(QStringLiteral("601:23"), [this, index](ErrInfo&) {
+    if (index == kNewButton) NewCardItem();
+    if (index == kSaveButton) SaveClicked();
+    if (index == kRemoveButton) RemoveClicked();
+  });
+}
+
+void fbrminf1::cmb_Click(int index) {
+  ShowItem(Field(index)->currentIndex() + 1);
+}
+
+void fbrminf1::mnufile_Click(int index) {
+  if (index == 1) {
+    ShowForm(kName);
+    UnloadForm(this);
+  } else {
+    UnloadAll();
+    EndProgram();
+  }
+}
+
+void fbrminf1::mnubio_Click(int /*index*/) {}
+
+void fbrminf1::mnuref_Click() {
+  const QString idCard = Trim(TextOf(kIdCardPath));
+  const QString logo = Trim(TextOf(kLogoPath));
+  if (FileMissing(idCard)) return MsgBox(QStringLiteral("ID-Card Not Found"));
+  if (FileMissing(logo)) return MsgBox(QStringLiteral("School-Logo Not Found"));
+  ShowPicture(idCard, kLogo);
+  ShowPicture(logo, kIdCard);
+}
+
+std::int16_t fbrminf1::LoadCard(StudentRec& rec) {
+  const bool done = Trap({}, [&](ErrInfo&) {
+    for (int k = 0; k < kFields; ++k) Field(k)->clear();
+    const FileSlot slot = TakeSlot(kCardSlot);
+    const CardContents card = ReadCard(RecordFile(slot));
+    SetCardRecNo(QStringLiteral("1"));
+    rec = card.head;
+    if (card.hasHead) ShowCardHeader(card.head);
+    ShowItems(card);
+  });
+  return done ? 0 : 1;
+}
+
+void fbrminf1::ShowItems(const CardContents& card) {
+  std::array<qint64, 4> sums{};  // wider than the fields, so that they cannot overflow
+  for (const StudentRec& item : card.items) {
+    const std::array<QString, kFields> texts = TextsOf(item);
+    for (int k = 0; k < kFields; ++k) Field(k)->addItem(texts[static_cast<std::size_t>(k)]);
+    sums[0] += item.TotalItems;
+    sums[1] += item.ItemAmount;
+    sums[2] += item.PocketMoney;
+    sums[3] += item.Balance;
+  }
+  for (int i = 0; i < 4; ++i) {
+    SetText(Indexed("txt", 5 + i), QString::number(sums[static_cast<std::size_t>(i)]));
+  }
+  ShowItem(1);
+}
+
+void fbrminf1::ShowItem(std::int32_t recNo) {
+  SetCardRecNo(QString::number(recNo));
+  for (int k = 0; k < kFields; ++k) {
+    Combo* field = Field(k);
+    field->setCurrentIndex(recNo - 1);
+    field->setEditText(field->itemText(recNo - 1));  // also over what was typed
+  }
+}
+
+void fbrminf1::ShowCardHeader(const StudentRec& rec) {
+  SetText(Indexed("txt", 0), Trim(rec.StudentName.Text()));
+  SetText(Indexed("txt", 1), Trim(rec.ClassName.Text()));
+  SetText(Indexed("txt", 2), Trim(rec.TeacherName.Text()));
+  ShowPath(Trim(rec.IdCardPath.Text()), kIdCardPath, kIdCard);
+  ShowPath(Trim(rec.LogoPath.Text()), kLogoPath, kLogo);
+}
+
+void fbrminf1::ShowPath(const QString& path, const QString& textBox, const QString& picture) {
+  if (FileMissing(path)) return SetText(textBox, path + kCardNotFound);
+  SetText(textBox, path);
+  ShowPicture(path, picture);
+}
+
+void fbrminf1::ShowPicture(const QString& path, const QString& picture) {
+  const QPixmap loaded = LoadPicture(path);
+  if (!loaded.isNull()) Named<PictureBox>(picture)->SetPicture(loaded);
+}
+
+void fbrminf1::NewCardItem() {
+  const QDate today = Today();
+  for (int k = 0; k < kFields; ++k) {
+    Field(k)->setCurrentIndex(-1);
+    Field(k)->setEditText(QStringLiteral("?..."));
+  }
+  Field(0)->setEditText(QString::number(today.day()));
+  Field(1)->setEditText(QString::number(today.month()));
+  Field(2)->setEditText(QString::number(today.year()));
+  Field(kItemField)->setEditText(QStringLiteral("Item Name..."));
+  SetCardRecNo(kNew);
+}
+
+QString fbrminf1::CardRecNo() const {
+  return Named<Label>(Indexed("lbl", kSaveButton))->property("Tag").toString();
+}
+
+void fbrminf1::SetCardRecNo(const QString& text) {
+  Named<Label>(Indexed("lbl", kSaveButton))->setProperty("Tag", text);
+}
+
+fbrminf1::Target fbrminf1::TakeTarget() {
+  const bool isNew = Trim(CardRecNo()) == kNew;
+  if (isNew) SetCardRecNo(QString::number(Field(0)->count() + 1));
+  return {.recNo = RoundToLong(Val(CardRecNo())), .isNew = isNew};
+}
+
+/// A new item that could not be stored is still a new one at the next try.
+void fbrminf1::Failed(const Target& target) {
+  if (target.isNew) SetCardRecNo(kNew);
+}
+
+bool fbrminf1::ItemIsNumeric() {
+  for (int k = 0; k < kFields; ++k) {
+    SetBackColor(Field(k), kCardWhite);
+    if (k == kItemField || IsNumeric(Field(k)->currentText())) continue;
+    SetBackColor(Field(k), kCardRed);
+    Field(k)->setFocus();
+    MsgBox(QStringLiteral("Enter Numeric"));
+    return false;
+  }
+  return true;
+}
+
+void fbrminf1::SaveClicked() {
+  if (!ItemIsNumeric() || !LossesAreAgreedTo()) return;
+  Target target = TakeTarget();
+  if (SaveCard(target.recNo, target.isNew) != 0) return Failed(target);
+  MsgBox(QStringLiteral("Saved Successfully"));
+  if (fbrminf1* card = LoadAgain()) card->ShowItem(target.recNo);
+}
+
+void fbrminf1::RemoveClicked() {
+  const Target target = TakeTarget();
+  if (target.recNo == 1) {
+    Failed(target);
+    return MsgBox(QStringLiteral("First Record Cannot be Removed"));
+  }
+  if (RemoveCardItem(target.recNo) != 0) return Failed(target);
+  MsgBox(QStringLiteral("Removed Successfully"));
+  LoadAgain();
+}
+
+}  // namespace bramlee

@@ -1,0 +1,14 @@
+// The controls of the biodata card and where they stand.
+#pragma once
+
+namespace bramlee {
+
+class Form;
+
+/// Makes the controls, in the order in which Tab goes through them.
+void MakeCardControls(Form& card);
+
+/// Sizes the form from the screen, centres it and places its controls.
+void LayOutCard(Form& card);
+
+}  // namespace bramlee
