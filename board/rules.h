@@ -21,7 +21,7 @@ struct SheetExtent {
 
 inline constexpr SheetExtent kCapitalsExtent{400, 400 + 800, 50, 50 + 400, 100, 200};
 inline constexpr SheetExtent kSmallExtent{400, 400 + 800, 50, 50 + 300, 75, 200};
-inline constexpr SheetExtent kWideExtent{100, 100 + 1000, 250, 250 + 300, (50 / 2) * 3, 250};
+inline constexpr SheetExtent kWideExtent{100, 100 + 1000, 250, 250 + 300, 50 / 2.0 * 3, 250};
 
 /// Which of a sheet's five row lines a rule is made of.
 enum class RuleLines : std::uint8_t {

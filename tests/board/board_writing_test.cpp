@@ -144,11 +144,38 @@ TEST_F(BoardWriting, AGroupStartBringsTheGridBackOnEveryBoardAndTheRuleOnAllButC
   }
 }
 
-TEST_F(BoardWriting, OneRuleComesBackTheFirstThatIsMarked) {
+TEST_F(BoardWriting, OnCapitalsEveryGroupStartBringsTheGridBackAndNeverTheRule) {
+  Board& board = Open("fbrmengc02");
+  Pick(board, "mnurulled(4)");
+  for (const int tile : {1, 5, 9, 13, 17, 21, 25}) {
+    board.pic_Click(tile);
+    EXPECT_TRUE(IsBlank(board, 1180, 450)) << tile;
+  }
+  Pick(board, "mnugrid");
+  for (const int tile : {1, 5, 9, 13, 17, 21, 25}) {
+    board.pic_Click(tile);
+    EXPECT_EQ(ColourAt(board, 1180, 450), kBlue) << tile;
+  }
+  EXPECT_EQ(Marked(board, "mnurulled", 5), std::vector<int>{4});
+}
+
+TEST_F(BoardWriting, AfterDrawAllTheNextCueIsOfTheFirstFormat) {
+  Board& board = Open("fbrmengc02");
+  Pick(board, "mnuaud");
+  Pick(board, "mnufor(2)");
+  board.pic_Click(2);
+  Pick(board, "mnudall");
+  board.SetChecked(Q("mnuaud"), true);  // Play alone, as a pick would take the format along
+  board.pic_Click(2);
+  EXPECT_EQ(boxes, (QStringList{Q(R"(C:\bramlee\aud\engc\eng-b.mp3 Not Found: )"),
+                                Q(R"(C:\bramlee\aud\engc\eng-b.wma Not Found: )")}));
+}
+
+TEST_F(BoardWriting, TheRuleComesBackByItsFlag) {
   Board& board = Open("fbrmengs01");
   board.SetText(Q("txtundo(27)"), Q("1"));
   board.pic_Click(1);
-  board.SetChecked(Q("mnurulled(3)"), true);
+  EXPECT_EQ(Marked(board, "mnurulled", 5), std::vector<int>{1});
   EXPECT_EQ(ColourAt(board, 1100, 275), kBlue);
   EXPECT_TRUE(IsBlank(board, 1100, 125));
 }
