@@ -1,8 +1,9 @@
 #include "maths/result_box.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QTextDocument>
 #include <algorithm>
+#include <cmath>
 
 namespace bramlee {
 namespace {
@@ -11,12 +12,16 @@ namespace {
 constexpr int kLargest = 30;
 constexpr int kSmallest = 14;
 
+/// Around the text, in pixels; brings a result level with the operands beside it.
+constexpr double kMargin = 8;
+
 }  // namespace
 
 ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
   setReadOnly(true);
   setTabChangesFocus(true);
   setLineWrapMode(QPlainTextEdit::NoWrap);
+  document()->setDocumentMargin(kMargin);
 }
 
 void ResultBox::SetText(const QString& text) {
@@ -26,11 +31,11 @@ void ResultBox::SetText(const QString& text) {
 }
 
 QFont ResultBox::FittingFont(int lines) const {
-  const double room = height() - 2 * (frameWidth() + document()->documentMargin());
+  const double room = height() - 2 * (frameWidth() + kMargin);
   QFont sized = font();
   for (int pixels = kLargest; pixels >= kSmallest; --pixels) {
     sized.setPixelSize(pixels);
-    if (lines * QFontMetrics(sized).lineSpacing() <= room) break;
+    if (lines * std::ceil(QFontMetricsF(sized).lineSpacing()) <= room) break;
   }
   return sized;
 }
