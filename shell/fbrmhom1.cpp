@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "shell/forms.h"
+#include "shell/home_ground.h"
 #include "shell/message_box.h"
 #include "shell/numbers.h"
 #include "shell/report.h"
@@ -109,10 +110,23 @@ void PlaceColumn(const Form& home, int first, double left, double top, double ga
   }
 }
 
+/// Between the columns, below the captions.
+TwipsRect PencilRoom(const Form& home) {
+  const TwipsRect left = PlaceOf(home.Named<PictureBox>(Indexed("pic", kSubjects)));
+  const TwipsRect right = PlaceOf(home.Named<PictureBox>(Indexed("pic", 2)));
+  const double from = left.left + left.width + 2 * kBesideTile;
+  const double top = std::max(kLabelTop[3] + kLabelHeight, right.top) + kBesideTile;
+  return {.left = from,
+          .top = top,
+          .width = right.left - 2 * kBesideTile - from,
+          .height = left.top + left.height - top};
+}
+
 }  // namespace
 
 fbrmhom1::fbrmhom1() : Form(QStringLiteral("fbrmhom1"), Kind::FrameChild) {
   setWindowTitle(QStringLiteral("BRAM-LEE: Home"));
+  SetClient(new HomeGround(this));
   SetGround(0x00FFF4E0);
   // Where they meet, the title lies lowest and the tiles on top.
   MakeTitle();
@@ -215,6 +229,7 @@ void fbrmhom1::LayOut(const ScreenRec& rec) {
         PlaceColumn(*this, 1, last.left, top, 2 * u);
         const double width = PlaceOf(Named<PictureBox>(Indexed("pic", 2))).width;
         PlaceColumn(*this, 2, last.left + last.width - width, top, 2 * u);
+        static_cast<HomeGround*>(client())->SetPencilRoom(PixelsOf(PencilRoom(*this)));
       },
       [](ErrInfo&) { MsgBox(QStringLiteral("ERROR2")); });
 }
