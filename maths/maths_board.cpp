@@ -30,7 +30,8 @@ constexpr double kSignHeight = 1725;
 
 void LayOutTiles(Board& board) {
   for (int i = 0; i < kDigits; ++i) {
-    board.PlaceTile(i + 1, kLeft + i % kColumns * kColumnPitch, kTop + i / kColumns * kRowPitch);
+    const int row = i / kColumns;
+    board.PlaceTile(i + 1, kLeft + i % kColumns * kColumnPitch, kTop + row * kRowPitch);
   }
   for (int i = kDigits; i < kTiles; ++i) {
     board.PlaceTile(i + 1, kLeft + (kColumns + i - kDigits) * kColumnPitch, kTop, kSignWidth,

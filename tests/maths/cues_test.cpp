@@ -95,5 +95,13 @@ TEST_F(MathsCues, NumberTooLargeForACueEndsTheHandlerQuietly) {
   EXPECT_EQ(TextOf("txtaud"), QStringLiteral("1"));
 }
 
+TEST_F(MathsCues, DigitWithoutAPlaceIsSpokenThoughNotWritten) {
+  Find<QLineEdit>("txtalt3")->setText(QStringLiteral("3"));
+  Find<QLineEdit>("txtaltno")->setText(QStringLiteral("6"));
+  ClickTile(2);
+  EXPECT_EQ(messages, QStringList{CueOf(2)});
+  EXPECT_FALSE(InkBetween(0, 1250));
+}
+
 }  // namespace
 }  // namespace bramlee

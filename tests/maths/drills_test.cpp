@@ -312,6 +312,23 @@ TEST_F(Drills, OperandsAndResultOutliveADrillAndItsWipe) {
   EXPECT_EQ(EntryOf("cmb(18)"), QStringLiteral("abc"));
 }
 
+TEST_F(Drills, RowStaysWhereItIsThroughWipesAndGroupStarts) {
+  Pick("mnuadd");
+  Pick("mnunum");
+  Type("cmb(16)", "12");
+  const char* const row[] = {"cmb(16)", "pic1(11)", "cmb(18)", "picequal", "txtval(20)"};
+  QList<QRect> places;
+  for (const char* control : row) places.append(Find<QWidget>(control)->geometry());
+  ClickTile(1);
+  Pick("mnuclear1");
+  EXPECT_TRUE(RowShown());
+  EXPECT_EQ(Signs(), QStringLiteral("11"));
+  EXPECT_EQ(EntryOf("cmb(16)"), QStringLiteral("12"));
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(Find<QWidget>(row[i])->geometry(), places[i]) << row[i];
+  EXPECT_EQ(CheckedMathsItems(), QStringList{QStringLiteral("mnunum")});
+  EXPECT_TRUE(MenuShown("mnudraw"));
+}
+
 TEST_F(Drills, PickingADrillClearsTheSheet) {
   ClickTile(2);
   ASSERT_TRUE(InkBetween(100, 1100));
