@@ -34,8 +34,9 @@ class Planes {
     const double deviceX = (static_cast<double>(x) - area_.x()) * Ratio() + stamps_.Reach() + 1;
     const double deviceY = (static_cast<double>(y) - area_.y()) * Ratio() + stamps_.Reach() + 1;
     if (!(deviceX >= 0 && deviceX < limitX_ && deviceY >= 0 && deviceY < limitY_)) return;
-    const int placeX = static_cast<int>(deviceX * phases + 0.5);
-    const int placeY = static_cast<int>(deviceY * phases + 0.5);
+    const double half = 0.5 / phases;  // cutting off then takes the nearest phase
+    const int placeX = static_cast<int>((deviceX + half) * phases);
+    const int placeY = static_cast<int>((deviceY + half) * phases);
     const int column = placeX / Stamps::kPhases;
     const int row = placeY / Stamps::kPhases;
     SetBits(stamps_.At(placeX % Stamps::kPhases, placeY % Stamps::kPhases), column, row);
