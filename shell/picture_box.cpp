@@ -117,7 +117,11 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
     if (PictureBox* next = Neighbour(*this, event->key())) next->setFocus(Qt::TabFocusReason);
     return;
   }
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    // A key that is held would go on writing its letter long after it is let go.
+    if (!event->isAutoRepeat()) click();
+    return;
+  }
   QAbstractButton::keyPressEvent(event);
 }
 
