@@ -3,7 +3,6 @@
 #include <QAudioBuffer>
 #include <QAudioDevice>
 #include <QMediaDevices>
-#include <QTimer>
 #include <QUrl>
 #include <utility>
 
@@ -22,6 +21,13 @@ constexpr int kTakeUpMs = 1000;
 constexpr int kWarmUp = -1;
 
 }  // namespace
+
+SoundWorker::SoundWorker() : takeUp_(this) {
+  takeUp_.setSingleShot(true);
+  connect(&takeUp_, &QTimer::timeout, this, [this] {
+    if (decoder_) TakeDecoded();
+  });
+}
 
 void SoundWorker::Play(int number, const QStringList& files) {
   Stop();
@@ -76,19 +82,28 @@ void SoundWorker::NextFile() {
     return StartSink();
   }
   decoder_ = std::make_unique<QAudioDecoder>();
-  connect(decoder_.get(), &QAudioDecoder::bufferReady, this, &SoundWorker::TakeDecoded);
-  connect(decoder_.get(), &QAudioDecoder::finished, this, &SoundWorker::DecoderEnded);
-  connect(decoder_.get(), qOverload<QAudioDecoder::Error>(&QAudioDecoder::error), this,
-          &SoundWorker::DecoderEnded);
+  ++decoderNo_;
+  const auto told = [this](void (SoundWorker::*what)()) {
+    // It tells of itself from its own threads, and may be heard after it was let go.
+    return [this, what, decoderNo = decoderNo_] {
+      if (decoder_ && decoderNo == decoderNo_) (this->*what)();
+    };
+  };
+  const auto listen = [&](auto signal, void (SoundWorker::*what)()) {
+    connect(decoder_.get(), signal, this, told(what), Qt::QueuedConnection);
+  };
+  listen(&QAudioDecoder::bufferReady, &SoundWorker::TakeDecoded);
+  listen(&QAudioDecoder::finished, &SoundWorker::DecoderEnded);
+  listen(qOverload<QAudioDecoder::Error>(&QAudioDecoder::error), &SoundWorker::DecoderEnded);
   decoder_->setAudioFormat(PcmFormat());
   decoder_->setSource(QUrl::fromLocalFile(files_.takeFirst()));
   decoder_->start();
 }
 
 void SoundWorker::TakeDecoded() {
-  while (decoder_ && decoder_->bufferAvailable()) {
+  while (decoder_->bufferAvailable()) {
     if (pcm_->AheadMs() > kMostAheadMs) {
-      QTimer::singleShot(kTakeUpMs, decoder_.get(), [this] { TakeDecoded(); });
+      takeUp_.start(kTakeUpMs);
       return;
     }
     const QAudioBuffer buffer = decoder_->read();
@@ -101,7 +116,6 @@ void SoundWorker::TakeDecoded() {
 
 /// Both of a good end and of an error: what was decoded so far is played.
 void SoundWorker::DecoderEnded() {
-  if (!decoder_) return;
   LetGoOfDecoder();
   NextFile();
 }
@@ -115,18 +129,23 @@ void SoundWorker::StartSink() {
   if (sink_->error() != QAudio::NoError) End(SoundEnd::NoDevice);
 }
 
-/// It may be telling something just now, so it goes later; it stops at once, since its own threads
-/// would go on telling one that is half gone.
+/// It stops before it goes: its own threads would go on telling one that is half gone.
 void SoundWorker::LetGoOfDecoder() {
   if (!decoder_) return;
   decoder_->disconnect(this);
   decoder_->stop();
-  decoder_.release()->deleteLater();
+  decoder_.reset();
 }
 
+/// A sink that is destroyed serves waiting events first, the next cue's among them: that is left
+/// to the event loop, and the sink takes along what it reads from.
 void SoundWorker::LetGo() {
   LetGoOfDecoder();
-  sink_.reset();
+  if (sink_) {
+    sink_->stop();
+    pcm_.release()->setParent(sink_.get());
+    sink_.release()->deleteLater();
+  }
   pcm_.reset();
   warmUpFiles_.reset();
 }

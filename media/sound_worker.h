@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <memory>
 
 #include "media/pcm_source.h"
@@ -18,6 +19,8 @@ namespace bramlee {
 class SoundWorker : public QObject {
   Q_OBJECT
  public:
+  SoundWorker();
+
   /// Plays the files one after the other under one number.
   void Play(int number, const QStringList& files);
   /// Plays the short silent files, unless something is playing.
@@ -43,6 +46,8 @@ class SoundWorker : public QObject {
   std::unique_ptr<QTemporaryDir> warmUpFiles_;
   std::unique_ptr<PcmSource> pcm_;
   std::unique_ptr<QAudioDecoder> decoder_;
+  int decoderNo_ = 0;  ///< counts the decoders
+  QTimer takeUp_;      ///< of a decoder that had to wait
   std::unique_ptr<QAudioSink> sink_;
   bool decodedAny_ = false;
   double rate_ = 1;

@@ -9,9 +9,12 @@
 
 namespace bramlee {
 
-/// A .wav file of one channel with a tone of that pitch (Hz; 0 is silence) from its first sample.
-inline QByteArray ToneWave(double pitch, int ms, int rate = 22050) {
-  const int samples = static_cast<int>(std::int64_t{rate} * ms / 1000);
+/// A .wav file of one channel with a tone of that pitch (Hz) from its first sample, and silence
+/// behind it.
+inline QByteArray ToneWave(double pitch, int ms, int silenceMs = 0) {
+  constexpr int kRate = 22050;
+  const int sounding = static_cast<int>(std::int64_t{kRate} * ms / 1000);
+  const int samples = sounding + static_cast<int>(std::int64_t{kRate} * silenceMs / 1000);
   QByteArray file;
   const auto append = [&file](auto number) {
     number = qToLittleEndian(number);
@@ -23,15 +26,15 @@ inline QByteArray ToneWave(double pitch, int ms, int rate = 22050) {
   append(std::uint32_t{16});
   append(std::uint16_t{1});
   append(std::uint16_t{1});
-  append(static_cast<std::uint32_t>(rate));
-  append(static_cast<std::uint32_t>(rate * 2));
+  append(static_cast<std::uint32_t>(kRate));
+  append(static_cast<std::uint32_t>(kRate * 2));
   append(std::uint16_t{2});
   append(std::uint16_t{16});
   file += "data";
   append(static_cast<std::uint32_t>(samples * 2));
   for (int i = 0; i < samples; ++i) {
-    append(static_cast<std::int16_t>(
-        std::lround(9000 * std::cos(6.283185307 * pitch * i / rate) * (pitch > 0 ? 1 : 0))));
+    const double level = i < sounding ? 9000 * std::cos(6.283185307 * pitch * i / kRate) : 0;
+    append(static_cast<std::int16_t>(std::lround(level)));
   }
   return file;
 }

@@ -1,0 +1,140 @@
+// cue_latency [FILE...]: milliseconds from asking for a cue to its first audible sample, while the
+// window's thread is held as by a letter's strokes. Each file is played first in a process of its
+// own, without and with warming up, then twenty times in one that is warm. Without files: a tone
+// in each format. The sounds go to a sound server of its own, nobody hears them.
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QThread>
+#include <algorithm>
+#include <cstdio>
+#include <stdexcept>
+#include <vector>
+
+#include "media/media.h"
+#include "media/play_media_file.h"
+#include "tests/media/sound_files.h"
+#include "tests/media/sound_rig.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kTimes = 20;
+constexpr unsigned long kWarmUpMs = 2000;
+constexpr double kLongestMs = 1200;
+
+/// Asks for the file and holds the thread; -1 when nothing is heard.
+double LatencyMs(const Recorder48& recorder, const QString& file) {
+  const double begin = NowMs();
+  PlayMediaFile(file);
+  QThread::msleep(static_cast<unsigned long>(kLongestMs));
+  const auto first = recorder.Until(begin + kLongestMs).Between(begin, begin + kLongestMs);
+  return first.FirstSoundMs().value_or(begin - 1) - begin;
+}
+
+/// The first cue of this process.
+int MeasureFirst(const QString& file, bool warm) {
+  RegisterMedia();
+  const Recorder48 recorder;
+  if (warm) {
+    WarmUpPlayer();
+    QThread::msleep(kWarmUpMs);
+  }
+  std::printf("%.0f", LatencyMs(recorder, file));
+  return 0;
+}
+
+double FirstInAProcess(const QString& how, const QString& file) {
+  QProcess process;
+  process.start(QCoreApplication::applicationFilePath(), {how, file});
+  process.waitForFinished(-1);
+  return process.readAllStandardOutput().toDouble();
+}
+
+QStringList MakeTones(const QDir& folder) {
+  QFile wave(folder.filePath(QStringLiteral("tone.wav")));
+  if (!wave.open(QIODevice::WriteOnly)) throw std::runtime_error("no tone can be written");
+  wave.write(ToneWave(440, 600, 100));
+  wave.close();
+  QStringList files{QStringLiteral("C:\\tone.wav")};
+  for (const QString& format : {QStringLiteral("mp3"), QStringLiteral("wma")}) {
+    QStringList arguments{QStringLiteral("-loglevel"), QStringLiteral("error"),
+                          QStringLiteral("-i"), wave.fileName()};
+    if (format == QStringLiteral("wma")) {
+      arguments << QStringLiteral("-c:a") << QStringLiteral("wmav2");
+    }
+    const QString made = folder.filePath(QStringLiteral("tone.") + format);
+    if (QProcess::execute(QStringLiteral("ffmpeg"), arguments << made) == 0) {
+      files << QStringLiteral("C:\\tone.") + format;
+    }
+  }
+  return files;
+}
+
+/// Puts copies of the files on drive C:.
+QStringList CopyFiles(const QStringList& given, const QDir& folder) {
+  QStringList files;
+  for (const QString& file : given) {
+    const QString name = QFileInfo(file).fileName();
+    QFile::copy(file, folder.filePath(name));
+    files << QStringLiteral("C:\\") + name;
+  }
+  return files;
+}
+
+int MeasureAll(const QStringList& given) {
+  const QTemporaryDir drives;
+  qputenv("BRAMLEE_DRIVES", QFile::encodeName(drives.path()));
+  const QDir folder(drives.filePath(QStringLiteral("c")));
+  folder.mkpath(QStringLiteral("."));
+  const SoundServer server;
+  const QStringList files = given.isEmpty() ? MakeTones(folder) : CopyFiles(given, folder);
+  std::printf("%-16s %10s %10s %8s %8s %8s   (ms)\n", "cue", "first cold", "first warm", "least",
+              "median", "most");
+  std::vector<double> cold;
+  std::vector<double> warmed;
+  FirstInAProcess(QStringLiteral("--cold"), files.first());  // reads the programs from the disk
+  for (const QString& file : files) {
+    cold.push_back(FirstInAProcess(QStringLiteral("--cold"), file));
+    warmed.push_back(FirstInAProcess(QStringLiteral("--warm"), file));
+  }
+  RegisterMedia();
+  const Recorder48 recorder;
+  WarmUpPlayer();
+  QThread::msleep(kWarmUpMs);
+  for (qsizetype i = 0; i < files.size(); ++i) {
+    std::vector<double> times;
+    for (int time = 0; time < kTimes; ++time) times.push_back(LatencyMs(recorder, files[i]));
+    std::sort(times.begin(), times.end());
+    const auto at = static_cast<std::size_t>(i);
+    std::printf("%-16s %10.0f %10.0f %8.0f %8.0f %8.0f\n", qPrintable(files[i].mid(3)), cold[at],
+                warmed[at], times.front(), times[kTimes / 2], times.back());
+  }
+  return 0;
+}
+
+int Run(const QStringList& arguments) {
+  if (arguments.size() == 2 && arguments[0] == QStringLiteral("--cold")) {
+    return MeasureFirst(arguments[1], false);
+  }
+  if (arguments.size() == 2 && arguments[0] == QStringLiteral("--warm")) {
+    return MeasureFirst(arguments[1], true);
+  }
+  return MeasureAll(arguments);
+}
+
+}  // namespace
+}  // namespace bramlee
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication app(argc, argv);
+  try {
+    return bramlee::Run(QCoreApplication::arguments().mid(1));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "cue_latency: %s\n", error.what());
+    return 1;
+  }
+}
