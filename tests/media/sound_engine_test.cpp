@@ -72,7 +72,7 @@ TEST_F(SoundEngineWithoutDevice, FilesThatAreNoSoundEndSilently) {
   EXPECT_EQ(EndOf(Made("empty.wav", "")), SoundEnd::NoSound);
   EXPECT_EQ(EndOf(folder.path()), SoundEnd::NoSound);
   QByteArray bytes;
-  for (int i = 0; i < 20000; ++i) bytes.append(static_cast<char>(i * i * 31 % 251));
+  for (unsigned i = 0; i < 20000; ++i) bytes.append(static_cast<char>(i * i * 31 % 251));
   EXPECT_EQ(EndOf(Made("random.wav", bytes)), SoundEnd::NoSound);
   EXPECT_EQ(EndOf(Made("random.mp3", bytes)), SoundEnd::NoSound);
   EXPECT_EQ(EndOf(Made("random.wma", bytes)), SoundEnd::NoSound);
