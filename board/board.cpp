@@ -6,6 +6,7 @@
 
 #include "board/reach.h"
 #include "letters/letter_names.h"
+#include "media/media.h"
 #include "shell/forms.h"
 #include "shell/numbers.h"
 #include "shell/screen.h"
@@ -205,6 +206,7 @@ void Board::mnuaud_Click() {
     if (on) {
       SetChecked(QStringLiteral("mnufor(1)"), true);
       Uncheck("mnuspd", kSpeeds);
+      WarmUpPlayer();  // a letter will be asked for in a moment
     } else {
       Uncheck("mnufor", kFormats);
     }
