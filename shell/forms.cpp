@@ -29,8 +29,8 @@ FormList& List() {
 
 }  // namespace
 
-void RegisterForm(const QString& name, std::function<Form*()> make) {
-  List().makers.insert(name, std::move(make));
+void RegisterForm(const QString& name, const std::function<Form*()>& make) {
+  List().makers.insert(name, make);
 }
 
 Form* LoadedForm(const QString& name) {
@@ -58,9 +58,14 @@ void ShowForm(const QString& name) {
 
 namespace {
 
-/// Unloads those of the loaded forms, the last first. Copied: unloading one may unload others.
-void UnloadFromTheLast(QList<Form*> forms) {
+/// Unloads these, the last first. They are not the list itself, from which each takes itself off,
+/// and maybe others.
+void UnloadFromTheLast(const QList<Form*>& forms) {
   for (auto form = forms.crbegin(); form != forms.crend(); ++form) UnloadForm(*form);
+}
+
+QList<Form*> AllForms() {
+  return List().loaded;
 }
 
 QList<Form*> FormsInTheFrame() {
@@ -89,7 +94,7 @@ const QList<Form*>& LoadedForms() {
 
 void UnloadAll() {
   List().unloadingAll = true;
-  Trap(QStringLiteral("com1:20"), [](ErrInfo&) { UnloadFromTheLast(List().loaded); });
+  Trap(QStringLiteral("com1:20"), [](ErrInfo&) { UnloadFromTheLast(AllForms()); });
   List().unloadingAll = false;
 }
 

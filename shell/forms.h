@@ -12,7 +12,7 @@ class Form;
 
 /// Makes known how the form of that name is made. Done once, at the start of the program, by
 /// the folder that holds the form.
-void RegisterForm(const QString& name, std::function<Form*()> make);
+void RegisterForm(const QString& name, const std::function<Form*()>& make);
 
 /// The form of that name, loaded unseen if it was not. nullptr for a name that no folder has
 /// made known, and for one not loaded while UnloadAll runs.
