@@ -11,15 +11,17 @@ namespace {
 constexpr double kFullScale = 32767;
 const double kAverage = kFullScale * std::pow(10, -20.0 / 20);
 const double kPeak = kFullScale * std::pow(10, -1.0 / 20);
-/// What is not louder is silence: half a per cent of full scale.
-constexpr int kSilence = 164;
+/// What is not louder is silence: a hundredth of full scale, half of it in speech not yet levelled.
+constexpr int kSilence = 328;
+constexpr int kSilenceBefore = kSilence / 2;
 
 // In milliseconds. The decoders of .mp3 and .wma give up to 32 ms of silence of their own before
 // a sound, so its own may only be short for a sound to begin within 50 ms; there must be some, as
 // other players leave those 32 ms out.
-constexpr int kAheadMs = 16;
+constexpr int kAheadMs = 10;
 constexpr int kBehindMs = 60;
-constexpr int kKeptMs = 5;  ///< of what was cut off, for a soft beginning
+constexpr int kKeptAheadMs = 5;  ///< of what is cut off, for a soft beginning and end
+constexpr int kKeptBehindMs = 20;
 constexpr int kFadeInMs = 3;
 constexpr int kFadeOutMs = 10;
 
@@ -49,15 +51,16 @@ std::size_t Samples(const SpeechWave& wave, int ms) {
   return static_cast<std::size_t>(wave.rate) * static_cast<std::size_t>(ms) / 1000;
 }
 
-/// The speech from its first loud sample to its last, with a little of what is around it.
-std::vector<std::int16_t> Spoken(const SpeechWave& speech) {
-  const auto loud = [](std::int16_t sample) { return std::abs(int{sample}) > kSilence; };
+/// What is louder than `silence`, from first to last, with a little of what is around it.
+std::vector<std::int16_t> Spoken(const SpeechWave& speech, int silence) {
+  const auto loud = [silence](std::int16_t sample) { return std::abs(int{sample}) > silence; };
   const auto& all = speech.samples;
   const auto first = std::find_if(all.begin(), all.end(), loud);
   if (first == all.end()) return {};
   const auto last = std::find_if(all.rbegin(), all.rend(), loud).base();
-  const auto kept = static_cast<std::ptrdiff_t>(Samples(speech, kKeptMs));
-  return {first - std::min(kept, first - all.begin()), last + std::min(kept, all.end() - last)};
+  const auto ahead = static_cast<std::ptrdiff_t>(Samples(speech, kKeptAheadMs));
+  const auto behind = static_cast<std::ptrdiff_t>(Samples(speech, kKeptBehindMs));
+  return {first - std::min(ahead, first - all.begin()), last + std::min(behind, all.end() - last)};
 }
 
 double LevelGain(const std::vector<std::int16_t>& samples) {
@@ -116,16 +119,19 @@ QByteArray WriteWave(const SpeechWave& wave) {
 }
 
 SpeechWave MakeCue(const SpeechWave& speech) {
-  std::vector<std::int16_t> spoken = Spoken(speech);
-  if (spoken.empty()) return {.rate = speech.rate, .samples = {}};
-  const double gain = LevelGain(spoken);
+  SpeechWave level{.rate = speech.rate, .samples = Spoken(speech, kSilenceBefore)};
+  if (level.samples.empty()) return level;
+  const double gain = LevelGain(level.samples);
+  for (std::int16_t& sample : level.samples) {
+    sample = static_cast<std::int16_t>(std::lround(sample * gain));
+  }
+  std::vector<std::int16_t> spoken = Spoken(level, kSilence);
   const double fadeIn = static_cast<double>(Samples(speech, kFadeInMs));
   const double fadeOut = static_cast<double>(Samples(speech, kFadeOutMs));
   for (std::size_t i = 0; i < spoken.size(); ++i) {
     const double begun = static_cast<double>(i + 1) / fadeIn;
     const double left = static_cast<double>(spoken.size() - i) / fadeOut;
-    const double level = gain * std::min({1.0, begun, left});
-    spoken[i] = static_cast<std::int16_t>(std::lround(spoken[i] * level));
+    spoken[i] = static_cast<std::int16_t>(std::lround(spoken[i] * std::min({1.0, begun, left})));
   }
   SpeechWave cue{.rate = speech.rate,
                  .samples = std::vector<std::int16_t>(Samples(speech, kAheadMs))};

@@ -1,0 +1,344 @@
+// bramlee-sounds as its users run it: what it speaks, makes, keeps and refuses.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QThread>
+#include <map>
+
+#include "tests/tools/decoded.h"
+#include "tests/tools/run_tool.h"
+
+namespace bramlee {
+namespace {
+
+ToolRun Sounds(const QStringList& arguments) {
+  return RunTool(QStringLiteral("bramlee-sounds"), arguments);
+}
+
+class SoundsMaker : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    for (const char* program : {"espeak-ng", "ffmpeg"}) {
+      if (QStandardPaths::findExecutable(QString::fromLatin1(program)).isEmpty()) {
+        GTEST_SKIP() << "needs " << program;
+      }
+    }
+  }
+
+  /// Makes a part of the pack on the test's drive; `arguments` are parted by blanks.
+  ToolRun Make(const char* arguments) const {
+    return Sounds(QString::fromLatin1(arguments).split(u' ', Qt::SkipEmptyParts) << drive.path());
+  }
+
+  QString At(const char* file) const {
+    return drive.filePath(QStringLiteral("bramlee/aud/") + QString::fromLatin1(file));
+  }
+  void Put(const char* file, const QByteArray& bytes) const {
+    QDir().mkpath(QFileInfo(At(file)).path());
+    QFile made(At(file));
+    ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    made.write(bytes);
+  }
+  QByteArray Bytes(const char* file) const {
+    QFile made(At(file));
+    return made.open(QIODevice::ReadOnly) ? made.readAll() : QByteArray();
+  }
+
+  /// All files below the media folder.
+  QStringList Files() const {
+    QStringList files;
+    const QDir root(At(""));
+    for (QDirIterator it(root.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+         it.hasNext();) {
+      files.append(root.relativeFilePath(it.next()));
+    }
+    files.sort();
+    return files;
+  }
+
+  /// File and phonemes, as --phonemes tells them.
+  static std::map<QString, QString> Phonemes(const char* sets) {
+    const ToolRun run =
+        Sounds({QStringLiteral("--phonemes"), QStringLiteral("--sets"), QString::fromLatin1(sets)});
+    EXPECT_EQ(run.status, 0);
+    std::map<QString, QString> phonemes;
+    for (const QString& line : QString::fromUtf8(run.out).split(u'\n', Qt::SkipEmptyParts)) {
+      const QStringList cells = line.split(u'\t');
+      EXPECT_EQ(cells.size(), 4) << line.toStdString();
+      phonemes[cells.first()] = cells.last();
+    }
+    return phonemes;
+  }
+
+  QTemporaryDir drive;
+};
+
+TEST_F(SoundsMaker, CanSayEverythingInItsOwnLanguage) {
+  const auto phonemes = Phonemes("engc,engs,hinv,hinc,telv,telc,mat");
+  EXPECT_EQ(phonemes.size(), 26U + 26 + 29 + 111 + 36 + 75 + 17);
+  for (const auto& [file, said] : phonemes) {
+    EXPECT_FALSE(said.isEmpty()) << file.toStdString();
+    for (const char* wrong : {"|", "(en)", "_:_:_"}) {
+      EXPECT_FALSE(said.contains(QString::fromLatin1(wrong)))
+          << file.toStdString() << ": " << said.toStdString();
+    }
+  }
+}
+
+// The consonants in the order of both alphabets, as their sounds are named.
+constexpr const char* kHindiSounds[] = {
+    "k",   "k#", "g", "g#", "N",  "c",  "c#", "J",  "J#",  "n^", "t.", "t.#", "d.",
+    "d.#", "n.", "t", "t#", "d",  "d#", "n",  "p",  "p#",  "b",  "b#", "m",   "j",
+    "r",   "l",  "v", "S",  "s.", "s",  "H",  "l.", "ks.", "tr", "gj"};
+static_assert(std::size(kHindiSounds) == 37);
+
+TEST_F(SoundsMaker, SpeaksHindiConsonantsAsTheirOwnSounds) {
+  const auto phonemes = Phonemes("hinc");
+  const auto said = [&](int tile) {
+    return phonemes.at(QStringLiteral("hin/hinc/hinc-%1").arg(tile)).toStdString();
+  };
+  for (int letter = 1; letter <= 37; ++letter) {
+    const std::string sound = kHindiSounds[letter - 1];
+    EXPECT_EQ(said(letter), sound + "'V:");
+    EXPECT_EQ(said(letter + 37), "'a:d#a: " + sound + "'V:");
+    if (letter == 27) continue;
+    EXPECT_EQ(said(letter + 74), sound + (letter <= 33 ? "r" : "") + "'V:");
+  }
+  EXPECT_EQ(said(27 + 74), "r@r'V:");
+}
+
+TEST_F(SoundsMaker, SpeaksTheVowelsAsTheirOwnSounds) {
+  const auto phonemes = Phonemes("hinv,telv");
+  const char* const kHindi[] = {"'V:", "'a:", "'I",  "'i:", "'U",  "'u:", "r'I",
+                                "'e:", "'E:", "'o:", "'O:", "'VN", "'VH@"};
+  for (int tile = 1; tile <= 13; ++tile) {
+    EXPECT_EQ(phonemes.at(QStringLiteral("hin/hinv/hinv-%1").arg(tile)).toStdString(),
+              kHindi[tile - 1]);
+  }
+  const std::map<int, const char*> kTelugu = {
+      {1,  "'a"  },
+      {2,  "'a:" },
+      {3,  "'i"  },
+      {4,  "'i:" },
+      {5,  "'u"  },
+      {6,  "'u:" },
+      {7,  "r'u" },
+      {8,  "r'u:"},
+      {9,  "'e"  },
+      {10, "'e:" },
+      {11, "'aI" },
+      {12, "'o"  },
+      {13, "'o:" },
+      {14, "'aU" },
+      {31, "l'u" },
+      {32, "l'u:"},
+      {33, "'am" },
+      {34, "'a~" },
+      {35, "'aha"}
+  };
+  for (const auto& [tile, sound] : kTelugu) {
+    EXPECT_EQ(phonemes.at(QStringLiteral("tel/telv/telv-%1").arg(tile)).toStdString(), sound);
+  }
+}
+
+TEST_F(SoundsMaker, SpeaksWhatIsJoinedBelowByItsSoundAndName) {
+  const auto phonemes = Phonemes("telc");
+  const auto said = [&](int tile) {
+    return phonemes.at(QStringLiteral("tel/telc/telc-%1").arg(tile)).toStdString();
+  };
+  // A letter's tile and that of the same letter joined below another.
+  std::map<int, int> pairs = {
+      {69, 70},
+      {71, 72},
+      {74, 75}
+  };
+  for (int tile = 1; tile <= 17; ++tile) pairs[tile] = tile + 17;
+  for (int tile = 35; tile <= 51; ++tile) pairs[tile] = tile + 17;
+  for (const auto& [letter, below] : pairs) {
+    EXPECT_EQ(said(below), said(letter) + " v#'attu") << below;
+  }
+  EXPECT_EQ(said(1), "k'a");
+  EXPECT_EQ(said(7), "ts'a");
+  EXPECT_EQ(said(10), "dz'a");
+  EXPECT_EQ(said(71), "l.'a");
+  EXPECT_EQ(said(73), "ks.'a");
+  EXPECT_NE(said(74), said(46)) << "the two r have names of their own";
+}
+
+TEST_F(SoundsMaker, EveryLettersFilePlaysAtOnceAndEvenlyLoud) {
+  ASSERT_EQ(Make("--quiet --sets engc,engs,hinv,hinc,telv,telc,mat").status, 0);
+  const QStringList files = Files();
+  EXPECT_EQ(files.size(), 3 * 320);
+  for (const QString& file : files) {
+    const DecodedSound sound(drive.filePath(QStringLiteral("bramlee/aud/") + file));
+    SCOPED_TRACE(file.toStdString());
+    EXPECT_GE(sound.BeginMs(), 0);
+    EXPECT_LE(sound.BeginMs(), 50);
+    EXPECT_GE(sound.SpokenMs(), 150);
+    EXPECT_LE(sound.SpokenMs(), 7000);
+    EXPECT_GE(sound.LevelDb(), -24);
+    EXPECT_LE(sound.LevelDb(), -17);
+  }
+}
+
+TEST_F(SoundsMaker, NumbersAreMadeInTheFormatAsked) {
+  ASSERT_EQ(Make("--quiet --sets matc --numbers 98-101").status, 0);
+  EXPECT_EQ(
+      Files(),
+      (QStringList{QStringLiteral("mat/matc/mat-100.wma"), QStringLiteral("mat/matc/mat-101.wma"),
+                   QStringLiteral("mat/matc/mat-98.wma"), QStringLiteral("mat/matc/mat-99.wma")}));
+  ASSERT_EQ(Make("--quiet --sets matc --numbers 9999 --number-formats wav,mp3").status, 0);
+  EXPECT_EQ(Files().size(), 6);
+  const DecodedSound sound(At("mat/matc/mat-9999.wav"));
+  EXPECT_GT(sound.SpokenMs(), 2000);
+}
+
+TEST_F(SoundsMaker, RecordingsOfOnesOwnStay) {
+  Put("engc/eng-a.wav", "my own voice");
+  Put("engc/eng-b.wav", "");
+  ASSERT_EQ(Make("--quiet --sets engc --formats wav").status, 0);
+  EXPECT_EQ(Bytes("engc/eng-a.wav"), "my own voice");
+  EXPECT_TRUE(Bytes("engc/eng-b.wav").startsWith("RIFF")) << "an empty file is nobody's";
+  EXPECT_EQ(Files().size(), 26);
+  ASSERT_EQ(Make("--quiet --sets engc --formats wav --overwrite").status, 0);
+  EXPECT_TRUE(Bytes("engc/eng-a.wav").startsWith("RIFF"));
+  EXPECT_EQ(Files().size(), 26);
+}
+
+TEST_F(SoundsMaker, NamesMatchWithoutRegardToCase) {
+  ASSERT_TRUE(QDir().mkpath(drive.filePath(QStringLiteral("BRAMLEE/Aud/ENGC"))));
+  QFile own(drive.filePath(QStringLiteral("BRAMLEE/Aud/ENGC/Eng-A.WAV")));
+  ASSERT_TRUE(own.open(QIODevice::WriteOnly));
+  own.write("my own voice");
+  own.close();
+  ASSERT_EQ(Make("--quiet --sets engc --formats wav").status, 0);
+  EXPECT_FALSE(QFileInfo::exists(drive.filePath(QStringLiteral("bramlee"))));
+  const QStringList files = QFileInfo(own).dir().entryList(QDir::Files);
+  EXPECT_EQ(files.size(), 26);
+  EXPECT_FALSE(files.contains(QStringLiteral("eng-a.wav")));
+  EXPECT_EQ(own.size(), 12);
+}
+
+TEST_F(SoundsMaker, StoppedItLeavesWholeFilesAndIsTakenUpAgain) {
+  QProcess maker;
+  maker.start(QStringLiteral(BRAMLEE_BINARY_DIR "/tools/bramlee-sounds"),
+              {QStringLiteral("--quiet"), QStringLiteral("--sets"), QStringLiteral("matc"),
+               QStringLiteral("--numbers"), QStringLiteral("0-150"),
+               QStringLiteral("--number-formats"), QStringLiteral("wav"), drive.path()});
+  ASSERT_TRUE(maker.waitForStarted());
+  while (!QFileInfo::exists(At("mat/matc/mat-3.wav")) && maker.state() == QProcess::Running) {
+    maker.waitForFinished(5);
+  }
+  maker.kill();
+  maker.waitForFinished();
+  QThread::msleep(300);  // the speech it had begun
+  const QDir made(At("mat/matc"));
+  const QStringList before = made.entryList(QDir::Files);
+  EXPECT_FALSE(before.isEmpty());
+  for (const QString& file : before) {
+    EXPECT_GT(DecodedSound(made.filePath(file)).SpokenMs(), 100) << file.toStdString();
+  }
+  ASSERT_EQ(Make("--quiet --sets matc --numbers 0-150 --number-formats wav").status, 0);
+  EXPECT_EQ(Files().size(), 151) << "nor is anything else left";
+  EXPECT_EQ(QDir(At("")).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList{QStringLiteral("mat")});
+}
+
+TEST_F(SoundsMaker, TwoAtOnceDoNotDoTheWorkTwice) {
+  QProcess first;
+  first.start(QStringLiteral(BRAMLEE_BINARY_DIR "/tools/bramlee-sounds"),
+              {QStringLiteral("--quiet"), QStringLiteral("--sets"), QStringLiteral("matc"),
+               QStringLiteral("--numbers"), QStringLiteral("0-99"), drive.path()});
+  ASSERT_TRUE(first.waitForStarted());
+  while (!QFileInfo::exists(At(".bramlee-sounds.lock")) && first.state() == QProcess::Running) {
+    first.waitForFinished(1);
+  }
+  const ToolRun second = Make("--quiet --sets matc --numbers 0-99");
+  EXPECT_EQ(second.status, 1);
+  EXPECT_EQ(second.error, "bramlee-sounds: another maker is at work there\n");
+  ASSERT_TRUE(first.waitForFinished(-1));
+  EXPECT_EQ(first.exitCode(), 0);
+  EXPECT_EQ(Files().size(), 100);
+}
+
+TEST_F(SoundsMaker, TellsItsProgress) {
+  const ToolRun run = Make("--sets mat --formats wav");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_TRUE(run.error.endsWith("bramlee-sounds: 17 of 17\n")) << run.error.toStdString();
+  EXPECT_EQ(Make("--quiet --sets mat --formats wav").error, "");
+}
+
+TEST_F(SoundsMaker, WhatCannotBeMadeIsTold) {
+  Put("mat", "a file where a folder is wanted");
+  const ToolRun run = Make("--quiet --sets mat --formats wav");
+  EXPECT_EQ(run.status, 1);
+  EXPECT_TRUE(run.ErrorIsOneLine()) << run.error.toStdString();
+}
+
+TEST_F(SoundsMaker, OwnTablesAreSpoken) {
+  const QTemporaryDir tables;
+  QFile table(tables.filePath(QStringLiteral("mat.tsv")));
+  ASSERT_TRUE(table.open(QIODevice::WriteOnly));
+  table.write("voice\ten-gb\nspeed\t120\n11\t+\tand\n");
+  table.close();
+  const QByteArray arguments =
+      "--quiet --sets mat --formats wav --tables " + tables.path().toUtf8();
+  ASSERT_EQ(Make(arguments.constData()).status, 0);
+  EXPECT_EQ(Files(), QStringList{QStringLiteral("mat/mat-11.wav")});
+}
+
+TEST_F(SoundsMaker, AVoiceThatIsNotThereCostsNoOtherSound) {
+  const QTemporaryDir tables;
+  QFile table(tables.filePath(QStringLiteral("mat.tsv")));
+  ASSERT_TRUE(table.open(QIODevice::WriteOnly));
+  table.write("voice\tklingon-x\nspeed\t120\n11\t+\tplus\nvoice\ten-gb\n12\t-\tminus\n");
+  table.close();
+  const QByteArray arguments = "--quiet --sets mat --tables " + tables.path().toUtf8();
+  const ToolRun run = Make(arguments.constData());
+  EXPECT_EQ(run.status, 1);
+  EXPECT_TRUE(run.error.contains("3 could not be made")) << run.error.toStdString();
+  EXPECT_EQ(Files().size(), 3);
+}
+
+TEST(SoundsMakerArguments, BadOnesAreRefusedInALine) {
+  const QString here = QDir::tempPath();
+  for (const QStringList& arguments : {
+           QStringList{                            },
+           QStringList{                                                     here,                         here},
+           QStringList{                                                    QStringLiteral("--sets"), QStringLiteral("engc,greek"), here},
+           QStringList{                                                QStringLiteral("--sets"),      QString(), here},
+           QStringList{QStringLiteral("--formats"),                             QStringLiteral("ogg"), here},
+           QStringList{                                                           QStringLiteral("--numbers"),                         QStringLiteral("5-1"), here},
+           QStringList{                                                                            QStringLiteral("--numbers"),QStringLiteral("0-10000"), here},
+           QStringList{                               QStringLiteral("--numbers"),   QStringLiteral("-3"), here},
+           QStringList{QStringLiteral("--jobs"),                             QStringLiteral("0"), here},
+           QStringList{                       QStringLiteral("--tables"),                         QStringLiteral("/nonexistent"), here},
+           QStringList{                                                                            QStringLiteral("--no-such-option"),here},
+           QStringList{                             QStringLiteral("/nonexistent/drive")   },
+           QStringList{QStringLiteral("--phonemes"),                             here},
+  }) {
+    const ToolRun run = Sounds(arguments);
+    EXPECT_EQ(run.status, 2) << arguments.join(u' ').toStdString();
+    EXPECT_TRUE(run.ErrorIsOneLine()) << run.error.toStdString();
+    EXPECT_EQ(run.out, "");
+  }
+}
+
+TEST(SoundsMakerArguments, HelpAndVersionAreTold) {
+  const ToolRun help = Sounds({QStringLiteral("--help")});
+  EXPECT_EQ(help.status, 0);
+  for (const char* option : {"--sets", "--formats", "--numbers", "--number-formats", "--tables",
+                             "--jobs", "--overwrite", "--phonemes", "--quiet", "DRIVE"}) {
+    EXPECT_TRUE(help.out.contains(option)) << option;
+  }
+  EXPECT_EQ(Sounds({QStringLiteral("--version")}).out, "bramlee-sounds 1.0.0\n");
+}
+
+}  // namespace
+}  // namespace bramlee
