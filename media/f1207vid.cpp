@@ -28,6 +28,7 @@ constexpr BandPlace kListPlace = {48, 120};
 constexpr int kBandTop = 1;
 constexpr int kBandRow = 4;
 constexpr int kBandHeight = 6;
+constexpr int kBelowHeight = 9;  ///< what the title and menu bars take of the form's height
 
 /// The list of speeds has a gap: 0.4 is missing.
 constexpr int kSpeeds = 20;
@@ -133,8 +134,11 @@ void f1207vid::LayOut() {
         place("lblmin", kMinPlace);
         place("cmbavi", kListPlace);
         const double band = 1.0 * kBandHeight * screen.UnitH;
-        Place(Player(),
-              {.left = 0, .top = band, .width = 1.0 * screen.ScrW, .height = screen.ScrH - band});
+        const double below = 1.0 * kBelowHeight * screen.UnitH;
+        Place(Player(), {.left = 0,
+                         .top = band,
+                         .width = 1.0 * screen.ScrW,
+                         .height = screen.ScrH - band - below});
       },
       ReportError);
 }

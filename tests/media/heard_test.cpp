@@ -53,7 +53,7 @@ class HeardPlayer : public TempDrives {
     PlayMediaFile(QString::fromLatin1(file));
     while (NowMs() < begin + kHangMs) {
       QThread::msleep(50);
-      const Heard heard = HeardFrom(begin);
+      Heard heard = HeardFrom(begin);
       if (heard.LastSoundMs() && heard.EndMs() - *heard.LastSoundMs() > kOverMs) return heard;
     }
     return HeardFrom(begin);

@@ -17,7 +17,7 @@ Samples Ramp(int frames) {
 }
 
 Samples Pull(PcmSource& source, int frames) {
-  const QByteArray bytes = source.read(frames * 4);
+  const QByteArray bytes = source.read(qint64{frames} * 4);
   const auto* begin = reinterpret_cast<const std::int16_t*>(bytes.constData());
   return {begin, begin + bytes.size() / 2};
 }

@@ -99,8 +99,8 @@ TEST_F(SoundEngineWithoutDevice, AGoodFileAfterABadOneIsTaken) {
 
 TEST_F(SoundEngineWithoutDevice, OfManyAskedForEachEndsOnce) {
   const QString file = Made("a.wav", ToneWave(440, 300));
-  std::vector<int> numbers;
-  for (int i = 0; i < 50; ++i) numbers.push_back(SoundEngine::Instance().Play(file));
+  std::vector<int> numbers(50);
+  for (int& number : numbers) number = SoundEngine::Instance().Play(file);
   WaitFor(numbers.back());
   for (const int number : numbers) {
     WaitFor(number);

@@ -24,8 +24,7 @@ const SoundSet& Set(const char* name) {
 
 QList<Spoken> Table(const char* name) {
   QString error;
-  const QList<Spoken> rows =
-      ReadSpokenTable(Set(name), QStringLiteral(BRAMLEE_SOUND_TABLES), error);
+  QList<Spoken> rows = ReadSpokenTable(Set(name), QStringLiteral(BRAMLEE_SOUND_TABLES), error);
   EXPECT_EQ(error.toStdString(), "");
   return rows;
 }

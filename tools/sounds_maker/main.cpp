@@ -60,8 +60,8 @@ QString TablesFolder() {
 }
 
 QStringList ListOf(const QString& text, const QStringList& known, QString& wrong) {
-  const QStringList list = text.split(u',', Qt::SkipEmptyParts);
-  for (const QString& entry : list) {
+  QStringList list = text.split(u',', Qt::SkipEmptyParts);
+  for (const QString& entry : std::as_const(list)) {
     if (!known.contains(entry)) wrong = entry;
   }
   if (list.isEmpty()) wrong = QStringLiteral("an empty list");
