@@ -16,7 +16,8 @@ namespace bramlee {
 /// Dots of a run lie a hundredth of a pixel apart; those that would change nothing one can see
 /// are passed over, and what is kept is a journal of the others. The journal is the truth: a
 /// picture, or what a window shows, is stamped from it and can be made anew at any time, so the
-/// same dots give the same picture wherever and however fast they were written.
+/// same dots give the same picture wherever and however fast they were written. It does not grow
+/// with letters that are written again: a dot is forgotten once a later one lies exactly on it.
 class Ink final : public DrawingSurface {
  public:
   /// `step`: what Step() tells, greater than 0.
@@ -75,6 +76,8 @@ class Ink final : public DrawingSurface {
   /// How far a dot that is passed over may lie beside the line of the others, in sheet pixels.
   static constexpr float kStray = 0.04F;
   static constexpr float kNever = 1e30F;
+  /// As many dots are kept before covered ones are looked for: a hundred letters.
+  static constexpr std::size_t kManyDots = 1 << 17;
 
   struct Dot {
     float x;
@@ -86,9 +89,15 @@ class Ink final : public DrawingSurface {
     std::size_t first;
   };
 
+  /// Takes a dot that is not passed over. Throws std::bad_alloc when there is no memory for it.
   void Turn(float x, float y);
   void Flush();
+  void MakeRoom();
   void Keep(float x, float y);
+  void ForgetCovered();
+  std::size_t EndOf(std::size_t stretch) const {
+    return stretch + 1 < stretches_.size() ? stretches_[stretch + 1].first : dots_.size();
+  }
   void ReplayInto(Planes& planes) const;
 
   double step_;
@@ -106,6 +115,7 @@ class Ink final : public DrawingSurface {
 
   std::vector<Dot> dots_;
   std::vector<Stretch> stretches_;
+  std::size_t forgetAt_ = kManyDots;  ///< how many dots make it worth to look for covered ones
   std::optional<Planes> planes_;
 };
 

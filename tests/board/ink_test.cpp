@@ -259,6 +259,40 @@ TEST(Ink, ShouldPassOverDotsThatChangeNothing) {
   EXPECT_GT(ink.KeptDots(), 400U);
 }
 
+/// Hundreds of letters over each other, in two colours and at two steps, the last ones black.
+void WriteForLong(Ink& ink) {
+  StrokeRec rec;
+  for (int i = 0; i < 600; ++i) {
+    ink.SetColour(i % 3 == 0 ? kBlack : kRed);
+    ink.SetStep(i % 2 == 0 ? 1 : 0.5);
+    rec = FillStrokeRec(SheetKind::Capitals, static_cast<std::int16_t>(1 + i % 4));
+    WriteCapital(rec, ink);
+  }
+}
+
+TEST(Ink, ShouldNotGrowWithLettersThatAreWrittenAgain) {
+  Ink ink(1);
+  WriteForLong(ink);
+  EXPECT_LT(ink.KeptDots(), 200000U);
+}
+
+TEST(Ink, ShouldShowAllColoursAsBeforeWhenItForgetsCoveredDots) {
+  const QRectF area(400, 100, 800, 300);
+  Ink ink(1);
+  ink.SetColour(kBlue);
+  LineRight(ink, 410, 260, 1190);  // crossed by the letters, and left as it is between them
+  ink.Cover(area, 1);
+  WriteForLong(ink);
+  ink.SetColour(kYellow);
+  LineDown(ink, 640, 120, 380);
+  QImage shown(ink.CoveredSize(), QImage::Format_RGB32);
+  ink.Compose(shown, shown.rect(), Qt::white);
+  const QImage anew = ink.Picture(area, 1, Qt::white);
+  EXPECT_EQ(anew, shown);
+  EXPECT_EQ(anew.pixelColor(790 - 400, 260 - 100), QColor(Qt::blue));
+  EXPECT_EQ(anew.pixelColor(640 - 400, 370 - 100), QColor(Qt::yellow));
+}
+
 TEST(Ink, ShouldKeepADotThatComesBack) {
   Ink ink(0.1);
   for (const float x : {400.0F, 400.1F, 400.2F, 400.3F, 400.1F, 399.9F}) ink.PSet(x, 60);
