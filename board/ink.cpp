@@ -10,7 +10,7 @@
 namespace bramlee {
 
 void Ink::Turn(float x, float y) {
-  if (std::exchange(held_, false)) Keep(heldX_, heldY_);
+  if (std::exchange(held_, false) && heldAlong_ >= kNear) Keep(heldX_, heldY_);
   heldAlong_ = kNever;
   const float dx = x - lastX_;
   const float dy = y - lastY_;

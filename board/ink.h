@@ -75,6 +75,8 @@ class Ink final : public DrawingSurface {
   static constexpr float kSpacing = 0.41F;
   /// How far a dot that is passed over may lie beside the line of the others, in sheet pixels.
   static constexpr float kStray = 0.04F;
+  /// Dots so near to the last kept one tell no direction yet, in sheet pixels.
+  static constexpr float kNear = 0.02F;
   static constexpr float kNever = 1e30F;
   /// As many dots are kept before covered ones are looked for: a hundred letters.
   static constexpr std::size_t kManyDots = 1 << 17;

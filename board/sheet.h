@@ -22,6 +22,7 @@ namespace bramlee {
 /// on it as child widgets; strokes run behind them. What was written stays through resizes,
 /// scrolling and other pixel ratios, also where it lies outside of the window.
 class Sheet final : public QWidget, public DrawingSurface {
+  Q_OBJECT
  public:
   explicit Sheet(QWidget* parent = nullptr);
 

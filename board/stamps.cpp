@@ -18,18 +18,6 @@ constexpr std::int8_t kSampleRow[] = {
 constexpr int kSamples = 64;
 static_assert(std::size(kSampleRow) == kSamples);
 
-/// The bits of one pixel: which of its samples lie within `radius` of a centre that is
-/// `x`, `y` right of and below its top left corner.
-std::uint64_t SamplesWithin(double x, double y, double radius) {
-  std::uint64_t bits = 0;
-  for (int i = 0; i < kSamples; ++i) {
-    const double dx = (i + 0.5) / kSamples - x;
-    const double dy = (kSampleRow[i] + 0.5) / kSamples - y;
-    if (dx * dx + dy * dy <= radius * radius) bits |= std::uint64_t{1} << i;
-  }
-  return bits;
-}
-
 }  // namespace
 
 Words ZeroWords(std::size_t count) {
@@ -43,21 +31,31 @@ Stamps::Stamps(double ratio)
       radius_(kDrawWidth / 2 * ratio),
       reach_(static_cast<int>(std::ceil(radius_))),
       rows_(2 * reach_ + 1),
-      columns_((rows_ + 3) / 4 * 4),
+      columns_((rows_ + 1 + 3) / 4 * 4),
       wordsPerStamp_(std::ptrdiff_t{rows_} * columns_),
       words_(ZeroWords(static_cast<std::size_t>(kPhases * kPhases * wordsPerStamp_))) {}
 
+/// Level by level of samples: a disc holds those of a level from one pixel to another. Their bit
+/// is turned over where they begin and behind where they end, and then handed on from pixel to
+/// pixel.
 void Stamps::Make(int phaseX, int phaseY) {
   const double centreX = reach_ + static_cast<double>(phaseX) / kPhases;
   const double centreY = reach_ + static_cast<double>(phaseY) / kPhases;
-  std::uint64_t* word = words_.get() + (phaseY * kPhases + phaseX) * wordsPerStamp_;
-  for (int row = 0; row < rows_; ++row) {
-    for (int column = 0; column < columns_; ++column, ++word) {
-      const double distance = std::hypot(column + 0.5 - centreX, row + 0.5 - centreY);
-      if (distance > radius_ + 1) continue;
-      *word = distance < radius_ - 1 ? ~std::uint64_t{0}
-                                     : SamplesWithin(centreX - column, centreY - row, radius_);
+  std::uint64_t* words = words_.get() + (phaseY * kPhases + phaseX) * wordsPerStamp_;
+  for (int row = 0; row < rows_; ++row, words += columns_) {
+    for (int i = 0; i < kSamples; ++i) {
+      const double sampleX = (i + 0.5) / kSamples;
+      const double sampleY = (kSampleRow[i] + 0.5) / kSamples;
+      const double offCentre = row + sampleY - centreY;
+      const double square = radius_ * radius_ - offCentre * offCentre;
+      if (square < 0) continue;
+      const double half = std::sqrt(square);
+      const auto first = static_cast<int>(std::ceil(centreX - half - sampleX));
+      const auto behind = static_cast<int>(std::floor(centreX + half - sampleX)) + 1;
+      words[first] ^= std::uint64_t{1} << i;
+      words[behind] ^= std::uint64_t{1} << i;
     }
+    for (int column = 1; column < columns_; ++column) words[column] ^= words[column - 1];
   }
 }
 

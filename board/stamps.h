@@ -30,7 +30,7 @@ class Stamps {
   double Ratio() const { return ratio_; }
   /// Rows of a stamp, in device pixels.
   int Rows() const { return rows_; }
-  /// Columns of a stamp; a multiple of 4, the last ones empty.
+  /// Columns of a stamp; a multiple of 4, the last one empty or more of them.
   int Columns() const { return columns_; }
   /// How far a stamp's top left pixel lies above and left of the pixel of its centre.
   int Reach() const { return reach_; }
