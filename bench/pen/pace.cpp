@@ -1,0 +1,99 @@
+// Writes the alphabet on the capitals board, on a display and at the pen's pace, and tells for
+// each letter how long it should have taken, how long it took, and what of a processor it used.
+#include "board/pace.h"
+
+#include <sys/resource.h>
+
+#include <QApplication>
+#include <QScreen>
+#include <QTimer>
+#include <chrono>
+#include <cstdio>
+#include <string>
+
+#include "board/board.h"
+#include "engine/drawing_surface.h"
+#include "shell/forms.h"
+
+namespace bramlee {
+namespace {
+
+class DotCounter : public DrawingSurface {
+ public:
+  explicit DotCounter(double step) : step_(step) {}
+  void PSet(float /*x*/, float /*y*/) override { ++dots_; }
+  double Step() const override { return step_; }
+  int Dots() const { return dots_; }
+
+ private:
+  double step_;
+  int dots_ = 0;
+};
+
+double Nominal(const Board& board, int letter) {
+  DotCounter counter(board.sheet().Step());
+  StrokeRec rec = FillStrokeRec(board.letters().sheet, static_cast<std::int16_t>(letter));
+  board.letters().write(rec, counter);
+  return counter.Dots() / kDotsPerSecond;
+}
+
+double RealSeconds() {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+double ProcessorSeconds() {
+  rusage used{};
+  getrusage(RUSAGE_SELF, &used);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+  };
+  return seconds(used.ru_utime) + seconds(used.ru_stime);
+}
+
+struct Figures {
+  double nominal = 0;
+  double real = 0;
+  double processor = 0;
+};
+
+void Print(const char* name, const Figures& figures) {
+  std::printf("%-8s %9.3f %9.3f %+7.2f %% %7.2f %%\n", name, figures.nominal, figures.real,
+              (figures.real / figures.nominal - 1) * 100, figures.processor / figures.real * 100);
+}
+
+void WriteAlphabet(Board& board) {
+  std::printf("step %g, %g dots a second, %g frames a second\n", board.sheet().Step(),
+              kDotsPerSecond, board.screen()->refreshRate());
+  std::printf("%-8s %9s %9s %9s %9s\n", "letter", "nominal s", "real s", "off", "processor");
+  Figures all;
+  for (int letter = 1; letter <= 26; ++letter) {
+    const double nominal = Nominal(board, letter);
+    const double real = RealSeconds();
+    const double processor = ProcessorSeconds();
+    board.pic_Click(letter);
+    const Figures figures{nominal, RealSeconds() - real, ProcessorSeconds() - processor};
+    Print(std::string(1, static_cast<char>('A' + letter - 1)).c_str(), figures);
+    all.nominal += figures.nominal;
+    all.real += figures.real;
+    all.processor += figures.processor;
+  }
+  Print("alphabet", all);
+}
+
+}  // namespace
+}  // namespace bramlee
+
+int main(int argc, char** argv) {
+  using namespace bramlee;
+  QApplication app(argc, argv);
+  RegisterBoards();
+  auto* board = static_cast<Board*>(LoadForm(QStringLiteral("fbrmengc02")));
+  board->Present();
+  // Until the window manager has placed the window.
+  constexpr int kSettlingMs = 1500;
+  QTimer::singleShot(kSettlingMs, board, [board] {
+    WriteAlphabet(*board);
+    QApplication::exit(0);
+  });
+  return QApplication::exec();
+}
