@@ -1,0 +1,177 @@
+// Drills, tables and typed numbers on a real display, from the keyboard alone.
+#include <gtest/gtest.h>
+
+#include "letters/letter_sets.h"
+#include "tests/recorder.h"
+#include "tests/xvfb/desktop.h"
+
+namespace bramlee {
+namespace {
+
+class MathsAtTheKeyboard : public ::testing::Test {
+ protected:
+  MathsAtTheKeyboard() { program_.WaitFor(QStringLiteral("ready")); }
+
+  /// Keys one after the other, named as xdotool names them.
+  void Keys(const QStringList& keys) const {
+    for (const QString& key : keys) desktop_.Key(key);
+  }
+  void Type(const char* text) const {
+    desktop_.Xdotool({QStringLiteral("type"), QStringLiteral("--"), QString::fromLatin1(text)});
+  }
+  /// Opens "&Maths" and goes down to the item. A menu takes keys only once it stands open, with
+  /// its first item lit.
+  void GoTo(const char* item) {
+    const QString there = QStringLiteral("at ") + QString::fromLatin1(item);
+    desktop_.Key(QStringLiteral("alt+m"));
+    QString lit = program_.WaitFor(QStringLiteral("at mnunum"));
+    while (lit != there) {
+      desktop_.Key(QStringLiteral("Down"));
+      lit = program_.WaitFor(QStringLiteral("at "));
+    }
+  }
+  /// Picks a drill by the arrow keys, or by its letter, and leaves its row ready to be typed into.
+  void Begin(const char* item) {
+    GoTo(item);
+    desktop_.Key(QStringLiteral("Return"));
+    program_.WaitFor(QStringLiteral("picked ") + QString::fromLatin1(item));
+  }
+  void Begin(const char* item, const char* letter) {
+    GoTo("mnunum");
+    desktop_.Key(QString::fromLatin1(letter));
+    program_.WaitFor(QStringLiteral("picked ") + QString::fromLatin1(item));
+  }
+  /// Types over both operands, from the first one on, and presses the equals picture.
+  void Reckon(const char* a, const char* b) const {
+    Type(a);
+    desktop_.Key(QStringLiteral("Tab"));
+    Type(b);
+    Keys({QStringLiteral("Tab"), QStringLiteral("Return")});
+  }
+  std::string NextResult() { return Next("result "); }
+  std::string NextMessage() { return Next("message "); }
+  std::string Next(const char* what) {
+    const QString beginning = QString::fromLatin1(what);
+    return program_.WaitFor(beginning).mid(beginning.size()).toStdString();
+  }
+
+  /// The point that a line tells.
+  QPoint Told(const char* what) {
+    const QStringList words =
+        program_.Lines().filter(QString::fromLatin1(what)).first().split(u' ');
+    return {words[words.size() - 2].toInt(), words.last().toInt()};
+  }
+
+  /// The box around all that is red on the screen below the tiles, from the sheet's corner.
+  QRect RedInk() {
+    const QImage screen = desktop_.Screenshot();
+    const QPoint sheet = Told("sheet ");
+    QRect box;
+    for (int y = sheet.y() + 250; y < screen.height(); ++y) {
+      for (int x = sheet.x(); x < screen.width(); ++x) {
+        if (screen.pixel(x, y) == qRgb(255, 0, 0)) box |= QRect(x, y, 1, 1);
+      }
+    }
+    return box.translated(-sheet);
+  }
+
+  const Desktop& desktop() const { return desktop_; }
+  Program& program() { return program_; }
+
+ private:
+  Desktop desktop_;
+  Program program_{desktop_, QStringLiteral(BRAMLEE_PROGRAMS "/watched_maths"), {}};
+};
+
+/// Where a tile's ink lies, from the sheet's corner, in pixels.
+QRect InkOf(int tile) {
+  constexpr double kPenRadius = 5;
+  Recorder strokes(1);
+  WriteWholeTile(*FindLetterSet("mat"), tile, {}, strokes);
+  QRectF ink;
+  for (const Dot& dot : strokes.dots) {
+    ink |= QRectF(double{dot.x} - kPenRadius, double{dot.y} - kPenRadius, 2 * kPenRadius,
+                  2 * kPenRadius);
+  }
+  return ink.toAlignedRect();
+}
+
+TEST_F(MathsAtTheKeyboard, AllDrillsOneAfterTheOther) {
+  Begin("mnuadd", "a");
+  Reckon("12", "30");
+  EXPECT_EQ(NextResult(), "42");
+  Begin("mnuadd", "a");
+
+  // The S is that of ShowTables too, which stands above it: the arrow keys get there.
+  Begin("mnusub");
+  Reckon("12", "30");
+  EXPECT_EQ(NextResult(), "-18");
+  Begin("mnusub");
+
+  Begin("mnumul", "m");
+  Reckon("12", "30");
+  EXPECT_EQ(NextResult(), "360");
+  Begin("mnumul", "m");
+
+  Begin("mnudiv", "d");
+  Reckon("7", "2");
+  EXPECT_EQ(NextResult(), "3.5");
+  Begin("mnudiv", "d");
+
+  Begin("mnuper", "p");
+  Reckon("50", "200");
+  EXPECT_EQ(NextResult(), "100");
+}
+
+TEST_F(MathsAtTheKeyboard, MessagesAreReadAndTheDrillGoesOn) {
+  Begin("mnudiv", "d");
+  Reckon("5", "0");
+  EXPECT_EQ(NextMessage(), "Infinity");
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("cursor picequal"));
+  desktop().Key(QStringLiteral("shift+Tab"));
+  Type("abc");
+  Keys({QStringLiteral("Tab"), QStringLiteral("space")});
+  EXPECT_EQ(NextMessage(), "Enter Number");
+  desktop().Key(QStringLiteral("Return"));
+  EXPECT_EQ(NextMessage(), "Infinity");  // 5 by 0, which stands for the text
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("cursor picequal"));
+  desktop().Key(QStringLiteral("shift+Tab"));
+  Type("4");
+  Keys({QStringLiteral("Tab"), QStringLiteral("Return")});
+  EXPECT_EQ(NextResult(), "1.25");
+}
+
+TEST_F(MathsAtTheKeyboard, ATable) {
+  GoTo("mnutable");
+  desktop().Key(QStringLiteral("Right"));
+  program().WaitFor(QStringLiteral("at mnutbl"));
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("picked mnutbl"));
+  Type("7");
+  Keys({QStringLiteral("Tab"), QStringLiteral("Return")});
+  const std::string table = NextResult();
+  EXPECT_TRUE(table.starts_with("7 X 1 = 7|7 X 2 = 14|")) << table;
+  EXPECT_TRUE(table.ends_with("|7 X 20 = 140|")) << table;
+}
+
+TEST_F(MathsAtTheKeyboard, TypedFifteenShowsTheFiveAlone) {
+  desktop().Click(Told("number box "));
+  Type("15");
+  desktop().Key(QStringLiteral("Return"));
+  // Nothing lies on the drive: whatever would be spoken would be told of by a message.
+  program().WaitFor(QStringLiteral("number written"));
+  const QRect five = InkOf(5);
+  QRect seen;
+  for (int looks = 0; looks < 200 && (seen.isEmpty() || seen.height() < 100); ++looks) {
+    seen = RedInk();
+  }
+  constexpr int kSoftRim = 2;
+  EXPECT_TRUE(five.contains(seen)) << seen.left() << " to " << seen.right();
+  EXPECT_TRUE(seen.adjusted(-kSoftRim, -kSoftRim, kSoftRim, kSoftRim).contains(five));
+  EXPECT_FALSE(program().HasTold(QStringLiteral("message")));
+}
+
+}  // namespace
+}  // namespace bramlee

@@ -1,0 +1,99 @@
+// The maths board in a program that tells, line by line, what its user gets to see: where the
+// cursor is, results, marks, messages.
+#include <QApplication>
+#include <QComboBox>
+#include <QMessageBox>
+#include <QTimer>
+#include <cstdio>
+
+#include "board/board.h"
+#include "maths/maths.h"
+#include "maths/result_box.h"
+#include "shell/forms.h"
+
+namespace bramlee {
+namespace {
+
+void Say(const QString& line) {
+  std::puts(qPrintable(line));
+  std::fflush(stdout);
+}
+
+/// Tells of messages as they come up.
+class Watch : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    const auto* box = qobject_cast<QMessageBox*>(receiver);
+    if (box != nullptr && event->type() == QEvent::WindowActivate) {
+      Say(QStringLiteral("message ") + box->text());
+    }
+    return false;
+  }
+};
+
+class WatchedMaths {
+ public:
+  WatchedMaths() {
+    RegisterMaths();
+    ShowForm(QStringLiteral("fbrmmat01"));
+    board_ = static_cast<Board*>(LoadedForm(QStringLiteral("fbrmmat01")));
+    board_->SetText(QStringLiteral("txtspd"), QStringLiteral("1"));
+    auto* result = board_->Named<ResultBox>(QStringLiteral("txtval(20)"));
+    QObject::connect(result, &QPlainTextEdit::textChanged, board_, [result] {
+      Say(QStringLiteral("result ") +
+          result->Text().replace(QStringLiteral("\r\n"), QStringLiteral("|")));
+    });
+    QObject::connect(qApp, &QApplication::focusChanged, board_,
+                     [](const QWidget* /*old*/, const QWidget* now) {
+                       if (now != nullptr) Say(QStringLiteral("cursor ") + now->objectName());
+                     });
+    for (const QMenu* menu : board_->findChildren<QMenu*>()) {
+      QObject::connect(menu, &QMenu::hovered, board_, [](const QAction* item) {
+        Say(QStringLiteral("at ") +
+            (item->menu() != nullptr ? item->menu()->objectName() : item->objectName()));
+      });
+    }
+    for (const QAction* item : board_->findChildren<QAction*>()) {
+      QObject::connect(item, &QAction::triggered, board_,
+                       [item] { Say(QStringLiteral("picked ") + item->objectName()); });
+    }
+    // Connected after the board's own handler, so this comes when that has returned.
+    QObject::connect(board_->Named<Combo>(QStringLiteral("cmb(0)")), &Combo::Entered, board_,
+                     [] { Say(QStringLiteral("number written")); });
+    settling_.start(20);
+    QObject::connect(&settling_, &QTimer::timeout, board_, [this] { SayWhenReady(); });
+  }
+
+ private:
+  /// Ready once the window manager has placed the window and moved it no more.
+  void SayWhenReady() {
+    const QPoint place = board_->sheet().mapToGlobal(QPoint());
+    stood_ = place == place_ && board_->isActiveWindow() ? stood_ + 1 : 0;
+    place_ = place;
+    if (stood_ < 15) return;
+    settling_.stop();
+    const QPoint box = board_->Named<QWidget>(QStringLiteral("cmb(0)"))->geometry().center();
+    Say(QStringLiteral("sheet %1 %2").arg(place.x()).arg(place.y()));
+    Say(QStringLiteral("number box %1 %2").arg(place.x() + box.x()).arg(place.y() + box.y()));
+    Say(QStringLiteral("ready"));
+  }
+
+  Board* board_;
+  QTimer settling_;
+  QPoint place_;
+  int stood_ = 0;
+};
+
+}  // namespace
+}  // namespace bramlee
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  qApp->installEventFilter(new bramlee::Watch(qApp));
+  const bramlee::WatchedMaths maths;
+  return QApplication::exec();
+}
