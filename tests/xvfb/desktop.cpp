@@ -163,6 +163,60 @@ QPoint Desktop::PlaceOf(std::uint32_t window) const {
   return {reply->dst_x, reply->dst_y};
 }
 
+std::uint32_t Desktop::WindowTitled(const QString& title) const {
+  const auto property = [this](std::uint32_t window, const char* name) {
+    const auto cookie =
+        xcb_get_property(connection_, 0, window, Atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, 4096);
+    const Freed<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(connection_, cookie, nullptr));
+    if (reply == nullptr) return QByteArray();
+    return QByteArray(static_cast<const char*>(xcb_get_property_value(reply.get())),
+                      xcb_get_property_value_length(reply.get()));
+  };
+  const QByteArray windows = property(root_, "_NET_CLIENT_LIST");
+  for (qsizetype i = 0; i + 4 <= windows.size(); i += 4) {
+    std::uint32_t window = 0;
+    std::memcpy(&window, windows.constData() + i, sizeof window);
+    if (property(window, "_NET_WM_NAME") == title.toUtf8()) return window;
+  }
+  return 0;
+}
+
+bool Desktop::HasKeys(std::uint32_t window) const {
+  const Freed<xcb_get_input_focus_reply_t> focus(
+      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+  return focus != nullptr && focus->focus == window;
+}
+
+void Desktop::AskToClose(std::uint32_t window) const {
+  xcb_client_message_event_t event{};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = 32;
+  event.window = window;
+  event.type = Atom("_NET_CLOSE_WINDOW");
+  event.data.data32[1] = 2;  // asked for by the user
+  xcb_send_event(connection_, 0, root_,
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&event));
+  xcb_flush(connection_);
+}
+
+QRect Desktop::OuterPlace(std::uint32_t window) const {
+  std::uint32_t outer = window;
+  while (true) {
+    const Freed<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(connection_, xcb_query_tree(connection_, outer), nullptr));
+    if (tree == nullptr) return {};
+    if (tree->parent == root_) break;
+    outer = tree->parent;
+  }
+  const Freed<xcb_get_geometry_reply_t> place(
+      xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, outer), nullptr));
+  if (place == nullptr) return {};
+  const int borders = 2 * place->border_width;
+  return {place->x, place->y, place->width + borders, place->height + borders};
+}
+
 bool Desktop::AnswersPing(std::uint32_t window, int ms) const {
   const std::uint32_t ping = Atom("_NET_WM_PING");
   const std::uint32_t listen = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
@@ -222,6 +276,13 @@ Program::Program(const Desktop& desktop, const QString& path, const QStringList&
 Program::~Program() {
   process_.kill();
   process_.waitForFinished();
+}
+
+int Program::WaitForEnd() {
+  if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(kHangsMs)) {
+    Fail(path_ + QStringLiteral(" does not end"));
+  }
+  return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
 }
 
 void Program::TakeLines(int waitMs) {

@@ -44,6 +44,15 @@ class Desktop {
   /// answer. False when none comes within `ms`.
   bool AnswersPing(std::uint32_t window, int ms) const;
 
+  /// The window of that title that the window manager knows, 0 for none.
+  std::uint32_t WindowTitled(const QString& title) const;
+  /// Whether keys go to that window.
+  bool HasKeys(std::uint32_t window) const;
+  /// Asks the window manager to close it, as its close button does.
+  void AskToClose(std::uint32_t window) const;
+  /// Where it stands with its borders and title bar.
+  QRect OuterPlace(std::uint32_t window) const;
+
   // --- sizes and states, asked for and done by the window manager
   void Resize(std::uint32_t window, QSize size) const;
 
@@ -87,6 +96,10 @@ class Program {
 
   /// Sends it a line.
   void Tell(const QString& line);
+
+  /// Waits until it has ended of itself; its exit status, or -1 when it crashed. Throws
+  /// std::runtime_error when it hangs.
+  int WaitForEnd();
 
   qint64 ProcessId() const { return process_.processId(); }
 
