@@ -110,7 +110,7 @@ Combo::Combo(QWidget* parent) : QComboBox(parent) {
 
 void Combo::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    Q_EMIT Entered();
+    if (!event->isAutoRepeat()) Q_EMIT Entered();
     event->accept();
     return;
   }

@@ -216,6 +216,15 @@ TEST_F(NumberBox, TypingLeavingAndTheWheelRunNothing) {
   EXPECT_FALSE(InkBetween(0, 1250));
 }
 
+TEST_F(NumberBox, HeldReturnWritesOnce) {
+  TypeAndEnter("cmb(0)", "23");
+  Pick("mnuclear1");
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+  QCoreApplication::sendEvent(Find<QComboBox>("cmb(0)")->lineEdit(), &held);
+  EXPECT_EQ(TextOf("txtaltno"), QStringLiteral("0"));
+  EXPECT_FALSE(InkBetween(0, 1250));
+}
+
 TEST_F(NumberBox, ReturnAddsNothingToTheList) {
   TypeAndEnter("cmb(0)", "234");
   EXPECT_EQ(Find<QComboBox>("cmb(0)")->count(), 101);
