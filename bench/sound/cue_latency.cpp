@@ -105,8 +105,8 @@ int MeasureAll(const QStringList& given) {
   WarmUpPlayer();
   QThread::msleep(kWarmUpMs);
   for (qsizetype i = 0; i < files.size(); ++i) {
-    std::vector<double> times;
-    for (int time = 0; time < kTimes; ++time) times.push_back(LatencyMs(recorder, files[i]));
+    std::vector<double> times(kTimes);
+    for (double& time : times) time = LatencyMs(recorder, files[i]);
     std::sort(times.begin(), times.end());
     const auto at = static_cast<std::size_t>(i);
     std::printf("%-16s %10.0f %10.0f %8.0f %8.0f %8.0f\n", qPrintable(files[i].mid(3)), cold[at],

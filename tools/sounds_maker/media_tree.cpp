@@ -28,7 +28,7 @@ QString MediaTree::Folder(const QString& folder) {
   const qsizetype slash = folder.lastIndexOf(u'/');
   const QString parent = Folder(slash < 0 ? QString() : folder.left(slash));
   if (parent.isEmpty()) return {};
-  const QString path = parent + u'/' + Entry(parent, folder.mid(slash + 1));
+  QString path = parent + u'/' + Entry(parent, folder.mid(slash + 1));
   if (!QDir(path).exists() && !QDir().mkdir(path)) return {};
   folders_.insert(folder, path);
   return path;

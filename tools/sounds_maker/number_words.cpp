@@ -14,7 +14,7 @@ constexpr const char* kTens[] = {"",      "",      "twenty",  "thirty", "forty",
 
 QString BelowHundred(int number) {
   if (number < 20) return QString::fromLatin1(kUpToNineteen[number]);
-  const QString tens = QString::fromLatin1(kTens[number / 10]);
+  QString tens = QString::fromLatin1(kTens[number / 10]);
   if (number % 10 == 0) return tens;
   return tens + u' ' + QString::fromLatin1(kUpToNineteen[number % 10]);
 }

@@ -152,6 +152,7 @@ QStringList SoundMaker::Make(const QList<SoundJob>& jobs, int threads,
     }
   };
   std::vector<std::thread> workers;
+  workers.reserve(static_cast<std::size_t>(threads));
   for (int i = 0; i < threads; ++i) workers.emplace_back(work);
   for (std::thread& worker : workers) worker.join();
   return failed;
