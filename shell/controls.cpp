@@ -74,15 +74,20 @@ ColourWord ForeColorOf(const QWidget* control) {
 }
 
 void FitFont(QLabel* label, QFont font, QSize room) {
-  const auto fits = [&](int pixels) {
+  const auto sizeAt = [&](int pixels) {
     font.setPixelSize(pixels);
     const QFontMetrics metrics(font);
-    return metrics.height() <= room.height() &&
-           metrics.horizontalAdvance(label->text()) <= room.width();
+    return QSize(metrics.horizontalAdvance(label->text()), metrics.height());
   };
-  int pixels = std::max(room.height(), 1);
-  while (pixels > 1 && !fits(pixels)) --pixels;
-  font.setPixelSize(pixels);
+  const auto fits = [room](QSize text) {
+    return text.width() <= room.width() && text.height() <= room.height();
+  };
+  // Each size tried loads a font: a guess by proportion, then what rounding leaves.
+  constexpr int kTried = 32;
+  const QSizeF tried = sizeAt(kTried);
+  const double scale = std::min(room.width() / tried.width(), room.height() / tried.height());
+  int pixels = std::max(static_cast<int>(kTried * scale), 1);
+  while (pixels > 1 && !fits(sizeAt(pixels))) --pixels;
   label->setFont(font);
 }
 
