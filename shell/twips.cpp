@@ -3,18 +3,22 @@
 #include <QRectF>
 #include <QVariant>
 #include <QWidget>
+#include <algorithm>
 
 #include "shell/numbers.h"
 
 namespace bramlee {
 namespace {
 
+/// Pixels that no widget reaches, and that Qt can still reckon with.
+constexpr double kFarthest = 1 << 24;
+
 constexpr char kPlace[] = "twips";
 
 }  // namespace
 
 int PixelsOf(double twips) {
-  return static_cast<int>(RoundEven(twips / kTwipsPerPixel));
+  return static_cast<int>(RoundEven(std::clamp(twips / kTwipsPerPixel, -kFarthest, kFarthest)));
 }
 
 QRect PixelsOf(const TwipsRect& rect) {
