@@ -20,7 +20,7 @@ namespace bramlee {
 namespace {
 
 QString DrivesFolder() {
-  const QString given = qEnvironmentVariable("BRAMLEE_DRIVES");
+  QString given = qEnvironmentVariable("BRAMLEE_DRIVES");
   if (!given.isEmpty()) return given;
   return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
          QStringLiteral("/bramlee/drives");
@@ -37,7 +37,7 @@ QString DriveFolder(QChar letter) {
 }
 
 QString InFolder(const QString& folder, const QString& name) {
-  const QString exact = folder + u'/' + name;
+  QString exact = folder + u'/' + name;
   const QFileInfo spelled(exact);
   if (spelled.exists() || spelled.isSymLink()) return exact;
   QString found;
