@@ -182,7 +182,7 @@ TEST_F(Writing, ShouldWriteALetterTwiceForADoubleClick) {
 TEST_F(Writing, ShouldCloseLastAndHurryUntilThen) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
-  desktop.Key(QStringLiteral("alt+F4"));
+  desktop.AskToClose(board.Window());
   board.ClickTile(2);
   desktop.Key(QStringLiteral("x"));
   board.WaitFor(QStringLiteral("gone"));
@@ -195,7 +195,7 @@ TEST_F(Writing, ShouldDeliverWhatCameBeforeTheClose) {
   board.BeginLetter();
   board.ClickTile(2);
   desktop.Key(QStringLiteral("x"));
-  desktop.Key(QStringLiteral("alt+F4"));
+  desktop.AskToClose(board.Window());
   board.WaitFor(QStringLiteral("gone"));
   board.ExpectInOrder({QStringLiteral("written 1"), QStringLiteral("begins 2"),
                        QStringLiteral("written 2"), QStringLiteral("key X"),
@@ -205,8 +205,7 @@ TEST_F(Writing, ShouldDeliverWhatCameBeforeTheClose) {
 TEST_F(Writing, ShouldHurryWhenAnotherWindowIsToClose) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
-  ActivateOther();
-  desktop.Key(QStringLiteral("alt+F4"));
+  desktop.AskToClose(desktop.WindowTitled(QStringLiteral("other")));
   board.WaitFor(QStringLiteral("close other"));
   board.ExpectInOrder({QStringLiteral("written 1"), QStringLiteral("close other")});
   ExpectSheetHolds(board, Capitals(kEndless.toDouble(), {1}));
