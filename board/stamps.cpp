@@ -33,7 +33,9 @@ Stamps::Stamps(double ratio)
       rows_(2 * reach_ + 1),
       columns_((rows_ + 1 + 3) / 4 * 4),
       wordsPerStamp_(std::ptrdiff_t{rows_} * columns_),
-      words_(ZeroWords(static_cast<std::size_t>(kPhases * kPhases * wordsPerStamp_))) {}
+      words_(
+          ZeroWords(static_cast<std::size_t>(std::ptrdiff_t{kPhases} * kPhases * wordsPerStamp_))) {
+}
 
 /// Level by level of samples: a disc holds those of a level from one pixel to another. Their bit
 /// is turned over where they begin and behind where they end, and then handed on from pixel to

@@ -96,7 +96,7 @@ Named HindiVowel(int tile) {
 std::string HindiConsonant(int tile, bool name) {
   const int set = (tile - 1) / kHindiSetTiles + 1;
   const Named letter = kHindiConsonants[(tile - 1) % kHindiSetTiles];
-  const std::string whole = name ? letter.name : letter.printed;
+  std::string whole = name ? letter.name : letter.printed;
   if (set == 1) return whole;
   if (name) return set == 2 ? "half " + whole : whole + " with the foot stroke";
   return whole + kVirama + (set == 2 ? kJoiner : kFoot);
@@ -124,7 +124,7 @@ std::string PrintedLetter(std::string_view letterSet, int tile) {
 }
 
 std::string LetterName(std::string_view letterSet, int tile) {
-  const std::string printed = PrintedLetter(letterSet, tile);
+  std::string printed = PrintedLetter(letterSet, tile);
   if (tile < 1 || tile > Tiles(letterSet)) return {};
   if (letterSet == "engc") return "capital " + printed;
   if (letterSet == "engs") return "small " + printed;

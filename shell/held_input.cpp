@@ -215,8 +215,7 @@ class HeldInput : public QObject {
       case QEvent::TabletPress:
       case QEvent::TabletMove:
       case QEvent::TabletRelease:
-        event->ignore();  // refused, it comes again as a mouse event
-        return true;
+        // Refused, these come again as mouse events; what follows is refused for good.
       case QEvent::NativeGesture:
       case QEvent::DragEnter:
       case QEvent::DragMove:
