@@ -1,8 +1,11 @@
 #include <QMdiArea>
+#include <functional>
 #include <limits>
+#include <utility>
 #include <vector>
 
 #include "shell/fbrmhom1.h"
+#include "shell/trap.h"
 #include "tests/shell/shell_forms.h"
 
 namespace bramlee {
@@ -192,6 +195,81 @@ TEST_F(Home, ExitUnloadsAllAndEndsWithoutAQuestion) {
   EXPECT_EQ(ends, 1);
   EXPECT_TRUE(boxes.isEmpty());
   EXPECT_TRUE(questions.isEmpty());
+}
+
+/// A form whose unload the test watches.
+class WatchedForm : public Form {
+ public:
+  WatchedForm(const QString& name, std::function<void()> atUnload)
+      : Form(name), atUnload_(std::move(atUnload)) {}
+  void Form_Unload() override { atUnload_(); }
+
+ private:
+  std::function<void()> atUnload_;
+};
+
+TEST_F(Home, ExitUnloadsFromTheLastToTheFirstTheUnseenOnesToo) {
+  QList<QStringList> stillThere;
+  const auto watch = [&](const char* form) {
+    const QString name = QString::fromLatin1(form);
+    RegisterForm(name, [&, name] {
+      return new WatchedForm(name, [&, name] {
+        stillThere.append(LoadedNames());
+        EXPECT_EQ(LoadedNames().last(), name);
+        EXPECT_EQ(LoadForm(QStringLiteral("fcomsav1")), nullptr) << "nothing is loaded meanwhile";
+      });
+    });
+  };
+  watch("fbrmmat01");
+  watch("fbrminf1");
+  watch("f1207vid");
+  Shown("fbrmsta1");
+  const Form* home = TheForm();
+  LoadForm(QStringLiteral("f1207vid"));
+  ClickOn(Tile(home, 7));
+  Item(home, "mnubiodata")->trigger();
+  ShowForm(QStringLiteral("fbrmhom1"));  // shown again, it keeps its turn
+  Item(home, "mnuexit")->trigger();
+  const QStringList shell{QStringLiteral("MDIbrm"), QStringLiteral("fbrmsta1"),
+                          QStringLiteral("fbrmhom1")};
+  const QStringList first = shell + QStringList{QStringLiteral("f1207vid")};
+  const QStringList second = first + QStringList{QStringLiteral("fbrmmat01")};
+  EXPECT_EQ(stillThere,
+            (QList<QStringList>{second + QStringList{QStringLiteral("fbrminf1")}, second, first}));
+  EXPECT_TRUE(LoadedForms().isEmpty());
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Home, ExitEndsWithoutAWordThoughAFormCannotGo) {
+  MakeDataFolder();
+  bool mayGo = false;
+  RegisterForm(QStringLiteral("fbrmmat01"), [&mayGo] {
+    return new WatchedForm(QStringLiteral("fbrmmat01"), [&mayGo] {
+      if (!mayGo) throw TrappedError(QStringLiteral("cannot go"));
+    });
+  });
+  const Form* home = TheForm();
+  ClickOn(Tile(home, 7));
+  Item(home, "mnuexit")->trigger();
+  EXPECT_EQ(ends, 1);
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_TRUE(QDir(On("c/bramlee/dba")).isEmpty()) << "nothing is reported";
+  mayGo = true;
+}
+
+TEST_F(Home, ALoadThatFailsIsToldAndReported) {
+  MakeDataFolder();
+  fbrmhom1 home;
+  auto* drive = home.Named<QLineEdit>(QStringLiteral("txtdrv"));
+  drive->setText(QStringLiteral("X:"));
+  const auto fault = QObject::connect(drive, &QLineEdit::textChanged, [] {
+    throw TrappedError(QStringLiteral("the drive cannot be kept"));
+  });
+  home.Form_Load();
+  QObject::disconnect(fault);
+  EXPECT_EQ(boxes, QStringList{QStringLiteral("ERROR")});
+  EXPECT_NE(Loaded("fcomsav1"), nullptr);
+  EXPECT_FALSE(BytesOf(On("c/bramlee/dba/errrepv0.dat")).isEmpty());
 }
 
 TEST_F(Home, ExitEndsTheProgramWithStatusNought) {

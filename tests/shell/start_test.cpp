@@ -144,15 +144,51 @@ TEST_F(Start, TheThirdLineWalksInACircleByRadians) {
   EXPECT_EQ(LineAt(form, 2).left, 1848);
 }
 
+/// Where the title's lines are on a screen, worked out by hand: each length is the screen's width
+/// or height parted and rounded first, then multiplied.
+struct WayOn {
+  ScreenSize screen;
+  double line0At1;
+  double line1At1;
+  double line0At171;
+  double line1At171;
+  double walk[4][2];  ///< left and top of the third line at its first four ticks
+};
+
+const WayOn kWayOn[] = {
+    {{.width = 15360, .height = 11520},
+     589,  14783,
+     28129, -12757,
+     {{1848, 4600}, {2698, 3045}, {4465, 2920}, {5526, 4339}} },
+    {{.width = 20490, .height = 11520},
+     785,  19699,
+     37505, -17021,
+     {{2460, 4600}, {3591, 2530}, {5944, 2363}, {7355, 4253}} },
+    {{.width = 28800, .height = 16200},
+     1103, 27697,
+     52613, -23813,
+     {{3456, 6480}, {5045, 3572}, {8350, 3337}, {10333, 5992}}},
+};
+
 TEST_F(Start, TheTitleMovesByTheScreensSizeNotTheForms) {
-  SetScreen(ScreenSize{.width = 28800, .height = 16200});
-  fbrmsta1* form = TheForm();
-  form->tmr1_Timer();  // 28800 / 284 is 101.41, 28800 / 36 is 800
-  EXPECT_EQ(LineAt(form, 0).left, 1103);
-  EXPECT_EQ(LineAt(form, 1).left, 27697);
-  form->tmr2_Timer();
-  EXPECT_EQ(LineAt(form, 2).left, 12 * 288);
-  EXPECT_EQ(LineAt(form, 2).top, 40 * 162);
+  for (const WayOn& on : kWayOn) {
+    SCOPED_TRACE(on.screen.width);
+    SetScreen(on.screen);
+    fbrmsta1* form = TheForm();
+    form->tmr1_Timer();
+    EXPECT_EQ(LineAt(form, 0).left, on.line0At1);
+    EXPECT_EQ(LineAt(form, 1).left, on.line1At1);
+    for (int tick = 2; tick <= 171; ++tick) form->tmr1_Timer();
+    EXPECT_EQ(form->cnt(), 0);
+    EXPECT_EQ(LineAt(form, 0).left, on.line0At171);
+    EXPECT_EQ(LineAt(form, 1).left, on.line1At171);
+    for (const auto& step : on.walk) {
+      form->tmr2_Timer();
+      EXPECT_EQ(LineAt(form, 2).left, step[0]);
+      EXPECT_EQ(LineAt(form, 2).top, step[1]);
+    }
+    UnloadAll();
+  }
 }
 
 TEST_F(Start, TheTimersMoveTheTitle) {
@@ -181,6 +217,7 @@ TEST_F(Start, AFailedTickLosesOnlyThatTick) {
 TEST_F(Start, AClickAnywhereStarts) {
   const fbrmsta1* form = TheForm();
   QWidget* const places[] = {form->client(), form->Named<Label>(QStringLiteral("lblsta(0)")),
+                             form->Named<Label>(QStringLiteral("lblsta(1)")),
                              form->Named<Label>(QStringLiteral("lblsta(2)"))};
   for (QWidget* place : places) {
     ClickOn(place);
