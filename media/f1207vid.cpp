@@ -72,26 +72,26 @@ f1207vid::f1207vid() : Form(Name("f1207vid")) {
 
 void f1207vid::MakeMenus() {
   QMenu* file = AddMenu(Name("mnufile"), Name("&File"));
-  AddItem(file, Name("mnuback"), Name("&Back"), [this] { mnuback_Click(); });
+  AddCommand(file, Name("mnuback"), Name("&Back"), [this] { mnuback_Click(); });
   AddBarItem(Name("mnulist"), Name("&List"), [this] { mnulist_Click(); });
   AddBarItem(Name("mnuplay"), Name("&Play"), [this] { mnuplay_Click(); });
   AddBarItem(Name("mnustop"), Name("&Stop"), [this] { mnustop_Click(); });
   QMenu* sizes = AddMenu(Name("mnudissize"), Name("&ScreenSize"));
   int index = 0;
   for (const char* caption : {"&Default", "&1/4", "&HalfSize", "&FullScreen", "&DoubleSize"}) {
-    AddItem(sizes, Indexed("mnudsize", index), Name(caption),
-            [this, index] { mnudsize_Click(index); });
+    AddCommand(sizes, Indexed("mnudsize", index), Name(caption),
+               [this, index] { mnudsize_Click(index); });
     ++index;
   }
   QMenu* speeds = AddMenu(Name("mnuspeed"), Name("&Speed"));
   for (int i = 1; i <= kSpeeds; ++i) {
     if (i == kMissingSpeed) continue;
-    AddItem(speeds, Indexed("mnuspd", i), QString::number(i / 10.0, 'f', 1),
-            [this, i] { mnuspd_Click(i); });
+    AddCommand(speeds, Indexed("mnuspd", i), QString::number(i / 10.0, 'f', 1),
+               [this, i] { mnuspd_Click(i); });
   }
   QMenu* countdown = AddMenu(Name("mnucdown1"), Name("&CountDown"));
-  AddItem(countdown, Indexed("mnucdown", 1), Name("&On"), [this] { mnucdown_Click(1); });
-  AddItem(countdown, Indexed("mnucdown", 2), Name("&Off"), [this] { mnucdown_Click(2); });
+  AddCommand(countdown, Indexed("mnucdown", 1), Name("&On"), [this] { mnucdown_Click(1); });
+  AddCommand(countdown, Indexed("mnucdown", 2), Name("&Off"), [this] { mnucdown_Click(2); });
 }
 
 WindowsMediaPlayer* f1207vid::Player() const {

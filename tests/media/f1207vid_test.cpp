@@ -74,16 +74,43 @@ TEST_F(F1207vid, RunsBothTimersFromItsLoad) {
 
 TEST_F(F1207vid, HasItsMenus) {
   QStringList bar;
-  for (const QAction* item : form->BarItems()) bar.append(CaptionOf(item));
-  EXPECT_EQ(bar, (QStringList{Name("File"), Name("List"), Name("Play"), Name("Stop"),
-                              Name("ScreenSize"), Name("Speed"), Name("CountDown")}));
-  for (const char* name : {"mnufile", "mnudissize", "mnuspeed", "mnucdown1"}) {
-    EXPECT_NE(Find<QMenu>(name), nullptr) << name;
+  for (const QAction* item : form->BarItems()) bar.append(item->text());
+  EXPECT_EQ(bar, (QStringList{Name("&File"), Name("&List"), Name("&Play"), Name("&Stop"),
+                              Name("&ScreenSize"), Name("&Speed"), Name("&CountDown")}));
+  const struct {
+    const char* menu;
+    int items;
+  } kMenus[] = {
+      {"mnufile",    1 },
+      {"mnudissize", 5 },
+      {"mnuspeed",   19},
+      {"mnucdown1",  2 }
+  };
+  for (const auto& menu : kMenus) {
+    ASSERT_NE(Find<QMenu>(menu.menu), nullptr) << menu.menu;
+    EXPECT_EQ(Find<QMenu>(menu.menu)->actions().size(), menu.items) << menu.menu;
   }
-  EXPECT_EQ(Find<QAction>("mnudsize(1)")->text(), Name("&1/4"));
-  EXPECT_EQ(Find<QAction>("mnudsize(4)")->text(), Name("&DoubleSize"));
-  EXPECT_EQ(Find<QAction>("mnucdown(1)")->text(), Name("&On"));
-  EXPECT_EQ(Find<QAction>("mnucdown(2)")->text(), Name("&Off"));
+  const struct {
+    const char* item;
+    const char* caption;
+  } kItems[] = {
+      {"mnuback",     "&Back"      },
+      {"mnulist",     "&List"      },
+      {"mnuplay",     "&Play"      },
+      {"mnustop",     "&Stop"      },
+      {"mnudsize(0)", "&Default"   },
+      {"mnudsize(1)", "&1/4"       },
+      {"mnudsize(2)", "&HalfSize"  },
+      {"mnudsize(3)", "&FullScreen"},
+      {"mnudsize(4)", "&DoubleSize"},
+      {"mnucdown(1)", "&On"        },
+      {"mnucdown(2)", "&Off"       }
+  };
+  for (const auto& item : kItems) {
+    ASSERT_NE(Find<QAction>(item.item), nullptr) << item.item;
+    EXPECT_EQ(Find<QAction>(item.item)->text(), Name(item.caption));
+    EXPECT_FALSE(Find<QAction>(item.item)->isCheckable()) << "nothing marks it";
+  }
 }
 
 TEST_F(F1207vid, HasNoSpeedOfFourTenths) {
@@ -219,6 +246,27 @@ TEST_F(F1207vid, UnloadsAtTheFifteenthTick) {
   EXPECT_FALSE(Loaded());
   EXPECT_FALSE(Find<QTimer>("Timerete")->isActive());
   EXPECT_EQ(Text("txtete"), Name("0"));
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
+/// A tick as the event loop brings it, when its time has come.
+void BringTick(QTimer* timer) {
+  QTimerEvent tick(timer->timerId());
+  QCoreApplication::sendEvent(timer, &tick);
+}
+
+TEST_F(F1207vid, IsUnloadedByItsTimersUnseen) {
+  auto* countdown = Find<QTimer>("Timerete");
+  for (int tick = 1; tick <= 14; ++tick) BringTick(countdown);
+  EXPECT_EQ(Text("txtete"), Name("0.333"));
+  EXPECT_TRUE(Loaded());
+  BringTick(countdown);
+  EXPECT_FALSE(Loaded());
+
+  const Form* again = LoadForm(kForm);
+  again->SetText(Name("txtcnt"), Name("1"));
+  BringTick(again->Named<QTimer>(Name("Timer1")));
+  EXPECT_FALSE(Loaded());
   EXPECT_TRUE(boxes.isEmpty());
 }
 
