@@ -5,6 +5,7 @@
 
 #include "media/media.h"
 #include "media/windows_media_player.h"
+#include "shell/fbrmhom1.h"
 #include "tests/board/board_fixture.h"
 
 namespace bramlee {
@@ -117,16 +118,29 @@ TEST_F(Cues, SmallLettersReadFormatAndDriveFromTheCapitals) {
 }
 
 TEST_F(Cues, CapitalsLoadedUnseenKeepTheDriveOfThatMoment) {
+  // The home form with its menus and tiles, not the one of drives alone.
+  RegisterForm(Q("fbrmhom1"), [] { return new fbrmhom1; });
+  ShowForm(Q("fbrmhom1"));
+  const Form& home = *LoadedForm(Q("fbrmhom1"));
+  const auto writeSmallA = [&home] {
+    home.Named<PictureBox>(Q("pic(2)"))->click();
+    auto& small = dynamic_cast<Board&>(*LoadedForm(Q("fbrmengs01")));
+    small.SetText(Q("txtspd"), Q("1"));
+    Pick(small, "mnuaud");
+    small.Tile(1)->click();
+    return small.TextOf(Q("txtdrv"));
+  };
   Record("c/bramlee/aud/engs/eng-a.wma");
-  Board& small = Open("fbrmengs01");
-  small.mnuaud_Click();
-  small.pic_Click(1);
+  EXPECT_EQ(writeSmallA(), Q("C:"));
   EXPECT_EQ(Handed(), R"(C:\bramlee\aud\engs\eng-a.wma)");
-  UnloadForm(&small);
-  ChooseDrive("D:");
-  Board& again = Open("fbrmengs01");
-  EXPECT_EQ(again.TextOf(Q("txtdrv")), Q("D:"));
-  EXPECT_EQ(Path(1, 2), R"(C:\bramlee\aud\engs\eng-a.wma)");
+  Pick(*LoadedForm(Q("fbrmengs01")), "mnuclose");
+  UnloadForm(LoadedForm(Q("f1207vid")));
+  Pick(home, "mnudrv(4)");
+  Record("d/bramlee/aud/engs/eng-a.wma");
+  EXPECT_EQ(writeSmallA(), Q("D:"));
+  EXPECT_EQ(Handed(), R"(C:\bramlee\aud\engs\eng-a.wma)");
+  EXPECT_EQ(LoadedForm(Q("fbrmengc02"))->TextOf(Q("txtdrv")), Q("C:"));
+  EXPECT_TRUE(boxes.isEmpty());
 }
 
 TEST_F(Cues, HindiVowelsReadTheirOwnMarkAndTheCapitalsCaption) {
