@@ -281,6 +281,17 @@ TEST_F(Drills, WithNoSignNothingHappens) {
   EXPECT_EQ(Result(), QStringLiteral("0"));
 }
 
+TEST_F(Drills, WithNoSignNotEvenAColourChanges) {
+  Reckon("mnuadd", "abc", "5");
+  Pick("mnuadd");
+  Type("cmb(16)", "7");
+  messages.clear();
+  Find<PictureBox>("picequal")->click();
+  EXPECT_EQ(BackColorOf(Find<QWidget>("cmb(16)")), kRed);
+  EXPECT_EQ(Result(), QStringLiteral("0"));
+  EXPECT_TRUE(messages.isEmpty());
+}
+
 TEST_F(Drills, PicksInTheOperandsReckonNothing) {
   Pick("mnuadd");
   PickEntry("cmb(16)", "20");
