@@ -12,7 +12,9 @@ void MakeDrillRow(Board& board);
 /// The five drills' items at the end of that menu.
 void MakeDrillMenu(Board& board, QMenu* menu);
 
-/// picequal_Click: writes the row's result into txtval(20).
+/// picequal_Click: writes the row's result into txtval(20). An operand that is no number turns red,
+/// is told of and counts as 0; a number divided by nothing is told of. Where there is no result,
+/// or no sign can be seen, the box keeps its text.
 void CalcResult(Board& board);
 
 }  // namespace bramlee

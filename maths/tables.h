@@ -11,7 +11,9 @@ void MakeTablePicture(Board& board);
 /// "&ShowTables" with "&Tables" in that menu.
 void MakeTableMenu(Board& board, QMenu* menu);
 
-/// pict_Click: the table of the number in cmb(16), of 0 for a text that is none.
+/// pict_Click: the table of the number in cmb(16), of 0 for a text that is none, into txtval(20),
+/// which grows to show it. Where a product is too large for a double the box keeps its text and
+/// stays low.
 void pict_Click(Board& board);
 
 }  // namespace bramlee

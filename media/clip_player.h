@@ -20,11 +20,15 @@ class ClipPlayer : public QWidget {
 
   /// Plays the clip of that system path from its start; one that cannot be played stays dark.
   void Play(const QString& file);
+  /// Without a clip, nothing.
   void Stop();
   bool Playing() const;
 
+  // --- settings; they hold for the clips to come, too
+  /// 1 is as recorded; greater than 0.
   void SetRate(double rate);
   void SetMute(bool mute);
+  /// Whether a picture fills the place also where that distorts it.
   void SetStretchToFit(bool stretch);
 
  private:

@@ -21,15 +21,19 @@ class SoundWorker : public QObject {
  public:
   SoundWorker();
 
-  /// Plays the files one after the other under one number.
+  /// Plays the files one after the other under one number; what was playing is cut off. Files
+  /// that cannot be played are passed over.
   void Play(int number, const QStringList& files);
   /// Plays the short silent files, unless something is playing.
   void WarmUp();
+  /// Cuts off what is playing, if anything is.
   void Stop();
+  /// For this sound and those to come, see PcmSource.
   void SetRate(double rate);
   void SetMute(bool mute);
 
  Q_SIGNALS:
+  /// Of each Play and WarmUp once.
   void Ended(int number, bramlee::SoundEnd end);
 
  private:

@@ -25,9 +25,12 @@ class WindowsMediaPlayer : public QWidget {
   void SetURL(const QString& path);
 
   // --- controls
-  /// From the start. While it is playing, nothing.
+  /// From the start. While it is playing, or without a URL, nothing.
   void Play();
+  /// What was playing will begin anew at the next Play.
   void Stop();
+  /// From Play until the sound or clip has ended, was stopped or turned out not to be playable,
+  /// which is told between other events.
   bool Playing() const;
 
   // --- settings; they stay from file to file

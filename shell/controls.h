@@ -16,7 +16,7 @@ namespace bramlee {
 /// A colour as the forms name it: a word in blue-green-red order, 0x000000FF is red.
 using ColourWord = std::uint32_t;
 QColor ColourOf(ColourWord word);
-ColourWord WordOf(const QColor& colour);
+ColourWord WordOf(const QColor& colour);  ///< without its transparency
 
 /// The name of an array's element: Indexed("pic", 3) is "pic(3)".
 QString Indexed(const char* array, int index);
@@ -41,8 +41,8 @@ class TextBox : public QLineEdit {
   explicit TextBox(const QString& text, QWidget* parent = nullptr);
 };
 
-void SetBackColor(QWidget* control, ColourWord colour);
-void SetForeColor(QWidget* control, ColourWord colour);
+void SetBackColor(QWidget* control, ColourWord colour);  ///< of its ground; fills a label
+void SetForeColor(QWidget* control, ColourWord colour);  ///< of its text
 ColourWord BackColorOf(const QWidget* control);
 ColourWord ForeColorOf(const QWidget* control);
 
@@ -55,7 +55,7 @@ class Label : public QLabel {
  public:
   explicit Label(const QString& text, QWidget* parent = nullptr);
  Q_SIGNALS:
-  void Clicked();
+  void Clicked();  ///< by the left button
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;

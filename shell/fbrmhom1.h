@@ -13,17 +13,19 @@ class fbrmhom1 : public Form {
 
   /// Lays the form out and chooses drive C:. Tag "603:01"; an error is told and reported.
   void Form_Load() override;
-  /// Tag "601:23"; an error is told.
+  /// Places all controls by those sizes. Tag "601:23"; an error is told.
   void LayOut(const ScreenRec& rec);
 
   /// Shows the subject's board.
   void pic_Click(int index);
   /// Shows the subject's board and, but for the first, hands it the drive.
   void lbl1_Click(int index);
+  /// Chooses the drive of that letter, 1 for "A:"; whether it is there shows at the next cue.
   void mnudrv_Click(int index);
+  /// Back to the start form; the drive chosen is forgotten.
   void mnuback_Click();
   void mnubiodata_Click();
-  /// Tag "603:02".
+  /// Unloads all forms and ends the program. Tag "603:02".
   void mnuexit_Click();
 
  private:

@@ -19,15 +19,18 @@ class fbrmsta1 : public Form {
 
   /// A click anywhere on the form starts. Tag "601:01".
   void Form_Click();
-  void mnustart_Click();  ///< Tag "601:03".
+  /// Shows the home form, loaded or not. Tag "601:03".
+  void mnustart_Click();
+  /// Ends the program at once; no form is unloaded first.
   void mnuexit_Click();
-  /// The switch in front of the home form. Tag "601:06".
+  /// The switch in front of the home form: marks its item and shows the notice. Tag "601:06".
   void mnupp_Click(int index);
   /// Two lines of the title pass each other. Tag "601:04".
   void tmr1_Timer();
   /// The third line walks in a circle. Tag "601:05".
   void tmr2_Timer();
 
+  /// How far the passing lines are, in ticks, and the walk, in radians.
   std::int32_t cnt() const { return cnt_; }
   double angle() const { return angle_; }
 

@@ -9,7 +9,9 @@ class fcomsav1 : public Form {
   Q_OBJECT
  public:
   fcomsav1();
+  /// Stands in the middle of the screen and starts its timer. Leaves quietly on an error.
   void Form_Load() override;
+  /// Unloads the notice.
   void Timer1_Timer();
 };
 

@@ -23,12 +23,12 @@ struct TwipsRect {
 
 /// The rectangle's logical pixels, each of the four to the nearest.
 QRect PixelsOf(const TwipsRect& rect);
-TwipsRect TwipsOf(const QRect& pixels);
+TwipsRect TwipsOf(const QRect& pixels);  ///< exactly
 
 /// Puts the control there. The place is kept in twips, so that what is laid out from a
 /// neighbour's place does not pick up the rounding to pixels.
 void Place(QWidget* control, const TwipsRect& rect);
-void MoveTo(QWidget* control, double left, double top);
+void MoveTo(QWidget* control, double left, double top);  ///< its size stays
 
 /// Where the control stands, in twips: as placed, or worked out from its pixels.
 TwipsRect PlaceOf(const QWidget* control);
