@@ -1,5 +1,7 @@
 #include "board/cues.h"
 
+#include <sys/stat.h>
+
 #include <QFileInfo>
 #include <QImage>
 
@@ -239,13 +241,36 @@ TEST_F(Cues, AMissingSoundLeavesTheLetterWritten) {
 }
 
 TEST_F(Cues, AFileThatIsNoSoundLeavesTheLetterWritten) {
-  Record("c/bramlee/aud/engc/eng-b.wma");
+  const QString file = On("c/bramlee/aud/engc/eng-b.wma");
+  QDir().mkpath(QFileInfo(file).path());
+  for (const char* bytes : {"", "x", "RIFF and nothing more", "\x30\x26\xB2\x75 cut off"}) {
+    WriteBytes(file, bytes);
+    Board& capitals = Open("fbrmengc02");
+    capitals.mnuaud_Click();
+    const QImage before = capitals.sheet().grab().toImage();
+    capitals.pic_Click(2);
+    EXPECT_TRUE(boxes.isEmpty()) << bytes;
+    EXPECT_EQ(Handed(), R"(C:\bramlee\aud\engc\eng-b.wma)");
+    EXPECT_NE(capitals.sheet().grab().toImage(), before) << bytes;
+    UnloadForm(&capitals);
+    UnloadForm(LoadedForm(Q("f1207vid")));
+  }
+}
+
+TEST_F(Cues, APipeInAFilesPlaceHoldsNothingUpAndAFolderCountsAsMissing) {
+  const QString pipe = On("c/bramlee/aud/engc/eng-b.wma");
+  QDir().mkpath(QFileInfo(pipe).path());
+  ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  QDir().mkpath(On("c/bramlee/aud/engc/eng-c.wma"));
   Board& capitals = Open("fbrmengc02");
   capitals.mnuaud_Click();
   const QImage before = capitals.sheet().grab().toImage();
   capitals.pic_Click(2);
-  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_EQ(Handed(), R"(C:\bramlee\aud\engc\eng-b.wma)");
   EXPECT_NE(capitals.sheet().grab().toImage(), before);
+  EXPECT_TRUE(boxes.isEmpty());
+  capitals.pic_Click(3);
+  EXPECT_EQ(boxes, QStringList{Q(R"(C:\bramlee\aud\engc\eng-c.wma Not Found: )")});
 }
 
 TEST_F(Cues, AfterTheCountdownTheNextCueLoadsThePlayerAnew) {

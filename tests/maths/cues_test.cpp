@@ -65,6 +65,21 @@ TEST_F(MathsCues, WithPlayOnTheWholeNumberIsSpokenOnce) {
   EXPECT_EQ(CueBoardNo, 7);
 }
 
+TEST_F(MathsCues, PickedNumberIsSpokenOnce) {
+  Pick("mnuaud");
+  PickEntry("cmb(0)", "27");
+  EXPECT_EQ(messages,
+            QStringList{QStringLiteral(R"(Q:\bramlee\aud\mat\matc\mat-27.wma Not Found: )")});
+}
+
+TEST_F(MathsCues, DigitAfterANumberComesFromTheFolderOfTiles) {
+  Pick("mnuaud");
+  TypeAndEnter("cmb(0)", "27");
+  messages.clear();
+  ClickTile(3);
+  EXPECT_EQ(messages, QStringList{CueOf(3)});
+}
+
 TEST_F(MathsCues, LongNumberIsSpokenThoughNotWritten) {
   Pick("mnuaud");
   TypeAndEnter("cmb(0)", "12345");
