@@ -104,6 +104,7 @@ void f1207vid::Form_Load() {
     Player()->Stop();
     ScreenRec screen;
     FillScreenRec(screen);
+    setProperty("ScaleFlag", screen.ScaleFlag);
     const TwipsRect place = PlaceOf(Player());
     SetText(Indexed("txtssize", 0), NumberText(place.height - 10.0 * screen.UnitH));
     SetText(Indexed("txtssize", 1), NumberText(place.left));

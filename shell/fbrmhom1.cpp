@@ -191,6 +191,7 @@ void fbrmhom1::Form_Load() {
       [this](ErrInfo&) {
         ScreenRec rec;
         FillScreenRec(rec);
+        setProperty("ScaleFlag", rec.ScaleFlag);
         CentreOnScreen(rec.ScrW, rec.ScrH);
         LayOut(rec);
         auto* drive = Named<QAction>(Indexed("mnudrv", kDriveC));

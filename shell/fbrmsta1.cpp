@@ -80,6 +80,7 @@ void fbrmsta1::Form_Load() {
 void fbrmsta1::LayOut() {
   ScreenRec rec;
   FillScreenRec(rec);
+  setProperty("ScaleFlag", rec.ScaleFlag);
   CentreOnScreen(rec.ScrW, rec.ScrH);
   const double height = rec.ScrH;
   const double width = rec.ScrW;

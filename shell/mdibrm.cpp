@@ -34,6 +34,7 @@ void MDIbrm::MDIForm_Load() {
   Trap(QStringLiteral("601:02"), [this](ErrInfo&) {
     ScreenRec rec;
     FillScreenRec(rec);
+    setProperty("ScaleFlag", rec.ScaleFlag);
     CentreOnScreen(rec.ScrW, rec.ScrH);
   });
 }

@@ -50,6 +50,7 @@ class F1207vid : public TempDrives {
 TEST_F(F1207vid, IsLoadedUnseenWithItsSettledValues) {
   EXPECT_FALSE(form->isVisible());
   EXPECT_EQ(form->windowTitle(), Name("AUDIO / VIDEO CLIPS"));
+  EXPECT_EQ(form->property("ScaleFlag"), QVariant(1));
   EXPECT_EQ(Text("txtpath"), Name("1"));
   EXPECT_EQ(Text("txtete"), Name("5"));
   EXPECT_EQ(Text("txtcnt"), Name("0"));

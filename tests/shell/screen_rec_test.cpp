@@ -1,5 +1,6 @@
 #include "shell/screen_rec.h"
 
+#include "shell/form.h"
 #include "shell/screen.h"
 #include "shell/shell.h"
 #include "tests/shell/temp_drives.h"
@@ -35,6 +36,21 @@ TEST_F(ScreenSizes, RoundTiesToEven) {
   // A height that gives ScrH 23650 and 23750 has the ties 236.5 and 237.5.
   EXPECT_EQ(Filled(15360, 23650 / 0.999).UnitH, 236);
   EXPECT_EQ(Filled(15360, 23750 / 0.999).UnitH, 238);
+}
+
+TEST_F(ScreenSizes, OfAScreen900PixelsHighAreATie) {
+  EXPECT_EQ(Filled(21600, 13500).ScrH, 13486);  // 13486.5
+  EXPECT_EQ(Filled(21600, 10500).ScrH, 10490);  // 10489.5
+}
+
+TEST_F(ScreenSizes, ComeWithAFlagThatEachFormTakesOver) {
+  RegisterShell();
+  MakeDataFolder();
+  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  for (const char* name : {"MDIbrm", "fbrmsta1", "fbrmhom1", "fbrminf1", "fcomsav1"}) {
+    const Form* form = LoadForm(QString::fromLatin1(name));
+    EXPECT_EQ(form->property("ScaleFlag"), QVariant(1)) << name;
+  }
 }
 
 TEST_F(ScreenSizes, TooLargeAreReportedOnceWithoutALoop) {
