@@ -167,9 +167,34 @@ TEST_F(CardFile, DoesNotFollowACountThatItCannotHave) {
     EXPECT_EQ(Field(0)->count(), count > 0 ? 3 : 0);
     EXPECT_EQ(Box(0)->text(), QStringLiteral("Anna"));
     UnloadAll();
-    EXPECT_EQ(RemoveCardItem(9), count == kLeast ? 1 : 0);
-    EXPECT_EQ(File(), count == kLeast ? damaged : WithCount(Items(3), count - 1));
+    ASSERT_EQ(RemoveCardItem(9), 0);
+    EXPECT_EQ(File(), WithCount(Items(3), count > 0 ? 2 : -1));
   }
+}
+
+TEST_F(CardFile, BringsNothingBackThatWasRemovedUnderACountBeyondItsEnd) {
+  Put(WithCount(Items(3), 1'000'000));
+  Open();
+  Pick(0, 1);
+  Remove();
+  EXPECT_EQ(boxes, Texts({"Removed Successfully"}));
+  EXPECT_EQ(List(3), Texts({"Item 1", "Item 3"}));
+  EXPECT_EQ(Sums(), Texts({"4", "40", "200", "160"}));
+  Pick(0, 1);
+  Remove();
+  EXPECT_EQ(List(3), Texts({"Item 1"}));
+  EXPECT_EQ(File().size(), 1800);
+}
+
+TEST_F(CardFile, TellsByItsStatusWhetherItWasChanged) {
+  EXPECT_EQ(WriteDefaultCard(), 0);
+  EXPECT_EQ(RemoveCardItem(2), 0);
+  QFile::remove(Place());
+  EXPECT_EQ(RemoveCardItem(2), 1);  // there is no card
+  QDir(On("c/bramlee")).removeRecursively();
+  EXPECT_EQ(WriteDefaultCard(), 1);
+  EXPECT_EQ(RemoveCardItem(2), 1);
+  EXPECT_TRUE(boxes.isEmpty());
 }
 
 TEST_F(CardFile, GetsANewItemBehindItsEndWhateverItsCount) {
