@@ -19,7 +19,8 @@ fbrmsav1::fbrmsav1() : Form(QStringLiteral("fbrmsav1"), Kind::FrameChild) {
   SetGround(0x00E0FFFF);
   AddHiddenText(QStringLiteral("txtpwd"), QStringLiteral("0"));
   AddHiddenText(QStringLiteral("txtmsg"), {});
-  AddLabel(QStringLiteral("lbl1"), QStringLiteral("     Loading... "));
+  const Label* text = AddLabel(QStringLiteral("lbl1"), QStringLiteral("     Loading... "));
+  setAccessibleName(Trim(text->text()));
   AddTimer(QStringLiteral("Timer1"), 2000, false, [this] { Timer1_Timer(); });
 }
 

@@ -1,6 +1,7 @@
 #include "shell/fcomsav1.h"
 
 #include "shell/forms.h"
+#include "shell/numbers.h"
 #include "shell/screen_rec.h"
 #include "shell/trap.h"
 
@@ -12,6 +13,7 @@ fcomsav1::fcomsav1() : Form(QStringLiteral("fcomsav1")) {
   AddHiddenText(QStringLiteral("txtpwd"), {});
   Label* text = AddLabel(QStringLiteral("lbl1"), QStringLiteral("     Saved "));
   text->setAlignment(Qt::AlignCenter);
+  setAccessibleName(Trim(text->text()));
   QFont font = text->font();
   font.setPointSize(14);
   text->setFont(font);

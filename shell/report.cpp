@@ -28,6 +28,7 @@ void ShowNotice(const QString& text) {
   Form* notice = LoadedForm(kNotice);
   if (notice == nullptr || Current().failed) throw TrappedError(QStringLiteral("no notice"));
   notice->Named<Label>(QStringLiteral("lbl1"))->setText(Trim(text));
+  notice->setAccessibleName(Trim(text));  // the focus is on nothing that would be read out
 }
 
 void TellThatReportFailed() {

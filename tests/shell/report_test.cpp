@@ -1,5 +1,9 @@
 #include "shell/report.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include "shell/err_rep_rec.h"
 #include "shell/form.h"
 #include "shell/screen.h"
@@ -87,6 +91,19 @@ TEST_F(Report, WithoutTheFolderEndsInABox) {
   EXPECT_EQ(seen[0].text, QStringLiteral("ErrorReportNotResponding"));
   EXPECT_EQ(seen[0].spoken, seen[0].text);
   EXPECT_TRUE(seen[0].plain);
+}
+
+TEST_F(Report, OnAFileHeldByAnotherProgramEndsInABox) {
+  MakeDataFolder();
+  Append(QStringLiteral("one"));
+  const int held = open(QFile::encodeName(Place()).constData(), O_RDWR);
+  ASSERT_EQ(flock(held, LOCK_EX), 0);
+  Tell(QStringLiteral("two"));
+  close(held);
+  EXPECT_EQ(boxes, QStringList(QStringLiteral("ErrorReportNotResponding")));
+  EXPECT_EQ(File(), Record(1, "S.No:1:", "one"));
+  Tell(QStringLiteral("two"));
+  EXPECT_EQ(File().size(), 300);
 }
 
 TEST_F(Report, GoesBehindWhatIsThereWhenTheCountCannotBe) {
@@ -192,6 +209,27 @@ TEST_F(Notice, OfAnEmptyTextIsShownAndStored) {
   EXPECT_TRUE(LoadedForm(kNotice)->isVisible());
   EXPECT_EQ(Words(), QString());
   EXPECT_EQ(File(), Record(1, "S.No:1:", ""));
+}
+
+TEST_F(Notice, IsCalledByWhatItSays) {
+  EXPECT_EQ(LoadForm(kNotice)->accessibleName(), QStringLiteral("Saved"));
+  Tell(QStringLiteral("  Error:Unload all "));
+  EXPECT_EQ(LoadedForm(kNotice)->accessibleName(), QStringLiteral("Error:Unload all"));
+  EXPECT_EQ(LoadForm(QStringLiteral("fbrmsav1"))->accessibleName(), QStringLiteral("Loading..."));
+}
+
+TEST_F(Notice, OfAnErrorDuringAReportIsNotTold) {
+  // The box of a report that cannot be written waits; another error comes meanwhile.
+  QDir(On("c/bramlee")).removeRecursively();
+  ReplaceMessageBoxes({.show =
+                           [this](const QString& text, const QString&) {
+                             boxes.append(text);
+                             Tell(QStringLiteral("two"));
+                           },
+                       .ask = {}});
+  Tell(QStringLiteral("one"));
+  EXPECT_EQ(boxes, QStringList(QStringLiteral("ErrorReportNotResponding")));
+  EXPECT_EQ(Words(), QStringLiteral("one"));
 }
 
 TEST_F(Notice, IsUsedAgainByASecondReportWithoutALongerStay) {
