@@ -11,9 +11,9 @@ inline constexpr int kErrRepRecLen = 150;
 
 struct ErrRepRec {
   std::int32_t ErrCount = 0;  ///< highest record used; valid in record 1
-  FixedText<20> ErrSerial;
-  FixedText<100> ErrMessage;
-  FixedText<26> ErrStamp;  ///< always blank
+  FixedText<20> ErrSerial;    ///< "S.No:1:"; of later records "S.No:4:S.No:1:"
+  FixedText<100> ErrMessage;  ///< what was reported, may be blank
+  FixedText<26> ErrStamp;     ///< always blank
 };
 
 /// The record in those bytes, which must be kErrRepRecLen. Any bytes are a record.

@@ -121,7 +121,7 @@ std::int16_t fbrminf1::LoadCard(StudentRec& rec) {
     const FileSlot slot = TakeSlot(kCardSlot);
     const CardContents card = ReadCard(RecordFile(slot));
     SetCardRecNo(QStringLiteral("1"));
-    rec = card.head;
+    rec = card.items.empty() ? card.head : card.items.back();
     if (card.hasHead) ShowCardHeader(card.head);
     ShowItems(card);
   });

@@ -24,15 +24,22 @@ class fbrminf1 : public Form {
  public:
   fbrminf1();
 
+  /// Lays the card out, sees to it that there is a file and fills the form from it. Tag "601:23"; a
+  /// layout that fails leaves the controls where they are.
   void Form_Load() override;
 
   // --- handlers
+  /// 12 is NEW, 13 SAVE, 14 REMOVE; other labels do nothing. A save or a removal that fails says
+  /// nothing, and what was typed stays. Tag "601:23".
   void lbl_Click(int index);
+  /// A pick in that combo: all nine show the entry that it is at.
   void cmb_Click(int index);
+  /// 1 goes back to the form below, 2 ends the program in order.
   void mnufile_Click(int index);
+  /// Does nothing: NEW and SAVE are buttons.
   void mnubio_Click(int index);
   /// Shows the two pictures that the paths name, the ID card's in the logo's place and the logo's
-  /// in the ID card's.
+  /// in the ID card's. The first path that names no file is told, and neither picture changes.
   void mnuref_Click();
 
   // --- the card. Each is 0 when done, 1 after an error; then the file is as it was.
@@ -45,6 +52,8 @@ class fbrminf1 : public Form {
   /// that names no file is shown red, and the record keeps its old one.
   std::int16_t SaveCardHeader(std::int32_t recNo, bool isNew, StudentRec& rec);
 
+  /// Shows the head's texts and pictures. A path that names no file is shown with kCardNotFound
+  /// behind it; what is no picture leaves the one that was there.
   void ShowCardHeader(const StudentRec& rec);
   /// Puts the nine combos' texts into the record. Throws std::overflow_error for a number that
   /// its field cannot hold.
