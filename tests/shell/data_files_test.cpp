@@ -12,6 +12,7 @@
 
 #include "shell/trap.h"
 #include "tests/shell/faulty_disk.h"
+#include "tests/shell/real_boxes.h"
 #include "tests/shell/temp_drives.h"
 
 namespace bramlee {
@@ -414,6 +415,17 @@ TEST_F(FileTable, EndsAtSlotTwenty) {
     EXPECT_EQ(boxes, QStringList(QStringLiteral("POP_FILE_DATA:ERROR")));
     boxes.clear();
   }
+}
+
+TEST_F(FileTable, TellsOfAWrongSlotInARealBox) {
+  const auto seen = WithRealBoxes([] {
+    std::int16_t result = 0;
+    Asked(21, &result);
+  });
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, QStringLiteral("POP_FILE_DATA:ERROR"));
+  EXPECT_EQ(seen[0].spoken, seen[0].text);
+  EXPECT_TRUE(seen[0].plain);
 }
 
 TEST_F(FileTable, TellsWhetherTheSlotsFileIsMissing) {

@@ -83,6 +83,7 @@ extern "C" {
 int __real_open(const char* path, int flags, ...);
 int __real_fcntl(int file, int command, ...);
 int __real_flock(int file, int operation);
+int __real_stat(const char* path, struct stat* seen);
 int __real_fstat(int file, struct stat* seen);
 int __real_ftruncate(int file, off_t length);
 int __real_fchmod(int file, mode_t mode);
@@ -97,6 +98,7 @@ ssize_t __real_pwrite(int file, const void* bytes, std::size_t count, off_t offs
 int __wrap_open(const char* path, int flags, ...);
 int __wrap_fcntl(int file, int command, ...);
 int __wrap_flock(int file, int operation);
+int __wrap_stat(const char* path, struct stat* seen);
 int __wrap_fstat(int file, struct stat* seen);
 int __wrap_ftruncate(int file, off_t length);
 int __wrap_fchmod(int file, mode_t mode);
@@ -126,6 +128,10 @@ int __wrap_fcntl(int file, int command, ...) {
 
 int __wrap_flock(int file, int operation) {
   return bramlee::Made("flock", [=] { return __real_flock(file, operation); });
+}
+
+int __wrap_stat(const char* path, struct stat* seen) {
+  return bramlee::Made("stat", [=] { return __real_stat(path, seen); });
 }
 
 int __wrap_fstat(int file, struct stat* seen) {

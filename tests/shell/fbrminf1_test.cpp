@@ -1,20 +1,38 @@
 #include "shell/fbrminf1.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "shell/form.h"
 #include "shell/screen.h"
 #include "tests/shell/card_test.h"
 #include "tests/shell/faulty_disk.h"
+#include "tests/shell/huge_picture.h"
 #include "tests/shell/real_boxes.h"
 
 namespace bramlee {
 namespace {
 
-class BiodataCard : public CardTest {};
+class BiodataCard : public CardTest {
+ protected:
+  /// Whether that picture is the one that the form itself holds.
+  static bool ShowsDefault(const char* name) {
+    const QString file = name == QByteArray("img") ? QStringLiteral(":/pictures/card/idcard.jpg")
+                                                   : QStringLiteral(":/pictures/card/school.jpg");
+    const QPixmap own(file);
+    EXPECT_FALSE(own.isNull());
+    const auto* box = Card()->Named<PictureBox>(QString::fromLatin1(name));
+    return box->Picture().toImage() == own.toImage();
+  }
+};
 
 TEST_F(BiodataCard, OpensWithTheDefaultItem) {
   Open();
@@ -97,6 +115,35 @@ TEST_F(BiodataCard, APickFromTheOpenListPicks) {
   EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("2"));
 }
 
+TEST_F(BiodataCard, APickInAListThatIsOpenOnTheScreenPicks) {
+  Put(Items(3));
+  Open();
+  Field(4)->showPopup();
+  QTest::keyClick(Field(4)->view(), Qt::Key_Down);
+  QTest::keyClick(Field(4)->view(), Qt::Key_Return);
+  EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("2"));
+  EXPECT_EQ(Row()[3], QStringLiteral("Item 2"));
+  Field(8)->showPopup();  // the balances are all alike
+  QTest::keyClick(Field(8)->view(), Qt::Key_End);
+  QTest::keyClick(Field(8)->view(), Qt::Key_Return);
+  EXPECT_EQ(Row()[3], QStringLiteral("Item 3"));
+  // The entry on show picked again, after other text was typed.
+  Type(4, "77");
+  Field(4)->showPopup();
+  QTest::keyClick(Field(4)->view(), Qt::Key_Return);
+  EXPECT_EQ(Row()[4], QStringLiteral("30"));
+}
+
+TEST_F(BiodataCard, TheWheelPicksNothing) {
+  Put(Items(3));
+  Open();
+  QWheelEvent turn(QPointF(5, 5), Field(4)->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                   Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(Field(4), &turn);
+  EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("1"));
+  EXPECT_EQ(Field(4)->currentIndex(), 0);
+}
+
 TEST_F(BiodataCard, ATypedTextThatEqualsAnEntryIsNoPick) {
   Put(Items(3));
   Open();
@@ -110,6 +157,22 @@ TEST_F(BiodataCard, ATypedTextThatEqualsAnEntryIsNoPick) {
     EXPECT_EQ(Field(4)->currentText(), QStringLiteral("30"));
     EXPECT_EQ(Row()[3], QStringLiteral("Item 1"));
   }
+}
+
+TEST_F(BiodataCard, ATypedTextIsStoredInTheItemThatItWasTypedInto) {
+  Put(Items(3));
+  Open();
+  QApplication::setActiveWindow(Card());
+  Field(4)->lineEdit()->selectAll();
+  QTest::mouseClick(Field(4)->lineEdit(), Qt::LeftButton);
+  Field(4)->lineEdit()->selectAll();
+  QTest::keyClicks(Field(4)->lineEdit(), QStringLiteral("30"));
+  QTest::mouseClick(Box(0), Qt::LeftButton);
+  QTest::mouseClick(Sign(13), Qt::LeftButton);
+  EXPECT_EQ(boxes, Texts({"Saved Successfully"}));
+  QByteArray expected = Items(3);
+  expected.replace(526, 8, QByteArray("\0\0\0\0\0\0\x3e\x40", 8));  // 30.0
+  EXPECT_EQ(File(), expected);
 }
 
 TEST_F(BiodataCard, ATypedTextIsNotCompleted) {
@@ -173,6 +236,21 @@ TEST_F(BiodataCard, SavesANewItemAsACopyOfRecordOneWithTheNewCount) {
   EXPECT_EQ(Sums(), Texts({"5", "41", "201", "161"}));
   EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("3"));
   EXPECT_EQ(Row()[3], QStringLiteral("Item Name..."));
+}
+
+TEST_F(BiodataCard, ANewItemIsOneEntryMoreInEachList) {
+  Put(Items(2));
+  Open();
+  New();
+  const char* typed[] = {"1", "2", "2003", "Kite", "4.25", "5", "6", "7", "-8"};
+  for (int k = 0; k < 9; ++k) Type(k, typed[k]);
+  Save();
+  for (int k = 0; k < 9; ++k) {
+    ASSERT_EQ(Field(k)->count(), 3) << k;
+    EXPECT_EQ(Field(k)->itemText(2), QString::fromLatin1(typed[k]));
+    EXPECT_EQ(Field(k)->currentText(), QString::fromLatin1(typed[k]));
+  }
+  EXPECT_EQ(Sums(), Texts({"9", "46", "207", "152"}));
 }
 
 TEST_F(BiodataCard, SavesTheFirstItemWithTheHead) {
@@ -291,6 +369,54 @@ TEST_F(BiodataCard, ANumberTooLargeForItsFieldStoresNothing) {
   }
 }
 
+TEST_F(BiodataCard, TellsByItsStatusWhetherItWasSavedOrLoaded) {
+  Put(Items(2));
+  Open();
+  StudentRec rec;
+  EXPECT_EQ(Card()->LoadCard(rec), 0);
+  EXPECT_EQ(Trim(rec.ItemName.Text()), QStringLiteral("Item 2"));  // the last one read
+  std::int32_t recNo = 2;
+  EXPECT_EQ(Card()->SaveCard(recNo, false), 0);
+  recNo = 7;  // a new item's number is the file's to give
+  EXPECT_EQ(Card()->SaveCard(recNo, true), 0);
+  EXPECT_EQ(recNo, 3);
+  const QByteArray three = File();
+  recNo = 4;
+  EXPECT_EQ(Card()->SaveCard(recNo, false), 1);
+  recNo = 0;
+  EXPECT_EQ(Card()->SaveCard(recNo, false), 1);
+  Type(5, "3000000000");
+  recNo = 1;
+  EXPECT_EQ(Card()->SaveCard(recNo, false), 1);
+  EXPECT_EQ(Card()->SaveCardHeader(1, false, rec), 1);
+  EXPECT_EQ(File(), three);
+  QDir(On("c/bramlee")).removeRecursively();
+  EXPECT_EQ(Card()->LoadCard(rec), 1);
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
+TEST_F(BiodataCard, LeavesAFileHeldByAnotherProgramAlone) {
+  const QByteArray two = Items(2);
+  Put(two);
+  Open();
+  const int held = open(QFile::encodeName(Place()).constData(), O_RDWR);
+  ASSERT_EQ(flock(held, LOCK_EX), 0);
+  Pick(0, 1);
+  Remove();
+  EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("2"));
+  New();
+  TypeItem("Kite");
+  Save();
+  EXPECT_TRUE(boxes.isEmpty());  // no success is told
+  EXPECT_EQ(File(), two);
+  EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("New"));
+  EXPECT_EQ(Row()[3], QStringLiteral("Kite"));
+  close(held);
+  Save();
+  EXPECT_EQ(boxes, Texts({"Saved Successfully"}));
+  EXPECT_EQ(List(3), Texts({"Item 1", "Item 2", "Kite"}));
+}
+
 TEST_F(BiodataCard, KeepsItsOldPathWhenTheNewOneIsNotFound) {
   Put(Items(1));
   Open();
@@ -351,13 +477,32 @@ TEST_F(BiodataCard, KeepsTheDefaultPictureWhenThereIsNoOther) {
   QFile::remove(On("c/logo.png"));
   Put(Items(2));
   Open();
-  for (const char* name : {"img", "pic"}) {
-    const auto* box = Card()->Named<PictureBox>(QString::fromLatin1(name));
-    EXPECT_NE(box->Picture().size(), QSize(20, 10));
-    EXPECT_NE(box->Picture().size(), QSize(10, 20));
-  }
+  EXPECT_TRUE(ShowsDefault("img"));
+  EXPECT_TRUE(ShowsDefault("pic"));
   EXPECT_EQ(Box(3)->text(), QStringLiteral("C:\\id.png"));
   EXPECT_EQ(List(3), Texts({"Item 1", "Item 2"}));
+}
+
+TEST_F(BiodataCard, LoadsOnBesideAPictureThatClaimsToBeHuge) {
+  WriteBytes(On("c/id.png"), PngThatClaims(20'000, 20'000));
+  Put(Items(2));
+  Open();
+  EXPECT_TRUE(ShowsDefault("img"));
+  EXPECT_EQ(Card()->Named<PictureBox>(QStringLiteral("pic"))->Picture().size(), QSize(10, 20));
+  EXPECT_EQ(Box(3)->text(), QStringLiteral("C:\\id.png"));
+  EXPECT_EQ(Sums(), Texts({"4", "40", "200", "160"}));
+}
+
+TEST_F(BiodataCard, KeepsItsPicturesWhenAFileVanishesAtTheLastMoment) {
+  Put(Items(1));
+  Open();
+  // What cannot be looked at counts as a file, and then there is none.
+  Box(3)->setText(QStringLiteral("C:\\") + QString(300, u'a'));
+  Box(4)->setText(Box(3)->text());
+  Card()->mnuref_Click();
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_EQ(Card()->Named<PictureBox>(QStringLiteral("img"))->Picture().size(), QSize(20, 10));
+  EXPECT_EQ(Card()->Named<PictureBox>(QStringLiteral("pic"))->Picture().size(), QSize(10, 20));
 }
 
 TEST_F(BiodataCard, RefreshShowsThePicturesTheOtherWayRound) {
@@ -505,9 +650,21 @@ TEST_F(BiodataCard, TellsItsMessagesInRealBoxes) {
   EXPECT_EQ(seen[0].text, QStringLiteral("Enter Numeric"));
   EXPECT_EQ(seen[0].spoken, seen[0].text);
   Pick(0, 1);
+  seen = WithRealBoxes(Save);
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, QStringLiteral("Saved Successfully"));
   seen = WithRealBoxes(Remove);
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, QStringLiteral("Removed Successfully"));
+  QFile::remove(On("c/logo.png"));
+  seen = WithRealBoxes([] { Card()->mnuref_Click(); });
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, QStringLiteral("School-Logo Not Found"));
+  QFile::remove(On("c/id.png"));
+  seen = WithRealBoxes([] { Card()->mnuref_Click(); });
+  ASSERT_EQ(seen.size(), 1U);  // it stops at the first one
+  EXPECT_EQ(seen[0].text, QStringLiteral("ID-Card Not Found"));
+  EXPECT_EQ(seen[0].spoken, seen[0].text);
 }
 
 TEST_F(BiodataCard, ALongNameIsStoredCut) {
@@ -652,6 +809,26 @@ TEST_F(BiodataCard, ReadsWellToAScreenReader) {
   EXPECT_EQ(boxes, Texts({"Enter Numeric"}));
   for (int i = 0; i < 9; ++i) EXPECT_FALSE(Box(i)->accessibleName().isEmpty());
   for (int k = 0; k < 9; ++k) EXPECT_FALSE(Field(k)->accessibleName().isEmpty());
+}
+
+TEST_F(BiodataCard, ItsMenuIsWorkedFromTheKeyboard) {
+  Open();
+  QApplication::setActiveWindow(Card());
+  QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(Card()->menuBar());
+  QStringList names;
+  for (int i = 0; i < bar->childCount(); ++i) {
+    if (!bar->child(i)->state().invisible) names.append(bar->child(i)->text(QAccessible::Name));
+  }
+  EXPECT_EQ(names, Texts({"File"}));
+  auto* file = Card()->Named<QMenu>(QStringLiteral("mnufile1"));
+  QAccessibleInterface* items = QAccessible::queryAccessibleInterface(file);
+  ASSERT_EQ(items->childCount(), 2);
+  EXPECT_EQ(items->child(0)->text(QAccessible::Name), QStringLiteral("Back"));
+  EXPECT_EQ(items->child(1)->text(QAccessible::Name), QStringLiteral("Exit"));
+  QTest::keyClick(Card(), Qt::Key_F, Qt::AltModifier);
+  ASSERT_TRUE(file->isVisible());
+  QTest::keyClick(file, Qt::Key_B);
+  EXPECT_EQ(Card(), nullptr);
 }
 
 TEST_F(BiodataCard, FitsIntoItself) {

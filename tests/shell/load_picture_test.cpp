@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 
+#include "tests/shell/huge_picture.h"
 #include "tests/shell/temp_drives.h"
 
 namespace bramlee {
@@ -65,12 +66,26 @@ TEST_F(LoadPictureOf, ACutPngIsNull) {
 }
 
 TEST_F(LoadPictureOf, OneThatClaimsToBeHugeIsNull) {
-  QByteArray png = Coded(Plain(4, 4), "PNG");
-  png.replace(16, 8, QByteArray("\x00\x0f\x42\x40\x00\x0f\x42\x40", 8));  // a million by a million
-  EXPECT_TRUE(Load(png).isNull());
+  EXPECT_FALSE(Load(PngThatClaims(4, 4)).isNull());
+  EXPECT_TRUE(Load(PngThatClaims(1'000'000, 1'000'000)).isNull());
+  EXPECT_TRUE(Load(PngThatClaims(20'000, 20'000)).isNull());
   QByteArray bmp = Coded(Plain(4, 4), "BMP");
+  EXPECT_FALSE(Load(bmp).isNull());
   bmp.replace(18, 8, QByteArray("\x40\x42\x0f\x00\x40\x42\x0f\x00", 8));
   EXPECT_TRUE(Load(bmp).isNull());
+  QByteArray jpeg = Coded(Plain(4, 4), "JPEG");
+  const qsizetype frame = jpeg.indexOf(QByteArray("\xff\xc0", 2));
+  ASSERT_GT(frame, 0);
+  jpeg.replace(frame + 5, 4, QByteArray("\xff\xdc\xff\xdc", 4));  // 65500 by 65500
+  EXPECT_TRUE(Load(jpeg).isNull());
+}
+
+TEST_F(LoadPictureOf, ACutJpegIsNoCrash) {
+  const QByteArray whole = Coded(Plain(300, 200), "JPEG");
+  for (int length = 1; length < whole.size(); length += 7) {
+    const QPixmap loaded = Load(whole.left(length));
+    EXPECT_TRUE(loaded.isNull() || loaded.size() == QSize(300, 200)) << length;
+  }
 }
 
 }  // namespace

@@ -108,6 +108,19 @@ TEST(CodePage, MapsEveryByteToACharacterOfItsOwnAndBack) {
   EXPECT_EQ(FromCp1252("\x80\x85\x9f\xe9"), QStringLiteral("\u20ac\u2026\u0178\u00e9"));
 }
 
+TEST(CodePage, HasItsOwnCharactersBetweenTheControlsAndLatin) {
+  // Five of the thirty-two are open.
+  const QString typed = QStringLiteral(
+      "\u20ac\u201a\u0192\u201e\u2026\u2020\u2021\u02c6\u2030\u0160\u2039\u0152\u017d"
+      "\u2018\u2019\u201c\u201d\u2022\u2013\u2014\u02dc\u2122\u0161\u203a\u0153\u017e\u0178");
+  EXPECT_EQ(ToCp1252(typed),
+            "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8a\x8b\x8c\x8e"
+            "\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9a\x9b\x9c\x9e\x9f");
+  for (int byte = 0xA0; byte < 0x100; ++byte) {
+    EXPECT_EQ(FromCp1252(QByteArray(1, static_cast<char>(byte))), QString(QChar(byte)));
+  }
+}
+
 TEST(CodePage, HasAQuestionMarkForWhatItLacks) {
   EXPECT_EQ(ToCp1252(QStringLiteral("a\u0905b\U0001F600c")), "a?b?c");
   EXPECT_FALSE(FitsCp1252(QStringLiteral("a\u0905")));
