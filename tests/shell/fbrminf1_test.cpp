@@ -624,6 +624,24 @@ TEST_F(BiodataCard, AsksBeforeAPathIsCut) {
   EXPECT_EQ(File().mid(254, 50), QByteArray("C:\\") + QByteArray(47, 'q'));
 }
 
+TEST_F(BiodataCard, AsksBeforeACharacterOfAPathIsLost) {
+  Put(Items(1));
+  const QString name = QStringLiteral("\u0905.png");
+  WriteBytes(On("c/") + name, "x");
+  Open();
+  Box(3)->setText(QStringLiteral("C:\\") + name);
+  answer = false;
+  Save();
+  ASSERT_EQ(questions.size(), 1);
+  EXPECT_TRUE(questions[0].contains(QStringLiteral("ID-Card")));
+  EXPECT_EQ(File(), Items(1));
+  EXPECT_EQ(Box(3)->text(), QStringLiteral("C:\\") + name);
+  answer = true;
+  Save();
+  EXPECT_EQ(File().mid(204, 50), QByteArray("C:\\?.png").leftJustified(50));
+  EXPECT_EQ(Box(3)->text(), QStringLiteral("C:\\?.png Not Found:"));
+}
+
 TEST_F(BiodataCard, TheQuestionHasAWayBackAsItsDefault) {
   Put(Items(1));
   Open();
