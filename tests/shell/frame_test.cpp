@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -70,6 +71,31 @@ TEST_F(Frame, TheMenuBarIsThatOfTheFormInFront) {
   EXPECT_EQ(Bar(), startBar);
   EXPECT_EQ(TheFrame()->menuBar()->actions().first()->menu(),
             start->findChild<QMenu*>(QStringLiteral("mnumenu")));
+}
+
+TEST_F(Frame, ItsMenusAreReadOutWithoutTheirMarks) {
+  const auto names = [](QWidget* of) {
+    QAccessibleInterface* read = QAccessible::queryAccessibleInterface(of);
+    QStringList list;
+    for (int i = 0; i < read->childCount(); ++i) {
+      EXPECT_EQ(read->child(i)->role(), QAccessible::MenuItem);
+      list.append(read->child(i)->text(QAccessible::Name));
+    }
+    return list;
+  };
+  const Form* start = Shown("fbrmsta1");
+  EXPECT_EQ(names(TheFrame()->menuBar()),
+            QStringList({QStringLiteral("Menu"), QStringLiteral("Passwod Protection")}));
+  EXPECT_EQ(names(start->findChild<QMenu*>(QStringLiteral("mnumenu"))),
+            QStringList({QStringLiteral("Start"), QStringLiteral("Exit")}));
+  const Form* home = Shown("fbrmhom1");
+  EXPECT_EQ(
+      names(TheFrame()->menuBar()),
+      QStringList({QStringLiteral("File"), QStringLiteral("BioData"), QStringLiteral("Drive")}));
+  const QStringList drives = names(home->findChild<QMenu*>(QStringLiteral("mnudrvs")));
+  ASSERT_EQ(drives.size(), 26);
+  EXPECT_EQ(drives.first(), QStringLiteral("A:"));
+  EXPECT_EQ(drives.last(), QStringLiteral("Z:"));
 }
 
 TEST_F(Frame, AFormWithoutMenusLeavesTheBarAsItIs) {
