@@ -126,6 +126,20 @@ TEST_F(Drills, RowStandsAlongTheTopOfTileSix) {
   }
 }
 
+TEST_F(Drills, PlusIsLaidOutWithEveryRow) {
+  Pick("mnuper");  // the first row of this board
+  EXPECT_EQ(Place("pic1(11)").left, Place("pic1(15)").left);
+  EXPECT_EQ(Place("pic1(11)").top, Place("pic(6)").top);
+}
+
+TEST_F(Drills, OnlyOneItemIsMarkedAtATime) {
+  for (const char* item :
+       {"mnunum", "mnuadd", "mnutbl", "mnusub", "mnumul", "mnunum", "mnudiv", "mnuper"}) {
+    Pick(item);
+    EXPECT_EQ(CheckedMathsItems(), QStringList{QString::fromLatin1(item)});
+  }
+}
+
 TEST_F(Drills, SheetMenusStayHiddenUntilNumbersIsPicked) {
   EXPECT_TRUE(MenuShown("mnucolors") && MenuShown("mnuspeed") && MenuShown("mnudraw"));
   Pick("mnuadd");
@@ -209,6 +223,8 @@ TEST_F(Drills, SecondOperandThatIsNoNumberCountsAsNothing) {
   EXPECT_EQ(BackColorOf(Find<QWidget>("cmb(16)")), kPaleYellow);
   EXPECT_EQ(PaintedGround("cmb(16)"), kPaleYellow);
   EXPECT_EQ(ForeColorOf(Find<QWidget>("cmb(18)")), 0U);
+  EXPECT_EQ(Reckon("mnuadd", "5", "6"), QStringLiteral("11"));
+  EXPECT_EQ(BackColorOf(Find<QWidget>("cmb(18)")), kPaleYellow);
 }
 
 TEST_F(Drills, FirstOperandThatIsNoNumberTakesTheSecondWithIt) {

@@ -41,6 +41,7 @@ TEST_F(NumberBox, LiesOverThePlusWhichStaysFreeForAClick) {
   const TwipsRect place = Place("cmb(0)");
   EXPECT_EQ(place.width, 3.5 * 900);
   EXPECT_EQ(place.top, Place("pic(11)").top);
+  MoveTo(Find<QWidget>("cmb(0)"), 300, place.top);
   Pick("mnunum");
   EXPECT_EQ(Place("cmb(0)").left, Place("pic(11)").left);
   for (const int tile : {11, 12, 13}) {

@@ -33,6 +33,17 @@ TEST_F(Tables, ReplaceTheTiles) {
   }
 }
 
+TEST_F(Tables, StandAlongTheTopWhereverTheyStoodBefore) {
+  for (const char* control : {"cmb(16)", "pict", "txtval(20)"}) {
+    MoveTo(Find<QWidget>(control), 4000, 3000);
+  }
+  Pick("mnutbl");
+  for (const char* control : {"cmb(16)", "pict", "txtval(20)"}) {
+    EXPECT_EQ(Place(control).top, Place("pic(1)").top) << control;
+    EXPECT_EQ(Place(control).left, 4000) << control;
+  }
+}
+
 TEST_F(Tables, SecondPickBringsTheTilesBack) {
   Pick("mnutbl");
   Pick("mnutbl");

@@ -219,6 +219,17 @@ TEST_F(F1207vid, PlaysAndStopsByItsMenu) {
   EXPECT_FALSE(player->Playing());
 }
 
+TEST_F(F1207vid, ANewAddressEndsWhatIsPlayingTheSameAgainToo) {
+  WriteBytes(On("c/a.wav"), ToneWave(440, 300));
+  for (const char* next : {"C:\\a.wav", "C:\\b.wav"}) {
+    player->SetURL(Name("C:\\a.wav"));
+    player->Play();
+    ASSERT_TRUE(player->Playing());
+    player->SetURL(Name(next));
+    EXPECT_FALSE(player->Playing()) << next;
+  }
+}
+
 TEST_F(F1207vid, FlipsMuteAndStretching) {
   form->FlipMute();
   EXPECT_TRUE(player->Mute());
@@ -339,8 +350,11 @@ TEST_F(F1207vid, LoadedAnewCountsAnew) {
 }
 
 TEST_F(F1207vid, UnloadsByItsFormCount) {
-  form->Timer1_Timer();
-  EXPECT_TRUE(Loaded());
+  for (const char* count : {"0", "2", "-1", ""}) {
+    form->SetText(Name("txtcnt"), Name(count));
+    form->Timer1_Timer();
+    EXPECT_TRUE(Loaded()) << count;
+  }
   form->SetText(Name("txtcnt"), Name("1"));
   form->Timer1_Timer();
   EXPECT_FALSE(Loaded());

@@ -116,6 +116,15 @@ TEST_F(HeardPlayer, PlaysTheSameFileAgain) {
   }
 }
 
+TEST_F(HeardPlayer, PlayWhilePlayingBeginsNothingAnew) {
+  WriteBytes(On("c/long.wav"), ToneWave(kLow, 2000));
+  const double begin = NowMs();
+  ASSERT_TRUE(PlayFor("C:\\long.wav", 1000).FirstSoundMs().has_value());
+  Player()->Play();
+  QThread::msleep(2500);
+  ExpectWholeTone(HeardFrom(begin), kLow, 2000);
+}
+
 TEST_F(HeardPlayer, CutsOffWhatIsPlaying) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 8000));
   EXPECT_NE(PlayFor("C:\\long.wav", 1500).FirstSoundMs(), std::nullopt);
