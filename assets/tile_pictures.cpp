@@ -29,6 +29,38 @@ bool HasPrintedCorner(std::string_view letterSet) {
   return letterSet.starts_with("hin") || letterSet.starts_with("tel");
 }
 
+/// What one tile writes, the second sign apart: two tiles of the maths board write two signs,
+/// each in a column of its own.
+struct Signs {
+  QPainterPath first;
+  QPainterPath second;  ///< empty for all other tiles
+};
+
+Signs SignsOf(const QPainterPath& path) {
+  constexpr double kColumn = 250;
+  const QRectF bounds = path.boundingRect();
+  if (bounds.width() <= kColumn) return {.first = path, .second = {}};
+  Signs signs;
+  for (const QPolygonF& run : path.toSubpathPolygons()) {
+    const bool first = run.boundingRect().center().x() < bounds.left() + kColumn * 0.7;
+    (first ? signs.first : signs.second).addPolygon(run);
+  }
+  return signs;
+}
+
+/// The tile's strokes, two signs close together: so there is room to draw them large.
+QPainterPath TilePath(const Subject& subject, int tile) {
+  const QPainterPath path = LetterPath(subject.letterSet, tile);
+  if (subject.letterSet != "mat") return path;
+  const Signs signs = SignsOf(path);
+  if (signs.second.isEmpty()) return path;
+  constexpr double kApart = 45;  // sheet pixels
+  const double right = signs.first.boundingRect().right();
+  QPainterPath close = signs.first;
+  close.addPath(signs.second.translated(right + kApart - signs.second.boundingRect().left(), 0));
+  return close;
+}
+
 }  // namespace
 
 std::span<const Subject> Subjects() {
@@ -43,7 +75,7 @@ QImage Blank(QSize size, const QColor& ground) {
 
 void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRectF& place,
                 double width) {
-  const QPainterPath path = LetterPath(subject.letterSet, tile);
+  const QPainterPath path = TilePath(subject, tile);
   if (path.isEmpty()) return;
   const QRectF bounds = path.boundingRect();
   const QRectF room = place.adjusted(width / 2, width / 2, -width / 2, -width / 2);
@@ -132,19 +164,8 @@ QImage SignPicture(int tile) {
   QImage image = Blank(subject.tile, subject.ground);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  QPainterPath path = LetterPath(subject.letterSet, tile);
-  // Tiles 13 and 14 write two signs, the second in a column of its own: a button bears the first.
+  const QPainterPath path = SignsOf(LetterPath(subject.letterSet, tile)).first;
   const QRectF whole = QRectF(image.rect()).adjusted(50, 40, -50, -40);
-  constexpr double kColumn = 250;
-  if (path.boundingRect().width() > kColumn) {
-    QPainterPath first;
-    for (const QPolygonF& run : path.toSubpathPolygons()) {
-      if (run.boundingRect().center().x() < path.boundingRect().left() + kColumn * 0.7) {
-        first.addPolygon(run);
-      }
-    }
-    path = first;
-  }
   const QRectF bounds = path.boundingRect();
   const double scale = std::min(whole.width() / std::max(bounds.width(), 1.0),
                                 whole.height() / std::max(bounds.height(), 1.0));

@@ -28,6 +28,18 @@ bool HasInk(const QImage& picture) {
   return inked > picture.width() * picture.height() / 200;
 }
 
+/// The box around all that is darker than the ground by far.
+QRect InkBox(const QImage& picture) {
+  const int ground = qGray(picture.pixel(0, 0));
+  QRect box;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (ground - qGray(picture.pixel(x, y)) > 60) box |= QRect(x, y, 1, 1);
+    }
+  }
+  return box;
+}
+
 class TilePictures : public testing::TestWithParam<LetterSet> {};
 
 TEST_P(TilePictures, AreThereInFourfoldSizeWithInkAndAllDiffer) {
@@ -49,6 +61,14 @@ TEST_P(TilePictures, AreThereInFourfoldSizeWithInkAndAllDiffer) {
 INSTANTIATE_TEST_SUITE_P(EverySet, TilePictures,
                          testing::ValuesIn(LetterSets().begin(), LetterSets().end()),
                          [](const auto& set) { return std::string(set.param.name); });
+
+TEST(TilePictures, OfTwoSignsDrawBothLarge) {
+  for (const int tile : {13, 14}) {
+    const QRect ink = InkBox(QImage(Path(*FindLetterSet("mat"), tile)));
+    EXPECT_GE(ink.height(), 80) << tile;  // four picture pixels to a pixel of the tile
+    EXPECT_GE(ink.width(), 180) << tile;
+  }
+}
 
 TEST(TilePictures, LeaveTheTileOfTheLetteringWithoutOne) {
   EXPECT_FALSE(QFile::exists(QStringLiteral(":/pictures/hinv/14.jpg")));
