@@ -96,9 +96,17 @@ void LayOutRow(Board& board, int sign) {
   board.FitSheet();
 }
 
+/// Tab goes along the row, not by way of the tables' picture if that is left beside it.
+void TabAlongRow(Board& board) {
+  QWidget::setTabOrder(FirstOperand(board), SecondOperand(board));
+  QWidget::setTabOrder(SecondOperand(board), Equals(board));
+  QWidget::setTabOrder(Equals(board), Result(board));
+}
+
 void MathsRowShow(Board& board, int sign) {
   SetRowVisible(board, sign, true);
   LayOutRow(board, sign);
+  TabAlongRow(board);
 }
 
 void Drill_Click(Board& board, const Drill& drill) {

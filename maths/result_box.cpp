@@ -15,6 +15,8 @@ constexpr int kSmallest = 14;
 /// Around the text, in pixels; brings a result level with the operands beside it.
 constexpr double kMargin = 8;
 
+const QString kRowEnd = QStringLiteral("\r\n");
+
 }  // namespace
 
 ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
@@ -27,7 +29,9 @@ ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
 void ResultBox::SetText(const QString& text) {
   text_ = text;
   setFont(FittingFont(std::max(1, static_cast<int>(text.count(u'\n')))));
-  setPlainText(text);
+  // An empty line behind the last row would ask for a scroll bar with nothing to scroll to.
+  const bool ended = text.endsWith(kRowEnd);
+  setPlainText(ended ? text.chopped(kRowEnd.size()) : text);
 }
 
 QFont ResultBox::FittingFont(int lines) const {

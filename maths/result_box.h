@@ -6,19 +6,22 @@
 
 namespace bramlee {
 
-/// A box of several lines with scroll bars, to be read only. Its letters are as large as lets all
-/// lines be seen in its height at the time that they are set.
+/// A box of several lines with scroll bars where they are needed, to be read only.
 class ResultBox : public QPlainTextEdit {
   Q_OBJECT
   Q_PROPERTY(QString text READ Text WRITE SetText)
  public:
   explicit ResultBox(QWidget* parent = nullptr);
 
-  /// The text as it was given, its carriage returns too, which the lines shown do not keep.
+  /// The text as it was given. The lines shown keep neither its carriage returns nor the line end
+  /// behind the last one.
   QString Text() const { return text_; }
+  /// Shows that text. Its letters are as large as lets all lines be seen in the box's height of
+  /// now, from 30 down to 14 pixels; of more lines the box shows the first and scrolls.
   void SetText(const QString& text);
 
  private:
+  /// The box's font in the size for that many lines.
   QFont FittingFont(int lines) const;
 
   QString text_;

@@ -53,6 +53,9 @@ void mnutbl_Click(Board& board) {
   MoveToTop(board, TablePicture(board));
   MoveToTop(board, Result(board));
   board.FitSheet();
+  // Tab goes from the number to the picture and on to the table.
+  QWidget::setTabOrder(FirstOperand(board), TablePicture(board));
+  QWidget::setTabOrder(TablePicture(board), Result(board));
   StartAtFirstOperand(board);
 }
 
@@ -68,8 +71,6 @@ void MakeTablePicture(Board& board) {
                   .top = number.top,
                   .width = 1300,
                   .height = number.height});
-  // Tab goes from the number to the picture and on to the table.
-  QWidget::setTabOrder(FirstOperand(board), picture);
   QObject::connect(picture, &PictureBox::clicked, &board, [&board] { pict_Click(board); });
 }
 

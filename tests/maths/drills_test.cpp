@@ -385,6 +385,16 @@ TEST_F(Drills, AreDoneFromTheKeyboardAlone) {
   EXPECT_EQ(board->focusWidget(), Find<QWidget>("txtval(20)"));
 }
 
+TEST_F(Drills, TabGoesAlongTheRowPastAPictureLeftByTheTables) {
+  Pick("mnutbl");
+  Pick("mnuadd");
+  ASSERT_TRUE(Shown("pict"));
+  for (const char* control : {"cmb(16)", "cmb(18)", "picequal", "txtval(20)"}) {
+    EXPECT_EQ(board->focusWidget()->objectName(), QString::fromLatin1(control));
+    QTest::keyClick(board->focusWidget(), Qt::Key_Tab);
+  }
+}
+
 TEST_F(Drills, ResultCanOnlyBeRead) {
   Reckon("mnuadd", "1", "2");
   QTest::keyClicks(Find<QWidget>("txtval(20)"), QStringLiteral("9"));

@@ -112,6 +112,7 @@ TEST_F(Tables, AllRowsCanBeSeenAtOnce) {
   ASSERT_EQ(last.text(), QStringLiteral("100 X 20 = 2000"));
   EXPECT_LE(box->cursorRect(QTextCursor(last)).bottom(), box->viewport()->height());
   EXPECT_FALSE(box->horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(box->verticalScrollBar()->isVisible()) << "there is nothing to scroll to";
   EXPECT_GE(box->font().pixelSize(), 16);
 }
 
@@ -150,6 +151,16 @@ TEST_F(Tables, OutliveAWipe) {
   EXPECT_TRUE(Checked("mnutbl"));
   EXPECT_EQ(Place("txtval(20)").height, 7600);
   EXPECT_EQ(EntryOf("cmb(16)"), QStringLiteral("7"));
+}
+
+TEST_F(Tables, TabGoesFromTheNumberToThePictureAndOnPastADrillsRest) {
+  Pick("mnuadd");
+  Pick("mnutbl");
+  ASSERT_TRUE(Shown("cmb(18)"));
+  for (const char* control : {"cmb(16)", "pict", "txtval(20)"}) {
+    EXPECT_EQ(board->focusWidget()->objectName(), QString::fromLatin1(control));
+    QTest::keyClick(board->focusWidget(), Qt::Key_Tab);
+  }
 }
 
 TEST_F(Tables, AreMadeFromTheKeyboardAlone) {
