@@ -236,7 +236,7 @@ void fbrmhom1::LayOut(const ScreenRec& rec) {
 }
 
 void fbrmhom1::pic_Click(int index) {
-  ShowForm(QString::fromLatin1(kSubject[index - 1].board));
+  Trap({}, [index](ErrInfo&) { ShowForm(QString::fromLatin1(kSubject[index - 1].board)); });
 }
 
 void fbrmhom1::lbl1_Click(int index) {
@@ -245,22 +245,26 @@ void fbrmhom1::lbl1_Click(int index) {
   // A board that was left open keeps its drive when the capitals are asked for by their label, as
   // it does for all tiles.
   if (index == 1) return;
-  if (Form* board = LoadedForm(QString::fromLatin1(kSubject[index - 1].board))) {
-    board->SetText(QStringLiteral("txtdrv"), TextOf(QStringLiteral("txtdrv")));
-  }
+  Trap({}, [this, index](ErrInfo&) {
+    if (Form* board = LoadedForm(QString::fromLatin1(kSubject[index - 1].board))) {
+      board->SetText(QStringLiteral("txtdrv"), TextOf(QStringLiteral("txtdrv")));
+    }
+  });
 }
 
 void fbrmhom1::mnudrv_Click(int index) {
-  for (int i = 1; i <= kDrives; ++i) Named<QAction>(Indexed("mnudrv", i))->setChecked(i == index);
-  SetText(QStringLiteral("txtdrv"), CaptionOf(Named<QAction>(Indexed("mnudrv", index))));
+  Trap({}, [this, index](ErrInfo&) {
+    for (int i = 1; i <= kDrives; ++i) Named<QAction>(Indexed("mnudrv", i))->setChecked(i == index);
+    SetText(QStringLiteral("txtdrv"), CaptionOf(Named<QAction>(Indexed("mnudrv", index))));
+  });
 }
 
 void fbrmhom1::mnuback_Click() {
-  UnloadForm(this);
+  Trap({}, [this](ErrInfo&) { UnloadForm(this); });
 }
 
 void fbrmhom1::mnubiodata_Click() {
-  ShowForm(QStringLiteral("fbrminf1"));
+  Trap({}, [](ErrInfo&) { ShowForm(QStringLiteral("fbrminf1")); });
 }
 
 void fbrmhom1::mnuexit_Click() {

@@ -1,6 +1,7 @@
 #include <QMdiArea>
 #include <functional>
 #include <limits>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -108,6 +109,13 @@ TEST_F(Home, ADriveThatIsChosenIsMarkedAlone) {
   EXPECT_TRUE(boxes.isEmpty());
 }
 
+TEST_F(Home, ADrivesCaptionIsReadWithoutItsMark) {
+  const Form* home = TheForm();
+  Item(home, "mnudrv(4)")->setText(QStringLiteral("&D:"));
+  Item(home, "mnudrv(4)")->trigger();
+  EXPECT_EQ(DriveOf("fbrmhom1"), QStringLiteral("D:"));
+}
+
 TEST_F(Home, StartShowsALoadedHomeWithItsDriveAndBackResetsIt) {
   const Form* start = Shown("fbrmsta1");
   Item(start, "mnustart")->trigger();
@@ -184,6 +192,26 @@ TEST_F(Home, TheCardIsShownByName) {
   Item(TheForm(), "mnubiodata")->trigger();
   EXPECT_EQ(made, 1);
   EXPECT_TRUE(Loaded("fbrminf1")->isVisible());
+}
+
+TEST_F(Home, WhatCannotBeLoadedIsPassedOverWithoutAWord) {
+  MakeDataFolder();
+  const Form* home = TheForm();
+  const QStringList before = LoadedNames();
+  int asked = 0;
+  for (const char* form : {"fbrmtelc01", "fbrminf1"}) {
+    RegisterForm(QString::fromLatin1(form), [&asked]() -> Form* {
+      ++asked;
+      throw std::bad_alloc();
+    });
+  }
+  EXPECT_NO_THROW(ClickOn(Tile(home, 6)));
+  EXPECT_NO_THROW(ClickOn(Subject(home, 6)));
+  EXPECT_NO_THROW(Item(home, "mnubiodata")->trigger());
+  EXPECT_EQ(asked, 3);
+  EXPECT_EQ(LoadedNames(), before);
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_TRUE(QDir(On("c/bramlee/dba")).isEmpty()) << "nothing is reported";
 }
 
 TEST_F(Home, ExitUnloadsAllAndEndsWithoutAQuestion) {

@@ -1,5 +1,6 @@
 #include <QDir>
 #include <cmath>
+#include <new>
 
 #include "shell/fbrmsta1.h"
 #include "tests/shell/shell_forms.h"
@@ -242,6 +243,25 @@ TEST_F(Start, ItsMenuItemStartsToo) {
   ASSERT_NE(Loaded("fbrmhom1"), nullptr);
   EXPECT_TRUE(Loaded("fbrmhom1")->isVisible());
   EXPECT_EQ(LoadedNames().count(QStringLiteral("fbrmsta1")), 1);
+}
+
+TEST_F(Start, WhatCannotBeLoadedIsPassedOverWithoutAWord) {
+  MakeDataFolder();
+  const Form* form = TheForm();
+  int asked = 0;
+  for (const char* name : {"fbrmhom1", "fbrmsav1"}) {
+    RegisterForm(QString::fromLatin1(name), [&asked]() -> Form* {
+      ++asked;
+      throw std::bad_alloc();
+    });
+  }
+  EXPECT_NO_THROW(ClickOn(form->client()));
+  EXPECT_NO_THROW(Item(form, "mnustart")->trigger());
+  EXPECT_NO_THROW(Item(form, "mnupp(1)")->trigger());
+  EXPECT_EQ(asked, 3);
+  EXPECT_TRUE(Item(form, "mnupp(1)")->isChecked());
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_TRUE(QDir(On("c/bramlee/dba")).isEmpty()) << "nothing is reported";
 }
 
 TEST_F(Start, ItsTimersRunOnUnderHome) {
