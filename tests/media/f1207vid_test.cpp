@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileInfo>
+#include <QToolButton>
 #include <cmath>
 
 #include "media/media.h"
@@ -9,6 +11,8 @@
 #include "shell/numbers.h"
 #include "shell/screen.h"
 #include "shell/screen_rec.h"
+#include "shell/shell.h"
+#include "shell/trap.h"
 #include "tests/media/sound_files.h"
 #include "tests/shell/temp_drives.h"
 
@@ -219,6 +223,27 @@ TEST_F(F1207vid, PlaysAndStopsByItsMenu) {
   EXPECT_FALSE(player->Playing());
 }
 
+TEST_F(F1207vid, ThePlayerHasControlsOfItsOwn) {
+  WriteBytes(On("c/a.wav"), ToneWave(440, 300));
+  player->SetURL(Name("C:\\a.wav"));
+  const auto press = [this](const char* name) {
+    for (auto* button : player->findChildren<QToolButton*>()) {
+      if (button->accessibleName() != Name(name)) continue;
+      EXPECT_EQ(button->toolTip(), Name(name));
+      return button->click();
+    }
+    ADD_FAILURE() << "no button " << name;
+  };
+  press("Play");
+  EXPECT_TRUE(player->Playing());
+  press("Stop");
+  EXPECT_FALSE(player->Playing());
+  press("Mute");
+  EXPECT_TRUE(player->Mute());
+  press("Mute");
+  EXPECT_FALSE(player->Mute());
+}
+
 TEST_F(F1207vid, ANewAddressEndsWhatIsPlayingTheSameAgainToo) {
   WriteBytes(On("c/a.wav"), ToneWave(440, 300));
   for (const char* next : {"C:\\a.wav", "C:\\b.wav"}) {
@@ -359,6 +384,58 @@ TEST_F(F1207vid, UnloadsByItsFormCount) {
   form->Timer1_Timer();
   EXPECT_FALSE(Loaded());
   EXPECT_FALSE(Find<QTimer>("Timer1")->isActive());
+}
+
+/// Fails over each place that its layout gives a control, and over its unload.
+class FailingPlayerForm : public f1207vid {
+ public:
+  FailingPlayerForm() { findChild<QWidget*>(Name("txtete"))->installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::DynamicPropertyChange) {
+      throw TrappedError(Name("this cannot be stored"));
+    }
+    return f1207vid::eventFilter(watched, event);
+  }
+  void Form_Unload() override {
+    if (!mayGo) throw TrappedError(Name("cannot go"));
+  }
+
+  bool mayGo = false;
+};
+
+class FailingF1207vid : public F1207vid {
+ protected:
+  FailingF1207vid() {
+    UnloadForm(form);
+    MakeDataFolder();
+    RegisterShell();
+    RegisterForm(kForm, [] { return new FailingPlayerForm; });
+    failing = dynamic_cast<FailingPlayerForm*>(LoadForm(kForm));
+  }
+  ~FailingF1207vid() override { failing->mayGo = true; }
+  FailingF1207vid(const FailingF1207vid&) = delete;
+  FailingF1207vid& operator=(const FailingF1207vid&) = delete;
+
+  qint64 Reports() const { return QFileInfo(On("c/bramlee/dba/errrepv0.dat")).size() / 150; }
+
+  FailingPlayerForm* failing;
+};
+
+TEST_F(FailingF1207vid, ReportsALayoutThatFailsAndServesAllTheSame) {
+  EXPECT_EQ(Reports(), 1);
+  EXPECT_NE(LoadedForm(Name("fcomsav1")), nullptr);
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_EQ(LoadedForm(kForm), failing);
+  EXPECT_FALSE(failing->TextOf(Name("txtssize(0)")).isEmpty()) << "the load went on";
+}
+
+TEST_F(FailingF1207vid, ReportsThatItCannotGoByItsFormCount) {
+  failing->SetText(Name("txtcnt"), Name("1"));
+  EXPECT_NO_THROW(failing->Timer1_Timer());
+  EXPECT_EQ(Reports(), 2);
+  EXPECT_TRUE(boxes.isEmpty());
+  EXPECT_FALSE(failing->Named<QTimer>(Name("Timer1"))->isActive());
+  EXPECT_EQ(LoadedForm(kForm), failing);
 }
 
 TEST_F(F1207vid, GoesBackToNoForm) {
