@@ -184,6 +184,14 @@ TEST_F(Cues, AFileThatIsThereIsHandedToThePlayer) {
   EXPECT_TRUE(boxes.isEmpty());
 }
 
+TEST_F(Cues, ADiscsTrackIsHandedOnLikeAnyOtherFile) {
+  Record("c/bramlee/aud/hin/hinv/hinv-3.cda");
+  Pick(Open("fbrmhinv01"), "mnufor(4)");
+  EXPECT_EQ(PlayCue(3, 3), 0);
+  EXPECT_EQ(Handed(), R"(C:\bramlee\aud\hin\hinv\hinv-3.cda)");
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
 TEST_F(Cues, AFileNotThereIsToldOnceAndThePlayerNotEvenLoaded) {
   ChooseDrive("X:");
   EXPECT_EQ(PlayCue(1, 1), 0);
