@@ -2,7 +2,6 @@
 
 #include <QFontMetricsF>
 #include <QTextDocument>
-#include <algorithm>
 #include <cmath>
 
 namespace bramlee {
@@ -15,8 +14,6 @@ constexpr int kSmallest = 14;
 /// Around the text, in pixels; brings a result level with the operands beside it.
 constexpr double kMargin = 8;
 
-const QString kRowEnd = QStringLiteral("\r\n");
-
 }  // namespace
 
 ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
@@ -28,10 +25,9 @@ ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
 
 void ResultBox::SetText(const QString& text) {
   text_ = text;
-  setFont(FittingFont(std::max(1, static_cast<int>(text.count(u'\n')))));
-  // An empty line behind the last row would ask for a scroll bar with nothing to scroll to.
-  const bool ended = text.endsWith(kRowEnd);
-  setPlainText(ended ? text.chopped(kRowEnd.size()) : text);
+  // The empty line behind a table's last row counts too: it would ask for a scroll bar.
+  setFont(FittingFont(static_cast<int>(text.count(u'\n')) + 1));
+  setPlainText(text);
 }
 
 QFont ResultBox::FittingFont(int lines) const {

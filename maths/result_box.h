@@ -13,11 +13,10 @@ class ResultBox : public QPlainTextEdit {
  public:
   explicit ResultBox(QWidget* parent = nullptr);
 
-  /// The text as it was given. The lines shown keep neither its carriage returns nor the line end
-  /// behind the last one.
+  /// The text as it was given, its carriage returns too, which the lines shown do not keep.
   QString Text() const { return text_; }
   /// Shows that text. Its letters are as large as lets all lines be seen in the box's height of
-  /// now, from 30 down to 14 pixels; of more lines the box shows the first and scrolls.
+  /// now, from 30 down to 14 pixels; where those are too large as well it scrolls.
   void SetText(const QString& text);
 
  private:
