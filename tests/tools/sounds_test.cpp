@@ -276,6 +276,15 @@ TEST_F(SoundsMaker, NumbersAreMadeInTheFormatAsked) {
       Files(),
       (QStringList{QStringLiteral("mat/matc/mat-100.wma"), QStringLiteral("mat/matc/mat-101.wma"),
                    QStringLiteral("mat/matc/mat-98.wma"), QStringLiteral("mat/matc/mat-99.wma")}));
+  for (const QString& file : Files()) {
+    const DecodedSound number(drive.filePath(QStringLiteral("bramlee/aud/") + file));
+    SCOPED_TRACE(file.toStdString());
+    EXPECT_GE(number.BeginMs(), 0);
+    EXPECT_LE(number.BeginMs(), 50);
+    EXPECT_GE(number.SpokenMs(), 300);
+    EXPECT_GE(number.LevelDb(), -24);
+    EXPECT_LE(number.LevelDb(), -17);
+  }
   ASSERT_EQ(Make("--quiet --sets matc --numbers 9999 --number-formats wav,mp3").status, 0);
   EXPECT_EQ(Files().size(), 6);
   const DecodedSound sound(At("mat/matc/mat-9999.wav"));
