@@ -10,9 +10,10 @@ namespace bramlee {
 
 class ClipPlayer;
 
-/// Plays one file at a time and returns from every call at once; what cannot be played is silent
-/// and dark. Sounds go to the sound engine, clips with pictures show in this widget. Nothing is
-/// loaded for either before the first Play. When it is destroyed, its sound stops.
+/// Plays one file at a time, by its buttons too, and returns from every call at once; what cannot
+/// be played is silent and dark. Sounds go to the sound engine, clips with pictures show in this
+/// widget. Nothing is loaded for either before the first Play. When it is destroyed, its sound
+/// stops.
 class WindowsMediaPlayer : public QWidget {
   Q_OBJECT
  public:

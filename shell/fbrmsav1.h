@@ -10,7 +10,7 @@ class fbrmsav1 : public Form {
  public:
   fbrmsav1();
 
-  /// Stands in the middle of the frame and starts its timer.
+  /// Stands in the middle of the frame and starts its timer. Leaves quietly on an error.
   void Form_Load() override;
   /// Goes by the number in txtpwd: 0 goes on to the home form; 1 to 3 ask for a form that there
   /// is none of, which is told, and the notice stays; at any other the notice just goes. Ticks

@@ -12,12 +12,14 @@ class fbrmsta1 : public Form {
  public:
   fbrmsta1();
 
-  /// Lays the form out, makes drive C: current and sees to its folder "bramlee". Tag "601:02".
+  /// Lays the form out, makes drive C: current and sees to its folder "bramlee". Leaves
+  /// quietly on an error; a folder that cannot be made is passed over. Tag "601:02".
   void Form_Load() override;
   /// The program has no other way in: closing it is its "&Exit".
   void CloseAsked() override;
 
-  /// A click anywhere on the form starts. Tag "601:01".
+  // --- handlers. Unless told otherwise, what fails is passed over without a word.
+  /// A click anywhere on the form starts. An error is reported. Tag "601:01".
   void Form_Click();
   /// Shows the home form, loaded or not. Tag "601:03".
   void mnustart_Click();
@@ -25,7 +27,7 @@ class fbrmsta1 : public Form {
   void mnuexit_Click();
   /// The switch in front of the home form: marks its item and shows the notice. Tag "601:06".
   void mnupp_Click(int index);
-  /// Two lines of the title pass each other. Tag "601:04".
+  /// Two lines of the title pass each other, by the screen's size in twips. Tag "601:04".
   void tmr1_Timer();
   /// The third line walks in a circle. Tag "601:05".
   void tmr2_Timer();

@@ -61,16 +61,24 @@ class Form : public QMainWindow {
   /// SetOuter with that size, centred on the screen.
   void CentreOnScreen(double width, double height);
 
-  // --- controls, found by their names below the form
+  // --- controls, found by their names below the form. They stand on the client, at no place of
+  // note before Form_Load; the form owns them.
   TextBox* AddText(const QString& name, const QString& text);
+  /// A text box that keeps data and is never seen.
   TextBox* AddHiddenText(const QString& name, const QString& text);
   Label* AddLabel(const QString& name, const QString& text);
+  /// A picture box, empty still.
   PictureBox* AddPicture(const QString& name, const QString& toolTip = {});
+  /// A combo box with an empty list and that text.
   Combo* AddCombo(const QString& name, const QString& text = {});
+  /// Calls `tick` every `intervalMs` milliseconds, from now on if it is enabled, else once it is
+  /// started. It ends with the form's unload.
   QTimer* AddTimer(const QString& name, int intervalMs, bool enabled, std::function<void()> tick);
 
   // --- menus. Captions are as they read, "&" before the mnemonic.
+  /// A menu on the form's bar.
   QMenu* AddMenu(const QString& name, const QString& caption);
+  /// A menu within another.
   QMenu* AddMenu(QMenu* parent, const QString& name, const QString& caption);
   /// An item that can be marked. The handler finds its mark as it was before the pick.
   QAction* AddItem(QMenu* menu, const QString& name, const QString& caption,
@@ -91,6 +99,7 @@ class Form : public QMainWindow {
     Q_ASSERT_X(found != nullptr, "Form::Named", qPrintable(name));
     return found;
   }
+  /// The text box of that name has to be there, as with Named.
   QString TextOf(const QString& textBox) const { return Named<QLineEdit>(textBox)->text(); }
   void SetText(const QString& textBox, const QString& text) const {
     Named<QLineEdit>(textBox)->setText(text);
