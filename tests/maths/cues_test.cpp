@@ -65,6 +65,21 @@ TEST_F(MathsCues, WithPlayOnTheWholeNumberIsSpokenOnce) {
   EXPECT_EQ(CueBoardNo, 7);
 }
 
+TEST_F(MathsCues, DigitsThatWipeAreAsSilentAsTheOthers) {
+  Pick("mnuaud");
+  TypeAndEnter("cmb(0)", "2159");
+  EXPECT_EQ(messages,
+            QStringList{QStringLiteral(R"(Q:\bramlee\aud\mat\matc\mat-2159.wma Not Found: )")});
+}
+
+TEST_F(MathsCues, EnterOfTheNumberPadSpeaksAsReturnDoes) {
+  Pick("mnuaud");
+  Type("cmb(0)", "27");
+  QTest::keyClick(Find<QComboBox>("cmb(0)")->lineEdit(), Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(messages,
+            QStringList{QStringLiteral(R"(Q:\bramlee\aud\mat\matc\mat-27.wma Not Found: )")});
+}
+
 TEST_F(MathsCues, PickedNumberIsSpokenOnce) {
   Pick("mnuaud");
   PickEntry("cmb(0)", "27");

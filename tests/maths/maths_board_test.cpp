@@ -1,4 +1,6 @@
 // The board of digits and signs: tiles, wipes, alternative forms, Draw All, sound.
+#include <QMenuBar>
+
 #include "shell/forms.h"
 #include "tests/maths/maths_fixture.h"
 
@@ -19,7 +21,9 @@ TEST_F(MathsBoard, LooksAsDesigned) {
     EXPECT_EQ(tile.top, i <= 5 ? 600 : 1500) << i;
     EXPECT_EQ(tile.width, 900) << i;
     EXPECT_EQ(tile.height, 825) << i;
-    EXPECT_EQ(board->Tile(i)->toolTip(), QStringLiteral("Click To Draw"));
+  }
+  for (int i = 1; i <= 17; ++i) {
+    EXPECT_EQ(board->Tile(i)->toolTip(), QStringLiteral("Click To Draw")) << i;
   }
   EXPECT_EQ(board->record().backColor, 0x00E0E0E0U);
   EXPECT_TRUE(CheckedMathsItems().isEmpty());
@@ -34,6 +38,17 @@ TEST_F(MathsBoard, TilesLieApartAndOnASmallScreen) {
       EXPECT_FALSE(tile.intersects(board->Tile(j)->geometry())) << i << " and " << j;
     }
   }
+}
+
+TEST_F(MathsBoard, MenuBarReadsAsOnTheOtherBoardsWithMathsBeforeTheGap) {
+  QStringList bar;
+  for (const QAction* item : board->menuBar()->actions()) bar.append(item->text());
+  EXPECT_EQ(
+      bar, (QStringList{QStringLiteral("&File"), QStringLiteral("&Colors"), QStringLiteral("&Draw"),
+                        QStringLiteral("&Audio"), QStringLiteral("&Maths"), QString(66, u' '),
+                        QStringLiteral("&Clear     ")}));
+  EXPECT_EQ(Find<QAction>("mnuback")->text(), QStringLiteral("&Back"));
+  EXPECT_EQ(Find<QAction>("mnudrawalt")->text(), QStringLiteral("&Draw Alternatives"));
 }
 
 TEST_F(MathsBoard, HiddenBoxesHoldTheirDesign) {
@@ -131,6 +146,16 @@ TEST_F(MathsBoard, AlternativesShowFourTilesAndNoNumberBox) {
   EXPECT_EQ(TextOf("txtalt"), QStringLiteral("0"));
   EXPECT_EQ(ShownTiles(), kAll);
   EXPECT_TRUE(Shown("cmb(0)"));
+}
+
+TEST_F(MathsBoard, AfterADrillAllTilesAreBackThoughAlternativesAreOn) {
+  Pick("mnudrawalt");
+  Pick("mnuadd");
+  Pick("mnuadd");
+  EXPECT_EQ(ShownTiles(), kAll);
+  EXPECT_TRUE(Shown("cmb(0)"));
+  EXPECT_TRUE(Checked("mnudrawalt"));
+  EXPECT_EQ(TextOf("txtalt"), QStringLiteral("1"));
 }
 
 TEST_F(MathsBoard, AlternativeFormIsWritten) {

@@ -77,7 +77,9 @@ TEST_F(Tables, TextThatIsNoNumberCountsAsNothingWithoutAWord) {
   Pick("mnutbl");
   messages.clear();
   EXPECT_EQ(RowsOf("abc")[4], QStringLiteral("0 X 5 = 0"));
-  EXPECT_EQ(RowsOf("nan")[4], QStringLiteral("0 X 5 = 0"));
+  for (const char* text : {"nan", "inf", "7abc", ""}) {
+    EXPECT_EQ(RowsOf(text)[4], QStringLiteral("0 X 5 = 0")) << text;
+  }
   EXPECT_TRUE(messages.isEmpty());
   EXPECT_EQ(BackColorOf(Find<QWidget>("cmb(16)")), 0x80FFFFU);
 }
