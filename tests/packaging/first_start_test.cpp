@@ -55,6 +55,7 @@ class FirstStart : public ::testing::Test {
   struct Told {
     int status;
     QByteArray text;
+    QByteArray errors;
   };
   /// Starts it as a user does, and waits for the program's end.
   Told Start(const QStringList& more = {}) const {
@@ -69,8 +70,7 @@ class FirstStart : public ::testing::Test {
     process.setProcessEnvironment(environment);
     process.start(In("bin/bramlee"), {QStringLiteral("one"), QStringLiteral("two")});
     EXPECT_TRUE(process.waitForFinished(kHangMs));
-    EXPECT_EQ(process.readAllStandardError(), "");
-    return {process.exitCode(), process.readAllStandardOutput()};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
   }
 
   /// What runs in the background has come that far.
@@ -92,6 +92,7 @@ TEST_F(FirstStart, LaysOutDriveCSaysSoAndRunsTheProgram) {
   EXPECT_EQ(told.text, "Laying out drive C: in " + QFile::encodeName(In("drives/c")) +
                            "\nMaking the sounds in the background (about two minutes); the "
                            "program can be used meanwhile.\nprogram one two\n");
+  EXPECT_EQ(told.errors, "");
   EXPECT_TRUE(QDir(In("drives/c/bramlee/dba")).isEmpty());
   EXPECT_TRUE(IsThere("drives/c/bramlee/aud"));
   EXPECT_EQ(Read("drives/c/bramlee/idcard.jpg"), "the pack's idcard.jpg");
@@ -151,6 +152,29 @@ TEST_F(FirstStart, MakesNoSoundsWhenTheyAreNotWanted) {
   EXPECT_TRUE(told.text.endsWith("program one two\n"));
   EXPECT_FALSE(IsThere("made"));
   EXPECT_TRUE(IsThere("drives/c/bramlee/dba"));
+}
+
+TEST_F(FirstStart, ADriveThatIsGoneIsToldAndTheProgramRuns) {
+  QDir().mkpath(In("drives"));
+  QFile::link(In("unplugged"), In("drives/c"));
+  const Told gone = Start();
+  EXPECT_EQ(gone.text, "program one two\n");
+  EXPECT_EQ(gone.status, 3);
+  EXPECT_TRUE(gone.errors.endsWith("Drive C: could not be laid out in " +
+                                   QFile::encodeName(In("drives")) +
+                                   "; the program starts without its files.\n"))
+      << gone.errors.constData();
+  EXPECT_FALSE(IsThere("made"));
+  EXPECT_FALSE(IsThere("unplugged"));
+}
+
+TEST_F(FirstStart, AFileInAFoldersPlaceIsLeftAloneAndTold) {
+  QDir().mkpath(In("drives/c/bramlee"));
+  Write("drives/c/bramlee/aud", "mine");
+  const Told told = Start();
+  EXPECT_TRUE(told.text.endsWith("program one two\n"));
+  EXPECT_TRUE(told.errors.contains("could not be laid out"));
+  EXPECT_EQ(Read("drives/c/bramlee/aud"), "mine");
 }
 
 TEST_F(FirstStart, FindsTheFolderOfDrivesWhereTheProgramDoes) {
