@@ -18,6 +18,7 @@ namespace bramlee {
 
 /// Makes the boards of this folder known by their forms' names.
 void RegisterBoards();
+/// Makes one board known by its form's name. The record is used as long as the program runs.
 void RegisterBoard(const BoardRecord& record);
 
 /// A writing board. Handlers bear the names of their controls; on an error they end without a
@@ -25,37 +26,52 @@ void RegisterBoard(const BoardRecord& record);
 class Board : public Form {
   Q_OBJECT
  public:
+  /// Makes all controls and menus, at their design values. The record is used as long as the
+  /// board lives; its letter set has to exist.
   explicit Board(const BoardRecord& record);
 
-  const BoardRecord& record() const { return record_; }
-  const LetterSet& letters() const { return letters_; }
-  Sheet& sheet() const { return *sheet_; }
+  const BoardRecord& record() const { return record_; }  ///< what it differs in
+  const LetterSet& letters() const { return letters_; }  ///< what its tiles write
+  Sheet& sheet() const { return *sheet_; }               ///< what they write on; the client
 
+  /// As large as the screen, the home form's drive in txtdrv, the tiles in their places.
   void Form_Load() override;
+  /// Comes into view maximised.
   void Present() override;
 
-  // --- handlers
-  void Timer1_Timer();
-  void mnublink_Click();
-  void mnuclose_Click();
-  void mnugcolor_Click(int index);
-  void mnucolor_Click(int index);
-  void mnuspd_Click(int index);
-  void mnufor_Click(int index);
+  // --- handlers. An index counts from 1 and is one of its menu's; a tile may be of any number.
+  void Timer1_Timer();              ///< the title blinks: hidden, shown, hidden
+  void mnublink_Click();            ///< stops or starts the blinking; the title stays as it is
+  void mnuclose_Click();            ///< "&Back": unloads the form
+  void mnugcolor_Click(int index);  ///< the colour of rules and grid to come
+  void mnucolor_Click(int index);   ///< the colour of letters to come
+  void mnuspd_Click(int index);     ///< the step, by the record
+  void mnufor_Click(int index);     ///< the sounds' format
+  /// Sound on, in the first format and with the speeds' marks gone, or off, all formats unmarked.
   void mnuaud_Click();
+  /// Draws the grid and marks it; marked before, it loses its mark and stays until the next wipe.
   void mnugrid_Click();
+  /// Draws that rule and marks it alone; marked before, it loses its mark. Nothing is erased.
   void mnurulled_Click(int index);
+  /// Wipes and goes over to the letters' alternative forms or back.
   void mnudrawalt_Click();
+  /// Wipes the sheet and keeps the settings: as if the form were made afresh and the user's
+  /// choices put back. Rule and grid come back as marks, not on the sheet.
   void mnuclear1_Click();
+  /// Sound off, then every tile in the record's order. Returns once all is written.
   void mnudall_Click();
+  /// A tile's click: a wipe if it begins a group, then its sound, then its strokes. Returns once
+  /// they are written.
   void pic_Click(int index);
 
   // --- what the handlers and the boards' own parts share
+  /// Whether that tile's click wipes the sheet first.
   bool IsGroupStart(int index) const;
   /// Makes the sheet large enough for all that stands or is written on it, so that it scrolls
   /// where the window is smaller.
   void FitSheet();
 
+  /// The mark of a menu item, by its name.
   bool Checked(const QString& item) const { return Named<QAction>(item)->isChecked(); }
   void SetChecked(const QString& item, bool on) const { Named<QAction>(item)->setChecked(on); }
   /// Takes the marks of array(1) to array(last) away.
@@ -64,12 +80,13 @@ class Board : public Form {
   void CheckOnly(const char* array, int last, int index) const;
   /// The lowest marked of array(1) to array(last), 0 for none.
   int FirstChecked(const char* array, int last) const;
-  /// The numeric value of a text box that keeps a flag.
+  /// The numeric value of a text box that keeps a flag, 0 for a text that is no number.
   double FlagOf(const QString& textBox) const;
+  /// pic(index), one from the record's first to its last tile.
   PictureBox* Tile(int index) const;
   /// Puts a tile there, in twips. The usual size leaves 50 free at a pitch of 950 by 875.
   void PlaceTile(int index, double left, double top, double width = 900, double height = 825) const;
-  /// Puts txthdr1 above the tiles.
+  /// Puts txthdr1 above the tiles, in twips. The usual width holds the longest title.
   void PlaceTitle(double left, double width = 4815) const;
   /// Shows exactly those of tiles `first` to `last` for which `shown(tile)` holds.
   template <class Shown>

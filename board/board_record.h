@@ -37,9 +37,9 @@ void CueIfPlayIsOn(Board& board, const StrokeRec& rec);
 /// The program of the board's letter set.
 WriteLetter ProgramOfSet(const Board& board, const StrokeRec& rec);
 /// Writes the letter by its program, or says the record's `strangeTile`, if any, when there is no
-/// tile of that number.
+/// tile of that number. Throws what the program throws.
 void WriteTile(Board& board, StrokeRec& rec);
-/// Marks that speed and writes its step to txtspd.
+/// Marks that speed, 1 to 6, and writes its step to txtspd. Throws TrappedError for another.
 void SetSpeed(Board& board, int index);
 /// Clicks the tiles in the record's order, each group start on a sheet wiped once more.
 void DrawAllTiles(Board& board);

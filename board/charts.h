@@ -16,15 +16,17 @@ struct ChartRecord {
   bool formClicks = false;  ///< whether a click beside the picture shows the board too
 };
 
-/// A chart. Nothing in the program opens one; it stands ready for whoever names its form.
+/// A chart. Nothing in the program opens one; it stands ready for whoever names its form. On an
+/// error its handlers end without a word.
 class Chart : public Form {
  public:
+  /// The record is used as long as the chart lives.
   explicit Chart(const ChartRecord& record);
 
-  void Form_Load() override;
-  void Present() override;
-  void Form_Click();
-  void pic_Click();
+  void Form_Load() override;  ///< lays form and picture out by the record
+  void Present() override;    ///< comes into view, maximised if the record says so
+  void Form_Click();          ///< beside the picture: the board, if the record says so
+  void pic_Click();           ///< shows the record's board, if there is one
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;

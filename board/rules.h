@@ -19,6 +19,7 @@ struct SheetExtent {
   double columnPitch;
 };
 
+// From the left edge and the top, as wide and as high as four cells.
 inline constexpr SheetExtent kCapitalsExtent{400, 400 + 800, 50, 50 + 400, 100, 200};
 inline constexpr SheetExtent kSmallExtent{400, 400 + 800, 50, 50 + 300, 75, 200};
 inline constexpr SheetExtent kWideExtent{100, 100 + 1000, 250, 250 + 300, 50 / 2.0 * 3, 250};

@@ -44,7 +44,9 @@ class Sheet final : public QWidget, public DrawingSurface {
   /// A smaller step could leave a coordinate as it is, and the run would never end.
   static constexpr double kSmallestStep = 1e-6;
 
+  /// The ground beneath the dots, white at first; those on it stay.
   void SetBackColor(ColourWord colour);
+  /// The colour of the dots to come, red at first.
   ColourWord ForeColor() const { return ink_.Colour(); }
   void SetForeColor(ColourWord colour) { ink_.SetColour(colour); }
 

@@ -6,7 +6,7 @@
 
 namespace bramlee {
 
-// The five signs of the drills, by the numbers of their pictures.
+// The five signs of the drills, by the numbers of their pictures: pic1(11) to pic1(15).
 inline constexpr int kPlus = 11;
 inline constexpr int kMinus = 12;
 inline constexpr int kTimes = 13;
@@ -22,7 +22,7 @@ std::optional<double> RowResult(int sign, double a, double b);
 bool IsInfinite(int sign, double a, double b);
 
 /// The twenty rows of the table of `n`, as "7 X 3 = 21", each with a carriage return and a line
-/// feed behind it. None if a product is too large for a double.
+/// feed behind it; numbers to 15 significant digits. None if a product is too large for a double.
 std::optional<QString> TableText(double n);
 
 }  // namespace bramlee

@@ -6,15 +6,17 @@
 
 namespace bramlee {
 
-/// Makes the row's controls, hidden.
+/// Makes the row's controls, hidden: cmb(16), pic1(11) to pic1(15), cmb(18), picequal and
+/// txtval(20). After the tiles, in front of which it lies when both are shown.
 void MakeDrillRow(Board& board);
 
-/// The five drills' items at the end of that menu.
+/// The five drills' items at the end of that menu. A pick shows the drill's row in the tiles'
+/// place, or, when it was marked, hides it and shows the tiles; on an error it ends quietly.
 void MakeDrillMenu(Board& board, QMenu* menu);
 
-/// picequal_Click: writes the row's result into txtval(20). An operand that is no number turns red,
-/// is told of and counts as 0; a number divided by nothing is told of. Where there is no result,
-/// or no sign can be seen, the box keeps its text.
+/// The click on picequal: writes the row's result into txtval(20). An operand that is no number
+/// turns red, is told of and counts as 0; a number divided by nothing is told of. Where there is no
+/// result, or no sign can be seen, the box keeps its text. On an error it ends quietly.
 void CalcResult(Board& board);
 
 }  // namespace bramlee

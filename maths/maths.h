@@ -3,7 +3,7 @@
 
 namespace bramlee {
 
-/// Makes fbrmmat01 known.
+/// Makes the board known by its form's name, fbrmmat01.
 void RegisterMaths();
 
 }  // namespace bramlee

@@ -10,20 +10,21 @@ class ResultBox;
 
 /// Hides "&Colors", "&Speed" and "&Draw": while a drill or a table is on, nothing is written.
 void HideSheetMenus(Board& board);
+/// Shows them again.
 void ShowSheetMenus(Board& board);
 
 /// Takes the marks of numbers, tables and the five drills away.
 void UncheckMathsMenu(Board& board);
 
-/// The tiles of all digits and signs, and the number box.
+/// Hides the tiles of all digits and signs, and the number box.
 void HideDigitTiles(Board& board);
-/// Shows them all, the number box over the tile of the plus sign.
+/// Shows them all, the number box's left edge on that of the plus sign's tile.
 void ShowDigitTiles(Board& board);
 
 /// The menu item "&Numbers": back to the number board. A row that is up stays beside the tiles.
 void mnunum_Click(Board& board);
 
-/// The controls that drills and tables share: first operand and result.
+// The controls that drills and tables share: cmb(16) and txtval(20). MakeDrillRow makes them.
 Combo* FirstOperand(const Board& board);
 ResultBox* Result(const Board& board);
 

@@ -5,15 +5,17 @@
 
 namespace bramlee {
 
-/// Makes cmb(0), with 0 to 100 in its list.
+/// Makes cmb(0), with 0 to 100 in its list and no text. A pick and Return run NumberBox_Click.
 void MakeNumberBox(Board& board);
 
-/// Lays it over the top of the tile of the plus sign, most of which stays free for a click.
+/// Lays it over the top of the plus sign's tile, most of which stays free for a click; as wide as
+/// three and a half digit tiles. After the tiles.
 void LayOutNumberBox(Board& board);
 
 /// A number was picked or its Return pressed: speaks it, if Play is on, and writes it if it has
 /// at most 4 characters. Text that is no number turns red. A character that is no digit keeps its
-/// place free.
+/// place free. A number that does not fit the 16 bits of a sound's number ends it quietly, as any
+/// error does.
 void NumberBox_Click(Board& board);
 
 }  // namespace bramlee

@@ -8,12 +8,13 @@ namespace bramlee {
 /// Makes pict, hidden. After the drills' row, whose first number and result box it uses.
 void MakeTablePicture(Board& board);
 
-/// "&ShowTables" with "&Tables" in that menu.
+/// "&ShowTables" with "&Tables" in that menu. A pick shows the table's controls along the top in
+/// the tiles' place, or, when it was marked, hides them and shows the tiles.
 void MakeTableMenu(Board& board, QMenu* menu);
 
-/// pict_Click: the table of the number in cmb(16), of 0 for a text that is none, into txtval(20),
-/// which grows to show it. Where a product is too large for a double the box keeps its text and
-/// stays low.
+/// The click on pict: the table of the number in cmb(16), of 0 for a text that is none, into
+/// txtval(20), which grows to 7600 twips to show it. Where a product is too large for a double the
+/// box keeps its text and is 2000 twips high.
 void pict_Click(Board& board);
 
 }  // namespace bramlee
