@@ -178,6 +178,11 @@ TEST_F(NumberBox, CharactersThatAreNoDigitsKeepTheirPlaceFree) {
   EXPECT_TRUE(InkBetween(kColumn3 + 10, kColumn4 - 10));
 }
 
+TEST_F(NumberBox, LastPlaceIsThatOfTheLastDigit) {
+  TypeAndEnter("cmb(0)", "22. ");
+  EXPECT_EQ(TextOf("txtaltno"), QStringLiteral("2"));
+}
+
 TEST_F(NumberBox, NoughtIsTheTenthTile) {
   TypeAndEnter("cmb(0)", "0");
   EXPECT_TRUE(InkAt(225, 330)) << "the top of the 0 in column 1";
