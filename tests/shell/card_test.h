@@ -137,4 +137,7 @@ class CardTest : public TempDrives {
   }
 };
 
+/// The form itself; its tests stand by subject in several files.
+class BiodataCard : public CardTest {};
+
 }  // namespace bramlee
