@@ -92,7 +92,7 @@ std::int16_t RemoveCardItem(std::int32_t recNo) {
     if (file.Records() == 0) throw TrappedError(QStringLiteral("the card is gone"));
     StudentRec first = DecodeStudent(file.Get(1));
     const std::int32_t count = CountedItems(first, file);
-    first.RecordCount = count - 1;
+    first.RecordCount = RoundToLong(std::min(first.RecordCount, file.Records()) - 1.0);
     file.Put(1, EncodeStudent(first));
     std::int32_t kept = 1;
     for (std::int32_t i = 2; i <= count; ++i) {

@@ -33,8 +33,8 @@ std::int16_t WriteDefaultCard();
 
 /// Lowers the count and moves the records behind that one down by one place; the old last one
 /// stays behind the count. A number beyond the file drops no record out, and the count falls all
-/// the same. A count that the file cannot have falls from what the file holds: the items would
-/// otherwise come back. 0 when done; 1 on an error, and the file is as it was.
+/// the same. A count beyond the file falls from what the file holds: the items would otherwise come
+/// back. 0 when done; 1 on an error, and the file is as it was.
 std::int16_t RemoveCardItem(std::int32_t recNo);
 
 }  // namespace bramlee
