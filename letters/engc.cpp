@@ -1,10 +1,53 @@
-// English capitals. A capital stands between Y2 (150) and Y4 (350) with Y3 (250) as its middle
-// line, four letters side by side, each in the cell of its own column.
+// English capitals: tiles 1 to 26 are A to Z. A capital stands between Y2 (150) and Y4 (350) with
+// Y3 (250) as its middle line, four letters side by side, each in the cell of its own column.
 #include "letters/letter_sets.h"
 #include "letters/pen.h"
 
 namespace bramlee {
 namespace {
+
+// Parts that several letters share: whoever changes one changes all letters that name it.
+
+/// The stem and upper bowl of B, P and R. The stem stands at X2 in the cell at `column`, the bowl's
+/// half circle begins at X7.
+void WriteStemAndBowl(double column, StrokeRec& r, Pen& pen) {
+  r.X2 = r.Unit / 2 + column;
+  r.X7 = r.X2 + 2 * r.Unit;
+  r.Rad = r.CellW / 4;
+  pen.LineDown(r.X2, r.Y2, r.Y4);
+  pen.LineRight(r.X2, r.Y2, r.X7);
+  r.CY2 = r.Rad + r.Y2;
+  pen.Arc(90, -90, -1, r.X7, r.CY2, r.Rad);
+  pen.LineLeft(r.X2, r.Y3, r.X7);
+}
+
+/// The open bow of C and G.
+void WriteOpenBow(StrokeRec& r, Pen& pen) {
+  r.Rad = 100;
+  r.CX3 = r.Unit * 3 / 2 + r.Col3 + 100.0 / 2;
+  pen.Arc(60, 300, +1, r.CX3, r.Y3, r.Rad);
+}
+
+/// Where E, F and L have their stem, X1, and the end of their bars, X6.
+void LayStemAndBars(double column, StrokeRec& r) {
+  r.X1 = r.Unit / 2 + column;
+  r.X6 = r.X1 + r.CellW - r.Unit;
+}
+
+/// The long ring of O and Q, in the cell at `column`.
+void WriteRing(double column, StrokeRec& r, Pen& pen) {
+  r.X3 = r.Unit / 2 + column;
+  r.X8 = column + r.CellW - r.Unit / 2;
+  r.Y3 = r.Row3 - r.Unit / 2;
+  r.Y8 = r.Row3 + r.Unit / 2;
+  r.Rad = (r.CellW - r.Unit) / 2;
+  r.CX3 = r.CellW / 2 + column;
+  pen.Arc(90, 180, +1, r.CX3, r.Y3, r.Rad);
+  pen.LineDown(r.X3, r.Y3, r.Y8);
+  pen.Arc(180, 360, +1, r.CX3, r.Y8, r.Rad);
+  pen.LineUp(r.X8, r.Y8, r.Y3);
+  pen.Arc(360, 450, +1, r.CX3, r.Y3, r.Rad);
+}
 
 // Each letter: its anchors, then its strokes in writing order, a line each.
 
@@ -17,37 +60,15 @@ void WriteA(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X3, r.Y3, r.X8);
 }
 
-void WriteBPR(StrokeRec& r, Pen& pen) {
-  enum { B = 2, P = 16, R = 18 };
-  r.X2 = r.Unit / 2 + (r.LetterNo == P ? r.Col4 : r.Col2);
-  r.X7 = r.X2 + 2 * r.Unit;
-  r.Rad = r.CellW / 4;
-  pen.LineDown(r.X2, r.Y2, r.Y4);
-  pen.LineRight(r.X2, r.Y2, r.X7);
-  r.CY2 = r.Rad + r.Y2;
-  pen.Arc(90, -90, -1, r.X7, r.CY2, r.Rad);
-  pen.LineLeft(r.X2, r.Y3, r.X7);
-  if (r.LetterNo == B) {
-    r.CY3 = r.Rad + r.Y3;
-    pen.Arc(90, -90, -1, r.X7, r.CY3, r.Rad);
-    pen.LineLeft(r.X2, r.Y4, r.X7);
-  }
-  if (r.LetterNo == R) pen.SlantRight(56, r.X2, r.Y3, r.Y4);
+void WriteB(StrokeRec& r, Pen& pen) {
+  WriteStemAndBowl(r.Col2, r, pen);
+  r.CY3 = r.Rad + r.Y3;
+  pen.Arc(90, -90, -1, r.X7, r.CY3, r.Rad);
+  pen.LineLeft(r.X2, r.Y4, r.X7);
 }
 
-void WriteCG(StrokeRec& r, Pen& pen) {
-  enum { C = 3, G = 7 };
-  r.Rad = 100;
-  r.CX3 = r.Unit * 3 / 2 + r.Col3 + 100.0 / 2;
-  r.X3 = r.Col3;
-  pen.Arc(60, 300, +1, r.CX3, r.Y3, r.Rad);
-  if (r.LetterNo == G) {
-    r.X8 = LastX;  // the crossbar ends where the arc really ended
-    r.Y8 = LastY;
-    r.X3 = r.X3 + 2 * r.Unit;
-    pen.LineRight(r.X3, r.Y3, r.X8);
-    pen.LineDown(r.X8, r.Y3, r.Y8);
-  }
+void WriteC(StrokeRec& r, Pen& pen) {
+  WriteOpenBow(r, pen);
 }
 
 void WriteD(StrokeRec& r, Pen& pen) {
@@ -62,34 +83,41 @@ void WriteD(StrokeRec& r, Pen& pen) {
   pen.LineLeft(r.X4, r.Y4, r.X9);
 }
 
-void WriteEFL(StrokeRec& r, Pen& pen) {
-  enum { E = 5, F = 6, L = 12 };
-  r.X1 = r.Unit / 2 + (r.LetterNo == E ? r.Col1 : r.LetterNo == F ? r.Col2 : r.Col4);
-  r.X6 = r.X1 + r.CellW - r.Unit;
+void WriteE(StrokeRec& r, Pen& pen) {
+  LayStemAndBars(r.Col1, r);
   pen.LineDown(r.X1, r.Y2, r.Y4);
-  if (r.LetterNo != L) {
-    pen.LineRight(r.X1, r.Y2, r.X6);
-    pen.LineRight(r.X1, r.Y3, r.X6);
-  }
-  if (r.LetterNo != F) pen.LineRight(r.X1, r.Y4, r.X6);
+  pen.LineRight(r.X1, r.Y2, r.X6);
+  pen.LineRight(r.X1, r.Y3, r.X6);
+  pen.LineRight(r.X1, r.Y4, r.X6);
 }
 
-void WriteHIT(StrokeRec& r, Pen& pen) {
-  enum { H = 8, I = 9, T = 20 };
-  r.X4 = r.LetterNo == H   ? r.Unit / 2 + r.Col4
-         : r.LetterNo == I ? r.CellW / 2 + r.Col1
-                           : r.CellW / 2 + r.Col4;
+void WriteF(StrokeRec& r, Pen& pen) {
+  LayStemAndBars(r.Col2, r);
+  pen.LineDown(r.X1, r.Y2, r.Y4);
+  pen.LineRight(r.X1, r.Y2, r.X6);
+  pen.LineRight(r.X1, r.Y3, r.X6);
+}
+
+void WriteG(StrokeRec& r, Pen& pen) {
+  WriteOpenBow(r, pen);
+  r.X8 = LastX;  // the crossbar ends where the arc really ended
+  r.Y8 = LastY;
+  r.X3 = r.Col3 + 2 * r.Unit;
+  pen.LineRight(r.X3, r.Y3, r.X8);
+  pen.LineDown(r.X8, r.Y3, r.Y8);
+}
+
+void WriteH(StrokeRec& r, Pen& pen) {
+  r.X4 = r.Unit / 2 + r.Col4;
   r.X9 = r.X4 + r.CellW - r.Unit;
   pen.LineDown(r.X4, r.Y2, r.Y4);
-  if (r.LetterNo == H) {
-    pen.LineRight(r.X4, r.Y3, r.X9);
-    pen.LineDown(r.X9, r.Y2, r.Y4);
-  }
-  if (r.LetterNo == T) {
-    r.X4 = r.X4 - 75;
-    r.X9 = r.X4 + 150;
-    pen.LineRight(r.X4, r.Y2, r.X9);
-  }
+  pen.LineRight(r.X4, r.Y3, r.X9);
+  pen.LineDown(r.X9, r.Y2, r.Y4);
+}
+
+void WriteI(StrokeRec& r, Pen& pen) {
+  r.X4 = r.CellW / 2 + r.Col1;
+  pen.LineDown(r.X4, r.Y2, r.Y4);
 }
 
 void WriteJ(StrokeRec& r, Pen& pen) {
@@ -110,6 +138,12 @@ void WriteK(StrokeRec& r, Pen& pen) {
   pen.SlantRight(56, r.X3, r.Y3, r.Y4);
 }
 
+void WriteL(StrokeRec& r, Pen& pen) {
+  LayStemAndBars(r.Col4, r);
+  pen.LineDown(r.X1, r.Y2, r.Y4);
+  pen.LineRight(r.X1, r.Y4, r.X6);
+}
+
 void WriteM(StrokeRec& r, Pen& pen) {
   r.X1 = r.Unit / 2 + r.Col1;
   r.X2 = r.Col2 - r.Unit / 2;
@@ -127,22 +161,22 @@ void WriteN(StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X2, r.Y2, r.Y4);
 }
 
-void WriteOQ(StrokeRec& r, Pen& pen) {
-  enum { O = 15, Q = 17 };
-  const double left = r.LetterNo == O ? r.Col3 : r.Col1;
-  const double right = r.LetterNo == O ? r.Col4 : r.Col2;
-  r.X3 = r.Unit / 2 + left;
-  r.X8 = right - r.Unit / 2;
-  r.Y3 = r.Row3 - r.Unit / 2;
-  r.Y8 = r.Row3 + r.Unit / 2;
-  r.Rad = (r.CellW - r.Unit) / 2;
-  r.CX3 = r.CellW / 2 + left;
-  pen.Arc(90, 180, +1, r.CX3, r.Y3, r.Rad);
-  pen.LineDown(r.X3, r.Y3, r.Y8);
-  pen.Arc(180, 360, +1, r.CX3, r.Y8, r.Rad);
-  pen.LineUp(r.X8, r.Y8, r.Y3);
-  pen.Arc(360, 450, +1, r.CX3, r.Y3, r.Rad);
-  if (r.LetterNo == Q) pen.SlantRight(55, r.CX3, r.Unit + r.Row3, r.Y4);
+void WriteO(StrokeRec& r, Pen& pen) {
+  WriteRing(r.Col3, r, pen);
+}
+
+void WriteP(StrokeRec& r, Pen& pen) {
+  WriteStemAndBowl(r.Col4, r, pen);
+}
+
+void WriteQ(StrokeRec& r, Pen& pen) {
+  WriteRing(r.Col1, r, pen);
+  pen.SlantRight(55, r.CX3, r.Unit + r.Row3, r.Y4);
+}
+
+void WriteR(StrokeRec& r, Pen& pen) {
+  WriteStemAndBowl(r.Col2, r, pen);
+  pen.SlantRight(56, r.X2, r.Y3, r.Y4);
 }
 
 void WriteS(StrokeRec& r, Pen& pen) {
@@ -154,6 +188,14 @@ void WriteS(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.Col3 + r.Unit, r.Row3, r.Col4 - r.Unit);
   pen.Arc(450, 370, -1, r.Col4 - r.Unit, r.Row3 + r.Unit / 2, bend);
   pen.Arc(360, 200, -1, middle, r.Row3 + r.Unit / 2, bow);
+}
+
+void WriteT(StrokeRec& r, Pen& pen) {
+  const double middle = r.CellW / 2 + r.Col4;
+  r.X4 = middle - 75;
+  r.X9 = r.X4 + 150;
+  pen.LineDown(middle, r.Y2, r.Y4);
+  pen.LineRight(r.X4, r.Y2, r.X9);
 }
 
 void WriteU(StrokeRec& r, Pen& pen) {
@@ -208,11 +250,10 @@ void WriteZ(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X2, r.Y4, r.X3);
 }
 
-// Letters that differ by a stroke or a column share a routine.
 constexpr Letter kLetters[] = {
-    WriteA, WriteBPR, WriteCG,  WriteD, WriteEFL, WriteEFL, WriteCG,  WriteHIT, WriteHIT,
-    WriteJ, WriteK,   WriteEFL, WriteM, WriteN,   WriteOQ,  WriteBPR, WriteOQ,  WriteBPR,
-    WriteS, WriteHIT, WriteU,   WriteV, WriteW,   WriteX,   WriteY,   WriteZ,
+    WriteA, WriteB, WriteC, WriteD, WriteE, WriteF, WriteG, WriteH, WriteI,
+    WriteJ, WriteK, WriteL, WriteM, WriteN, WriteO, WriteP, WriteQ, WriteR,
+    WriteS, WriteT, WriteU, WriteV, WriteW, WriteX, WriteY, WriteZ,
 };
 static_assert(std::size(kLetters) == 26);
 

@@ -1,4 +1,4 @@
-// What the English letters owe to the registers, and what those that share a routine differ in.
+// What the English letters owe to the registers, and what those that share a part differ in.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -46,7 +46,7 @@ TEST(Capitals, CrossbarOfTheGEndsWhereItsArcEnded) {
   EXPECT_GT(std::abs(Capital('G', 0.7)[1].arguments[2] - Capital('G', 1)[1].arguments[2]), 0.1);
 }
 
-TEST(Capitals, ThatShareARoutineDifferByTheirColumnAndALastStroke) {
+TEST(Capitals, ThatShareAPartDifferByTheirColumnAndALastStroke) {
   const Runs b = Capital('B');
   const Runs p = Capital('P');
   const Runs r = Capital('R');
