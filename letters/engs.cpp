@@ -1,11 +1,41 @@
-// English small letters. A body lies between Y2 (125) and Y4 (275) around the middle line Y3
-// (200); ascenders start at Y1 (50), descenders end at Y5 (350). Four letters stand side by side,
-// each in the cell of its own column. Rad comes in as 75.
+// English small letters: tiles 1 to 26 are a to z. A body lies between Y2 (125) and Y4 (275)
+// around the middle line Y3 (200); ascenders start at Y1 (50), descenders end at Y5 (350). Four
+// letters stand side by side, each in the cell of its own column. Rad comes in as 75.
 #include "letters/letter_sets.h"
 #include "letters/pen.h"
 
 namespace bramlee {
 namespace {
+
+// Parts that several letters share: whoever changes one changes all letters that name it.
+
+/// The tall stem of b and h, at X2 in the cell at `column`.
+void WriteAscender(double column, StrokeRec& r, Pen& pen) {
+  r.X2 = r.Unit / 2 + column;
+  r.Y9 = r.Row3 + r.Rad;
+  pen.LineDown(r.X2, r.Y1, r.Y9);
+}
+
+/// The dot of i and j, a short stroke over the stem at `x`.
+void WriteDot(double x, StrokeRec& r, Pen& pen) {
+  r.Y6 = r.Row2 - r.Unit / 1.2;
+  r.Y7 = r.Unit / 5 + r.Y6;
+  pen.LineDown(x, r.Y6, r.Y7);
+}
+
+/// The stem and arch of n, and of m before its second arch: the stem at X1, the arch of radius
+/// Rad about (CX1, CY1), and a stem down from where it really ended.
+void WriteStemAndArch(double stemX, double radius, StrokeRec& r, Pen& pen) {
+  r.Rad = radius;
+  r.X1 = stemX;
+  r.CX1 = r.X1 + r.Rad;
+  r.CY1 = r.Row2 + r.Rad;
+  pen.LineDown(r.X1, r.Y2, r.Y4);
+  pen.Arc(170, 0, -1, r.CX1, r.CY1, r.Rad);
+  r.X2 = LastX;
+  r.Y2 = LastY;
+  pen.LineDown(r.X2, r.Y2, r.Y4);
+}
 
 // Each letter: its anchors, then its strokes in writing order, a line each.
 
@@ -17,18 +47,10 @@ void WriteA(StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X2, r.Y2, r.Y4);
 }
 
-void WriteBH(StrokeRec& r, Pen& pen) {
-  enum { B = 2, H = 8 };
-  r.X2 = r.Unit / 2 + (r.LetterNo == B ? r.Col2 : r.Col4);
+void WriteB(StrokeRec& r, Pen& pen) {
+  WriteAscender(r.Col2, r, pen);
   r.CX2 = r.X2 + r.Rad;
-  r.Y9 = r.Row3 + r.Rad;
-  pen.LineDown(r.X2, r.Y1, r.Y9);
-  if (r.LetterNo == B) pen.Arc(180, -180, -1, r.CX2, r.Y3, r.Rad);
-  if (r.LetterNo == H) {
-    pen.Arc(170, 0, -1, r.CX2, r.Y3, r.Rad);
-    r.X2 = LastX;
-    pen.LineDown(r.X2, r.Y3, r.Y4);
-  }
+  pen.Arc(180, -180, -1, r.CX2, r.Y3, r.Rad);
 }
 
 void WriteC(StrokeRec& r, Pen& pen) {
@@ -77,70 +99,67 @@ void WriteG(StrokeRec& r, Pen& pen) {
   pen.Arc(5, -160, -1, r.CX1, r.CY1, r.Rad);
 }
 
-/// The dot of i and j lies between Y6 and Y7, a short stroke.
-void LayDot(StrokeRec& r) {
-  r.Y6 = r.Row2 - r.Unit / 1.2;
-  r.Y7 = r.Unit / 5 + r.Y6;
+void WriteH(StrokeRec& r, Pen& pen) {
+  WriteAscender(r.Col4, r, pen);
+  r.CX2 = r.X2 + r.Rad;
+  pen.Arc(170, 0, -1, r.CX2, r.Y3, r.Rad);
+  r.X2 = LastX;
+  pen.LineDown(r.X2, r.Y3, r.Y4);
 }
 
 void WriteI(StrokeRec& r, Pen& pen) {
-  LayDot(r);
   r.X1 = r.CellW / 2 + r.Col1;
-  pen.LineDown(r.X1, r.Y6, r.Y7);
+  WriteDot(r.X1, r, pen);
   pen.LineDown(r.X1, r.Y2, r.Y4);
 }
 
 void WriteJ(StrokeRec& r, Pen& pen) {
-  LayDot(r);
   r.Rad = 37.5;
   r.X3 = r.CellW / 2 + r.Col2;
   r.CX3 = r.X3 - r.Rad;
-  pen.LineDown(r.X3, r.Y6, r.Y7);
+  WriteDot(r.X3, r, pen);
   pen.LineDown(r.X3, r.Y2, r.Y4);
   pen.Arc(360, 180, -1, r.CX3, r.Y4, r.Rad);  // the hook hangs below the base line
 }
 
-void WriteKL(StrokeRec& r, Pen& pen) {
-  enum { K = 11, L = 12 };
-  r.X3 = r.LetterNo == K ? r.Unit / 2 + r.Col3 : r.CellW / 2 + r.X4;
+void WriteK(StrokeRec& r, Pen& pen) {
+  r.X3 = r.Unit / 2 + r.Col3;
+  r.X8 = r.X3 + r.CellW - r.Unit;
   pen.LineDown(r.X3, r.Y1, r.Y4);
-  if (r.LetterNo == K) {
-    r.X8 = r.X3 + r.CellW - r.Unit;
-    pen.SlantLeft(63, r.X8, r.Y2, r.Y3);
-    pen.SlantRight(63, r.X3, r.Y3, r.Y4);
-  }
+  pen.SlantLeft(63, r.X8, r.Y2, r.Y3);
+  pen.SlantRight(63, r.X3, r.Y3, r.Y4);
 }
 
-void WriteMN(StrokeRec& r, Pen& pen) {
-  enum { M = 13, N = 14 };
-  r.Rad = r.LetterNo == M ? 37.5 : 37.5 * 1.8;
-  r.X1 = r.LetterNo == M ? r.Unit / 2 + r.Col1 : r.Unit * 1.3 / 2 + r.Col2;
-  r.CX1 = r.X1 + r.Rad;
-  r.CY1 = r.Row2 + r.Rad;
-  pen.LineDown(r.X1, r.Y2, r.Y4);
-  pen.Arc(170, 0, -1, r.CX1, r.CY1, r.Rad);
-  r.X2 = LastX;
-  r.Y2 = LastY;
-  pen.LineDown(r.X2, r.Y2, r.Y4);
-  if (r.LetterNo == M) {
-    r.CX2 = 2 * r.Rad + r.CX1;
-    r.X3 = r.CX2 + r.Rad;
-    pen.Arc(170, 0, -1, r.CX2, r.CY1, r.Rad);
-    r.Y8 = LastY;
-    pen.LineDown(r.X3, r.Y8, r.Y4);
-  }
+void WriteL(StrokeRec& r, Pen& pen) {
+  r.X3 = r.CellW / 2 + r.X4;
+  pen.LineDown(r.X3, r.Y1, r.Y4);
 }
 
-void WriteOP(StrokeRec& r, Pen& pen) {
-  enum { O = 15, P = 16 };
-  r.CX3 = r.CellW / 2 + (r.LetterNo == O ? r.Col3 : r.Col4);
+void WriteM(StrokeRec& r, Pen& pen) {
+  WriteStemAndArch(r.Unit / 2 + r.Col1, 37.5, r, pen);
+  r.CX2 = 2 * r.Rad + r.CX1;
+  r.X3 = r.CX2 + r.Rad;
+  pen.Arc(170, 0, -1, r.CX2, r.CY1, r.Rad);
+  r.Y8 = LastY;
+  pen.LineDown(r.X3, r.Y8, r.Y4);
+}
+
+void WriteN(StrokeRec& r, Pen& pen) {
+  WriteStemAndArch(r.Unit * 1.3 / 2 + r.Col2, 37.5 * 1.8, r, pen);
+}
+
+void WriteO(StrokeRec& r, Pen& pen) {
+  r.CX3 = r.CellW / 2 + r.Col3;
   r.CY3 = r.Row3;
-  if (r.LetterNo == O) pen.Arc(-270, 90, +1, r.CX3, r.CY3, r.Rad);
-  if (r.LetterNo == P) {
-    r.X4 = r.Unit / 2 + r.Col4;
-    pen.LineDown(r.X4, r.Y2, r.Y5);
-    pen.Arc(180, -180, -1, r.CX3, r.CY3, r.Rad);
-  }
+  pen.Arc(-270, 90, +1, r.CX3, r.CY3, r.Rad);
+}
+
+void WriteP(StrokeRec& r, Pen& pen) {
+  r.X4 = r.Unit / 2 + r.Col4;
+  r.CX3 = r.CellW / 2 + r.Col4;
+  r.CY3 = r.Row3;
+  pen.LineDown(r.X4, r.Y2, r.Y5);
+  pen.Arc(180, -180, -1, r.CX3, r.CY3, r.Rad);
 }
 
 void WriteQ(StrokeRec& r, Pen& pen) {
@@ -234,11 +253,10 @@ void WriteZ(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X2, r.Y4, r.X3);
 }
 
-// Letters that differ by a stroke or a column share a routine.
 constexpr Letter kLetters[] = {
-    WriteA, WriteBH, WriteC,  WriteD,  WriteE,  WriteF,  WriteG,  WriteBH, WriteI,
-    WriteJ, WriteKL, WriteKL, WriteMN, WriteMN, WriteOP, WriteOP, WriteQ,  WriteR,
-    WriteS, WriteT,  WriteU,  WriteV,  WriteW,  WriteX,  WriteY,  WriteZ,
+    WriteA, WriteB, WriteC, WriteD, WriteE, WriteF, WriteG, WriteH, WriteI,
+    WriteJ, WriteK, WriteL, WriteM, WriteN, WriteO, WriteP, WriteQ, WriteR,
+    WriteS, WriteT, WriteU, WriteV, WriteW, WriteX, WriteY, WriteZ,
 };
 static_assert(std::size(kLetters) == 26);
 

@@ -79,7 +79,7 @@ TEST(SmallLetters, HookOfTheJHasItsCentreOnTheBaseLine) {
   EXPECT_EQ(hook.arguments, (std::vector<double>{-1, 360, 180, 662.5, 275, 37.5}));
 }
 
-TEST(SmallLetters, MAloneRunsTheSecondArchOfItsRoutine) {
+TEST(SmallLetters, MIsNWithASmallerRadiusAndASecondArch) {
   const Runs m = Small('m');
   const Runs n = Small('n');
   ASSERT_EQ(m.size(), 5U);
@@ -113,7 +113,7 @@ TEST(SmallLetters, StemsStandWhereTheirArcReallyEnded) {
   EXPECT_LT(Small('a', 0.7)[1].arguments[0], Small('a', 1)[1].arguments[0]);
 }
 
-TEST(SmallLetters, ThatShareARoutineDifferByTheirColumnAndOneOrTwoStrokes) {
+TEST(SmallLetters, ThatShareAPartDifferByTheirColumnAndOneOrTwoStrokes) {
   EXPECT_EQ(FirstOf(Small('h'), 1), Moved(FirstOf(Small('b'), 1), 400));
   EXPECT_EQ(Small('b').size(), 2U);
   EXPECT_EQ(Small('h').size(), 3U);
