@@ -1,8 +1,5 @@
 #include "engine/stroke_rec.h"
 
-#include <stdexcept>
-#include <string>
-
 namespace bramlee {
 namespace {
 
@@ -71,20 +68,9 @@ StrokeRec FillStrokeRec(SheetKind kind, std::int16_t letterNo) {
 }
 
 double ColumnOf(const StrokeRec& rec, int column) {
-  switch (column) {
-    case 1:
-      return rec.Col1;
-    case 2:
-      return rec.Col2;
-    case 3:
-      return rec.Col3;
-    case 4:
-      return rec.Col4;
-    case 5:
-      return rec.Col5;
-    default:
-      throw std::out_of_range("no column " + std::to_string(column) + " on the sheet");
-  }
+  if (!IsColumn(column)) return 0;
+  const double columns[] = {rec.Col1, rec.Col2, rec.Col3, rec.Col4, rec.Col5};
+  return columns[column - 1];
 }
 
 }  // namespace bramlee

@@ -49,7 +49,12 @@ enum class SheetKind : std::uint8_t {
 /// that start from them.
 StrokeRec FillStrokeRec(SheetKind kind, std::int16_t letterNo);
 
-/// The left edge of column 1 to 5. Any other column throws std::out_of_range.
+/// Whether a sheet has that column: 1 to 5.
+constexpr bool IsColumn(int column) {
+  return column >= 1 && column <= 5;
+}
+
+/// The left edge of that column; 0 for one that the sheet does not have.
 double ColumnOf(const StrokeRec& rec, int column);
 
 }  // namespace bramlee

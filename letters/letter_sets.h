@@ -48,8 +48,7 @@ void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet);
 
 /// A digit at its place in a typed number: in the column of LoopNo, 1 to 5, instead of its tile's
-/// own. Throws std::out_of_range for another place, before anything is written. A tile that is no
-/// digit writes nothing.
+/// own. For another place, or a tile that is no digit, it writes nothing.
 void WriteTypedDigit(StrokeRec& rec, DrawingSurface& sheet);
 
 /// The stroke at the foot of the Hindi consonants' third set, written after the letter with the

@@ -256,10 +256,9 @@ void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet) {
 }
 
 void WriteTypedDigit(StrokeRec& rec, DrawingSurface& sheet) {
-  const double column = ColumnOf(rec, rec.LoopNo);
-  if (!IsDigit(rec)) return;
+  if (!IsColumn(rec.LoopNo) || !IsDigit(rec)) return;
   NarrowSeven(rec);  // before its place is measured: a typed 7 stands further left
-  StandIn(column, rec);
+  StandIn(ColumnOf(rec, rec.LoopNo), rec);
   WriteFrom(kTiles, rec, sheet);
 }
 
