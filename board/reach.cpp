@@ -35,18 +35,6 @@ class Bounds : public DrawingSurface {
   float left_ = kFar, right_ = -kFar, top_ = kFar, bottom_ = -kFar;
 };
 
-/// The last-point registers, put back when this goes.
-class KeepLastPoint {
- public:
-  KeepLastPoint() = default;
-  ~KeepLastPoint() { LastX = x_, LastY = y_, LastX2 = x2_, LastY2 = y2_; }
-  KeepLastPoint(const KeepLastPoint&) = delete;
-  KeepLastPoint& operator=(const KeepLastPoint&) = delete;
-
- private:
-  double x_ = LastX, y_ = LastY, x2_ = LastX2, y2_ = LastY2;
-};
-
 }  // namespace
 
 QRectF ReachOf(WriteLetter program, StrokeRec rec) {

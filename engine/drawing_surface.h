@@ -34,6 +34,10 @@ class DrawingSurface {
   /// dots of an arc (degrees). Read once on entry of each primitive; greater than 0.
   virtual double Step() const = 0;
 
+  /// Whether the surface wants the dots. One that does not is told of the runs alone; where they
+  /// end and what they leave in the last-point registers is the same.
+  virtual bool WantsDots() const { return true; }
+
   /// Tells that a primitive begins, with its arguments in its own order (see primitives.h).
   virtual void BeginRun(Primitive /*primitive*/, std::span<const double> /*arguments*/) {}
 

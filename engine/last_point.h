@@ -10,4 +10,16 @@ extern double LastX2, LastY2;  ///< SlantRight, SlantUpRight: last dot within 10
 /// Puts all four to 0, as at the start of the program.
 void ClearLastPoint();
 
+/// Puts the registers back as they were when this began, when this goes.
+class KeepLastPoint {
+ public:
+  KeepLastPoint() = default;
+  ~KeepLastPoint() { LastX = x_, LastY = y_, LastX2 = x2_, LastY2 = y2_; }
+  KeepLastPoint(const KeepLastPoint&) = delete;
+  KeepLastPoint& operator=(const KeepLastPoint&) = delete;
+
+ private:
+  double x_ = LastX, y_ = LastY, x2_ = LastX2, y2_ = LastY2;
+};
+
 }  // namespace bramlee

@@ -8,17 +8,9 @@
 #include <cstdint>
 
 #include "engine/drawing_surface.h"
+#include "engine/run.h"
 
 namespace bramlee {
-
-/// Pi as the letters were laid out with; a more exact one would end arcs elsewhere.
-inline constexpr double kPi = 3.14159;
-
-/// How far a SlantRight or SlantUpRight goes along its slope at most, in sheet pixels.
-inline constexpr double kSlantReach = 300;
-
-/// How far from a slant's start Y its dots still move the last-point registers, in sheet pixels.
-inline constexpr double kRegisterReach = 100;
 
 /// A circle's arc, angle by angle: 0 degrees right of the centre, 90 its top; `sweepDir` +1
 /// anticlockwise, -1 clockwise. LastX, LastY become its last point, or 0, 0 if no dot is plotted.
@@ -42,5 +34,9 @@ std::int16_t SlantLeft(DrawingSurface& sheet, double angle, double x, double y, 
 std::int16_t SlantRight(DrawingSurface& sheet, double angle, double x, double y, double limitY);
 /// Up and to the right, at most kSlantReach along the slope. Sets LastX2, LastY2.
 std::int16_t SlantUpRight(DrawingSurface& sheet, double angle, double x, double y, double limitY);
+
+/// Any of them, by its run: tells the surface that it begins and ends, plots its dots, leaves the
+/// registers.
+std::int16_t WriteRun(DrawingSurface& sheet, const Run& run);
 
 }  // namespace bramlee

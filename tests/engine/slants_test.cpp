@@ -129,6 +129,18 @@ TEST_F(SlantTest, UpRightLeavesTheSecondRegistersAtItsLastDotWithin100OfItsStart
   EXPECT_EQ(LastX, kUntouched);
 }
 
+TEST_F(SlantTest, DotThatLiesExactly100FromTheStartStillMovesTheRegisters) {
+  // at angle 0 and step 1 every dot lies on a whole pixel, the 100th on the bound itself
+  Recorder sheet(1);
+  SlantLeft(sheet, 0, 40, 10, 350);
+  EXPECT_EQ(LastY, 110);
+  SlantRight(sheet, 0, 40, 10, 350);
+  EXPECT_EQ(LastY2, 110);
+  SlantUpRight(sheet, 0, 40, 400, 50);
+  EXPECT_EQ(LastY2, 300);
+  for (const RecordedRun& run : sheet.runs) EXPECT_GT(run.dots, 100);
+}
+
 TEST_F(SlantTest, ShorterThan100LeavesTheRegistersAtTheDotThatCrossedTheLimit) {
   Recorder sheet(1);
   SlantRight(sheet, 45, 100, 200, 240);
