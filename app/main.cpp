@@ -3,21 +3,27 @@
 #include <QIcon>
 
 #include "board/board.h"
+#include "card/card.h"
+#include "files/environment.h"
+#include "home/home.h"
 #include "maths/maths.h"
 #include "media/media.h"
-#include "shell/forms.h"
-#include "shell/shell.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
+#include "ui/message_box.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("bramlee"));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/bramlee.png")));
   QApplication::setQuitOnLastWindowClosed(false);
-  bramlee::RegisterShell();
+  bramlee::TheEnvironment().tell = [](const QString& text) { bramlee::MsgBox(text); };
+  bramlee::RegisterHome();
+  bramlee::RegisterCard();
   bramlee::RegisterMedia();
   bramlee::RegisterBoards();
   bramlee::RegisterMaths();
-  bramlee::ShowForm(QStringLiteral("fbrmsta1"));
+  bramlee::ShowForm(bramlee::kStartForm);
   const int status = QApplication::exec();
   bramlee::DestroyForms();
   return status;

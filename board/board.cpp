@@ -5,12 +5,13 @@
 #include <algorithm>
 
 #include "board/reach.h"
+#include "files/numbers.h"
+#include "files/trap.h"
 #include "letters/letter_names.h"
 #include "media/media.h"
-#include "shell/forms.h"
-#include "shell/numbers.h"
-#include "shell/screen.h"
-#include "shell/trap.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
+#include "ui/screen.h"
 
 namespace bramlee {
 namespace {
@@ -40,7 +41,7 @@ Entry EntryOf(const Entry (&table)[Count], int index) {
 }  // namespace
 
 Board::Board(const BoardRecord& record)
-    : Form(QString::fromLatin1(record.form)),
+    : Form(record.form),
       record_(record),
       letters_(*FindLetterSet(record.letterSet)),
       scroller_(new QScrollArea(this)),
@@ -94,7 +95,7 @@ void Board::Form_Load() {
 }
 
 void Board::RunFormLoad() {
-  if (Form* home = LoadForm(QStringLiteral("fbrmhom1"))) {
+  if (Form* home = LoadForm(kHomeForm)) {
     SetText(QStringLiteral("txtdrv"), home->TextOf(QStringLiteral("txtdrv")));
   }
   record_.layOut(*this);

@@ -10,7 +10,7 @@
 #include "board/board_record.h"
 #include "board/sheet.h"
 #include "letters/letter_sets.h"
-#include "shell/form.h"
+#include "ui/form.h"
 
 class QScrollArea;
 

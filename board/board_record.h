@@ -18,7 +18,7 @@
 #include "board/rules.h"
 #include "engine/stroke_rec.h"
 #include "letters/letter_sets.h"
-#include "shell/controls.h"
+#include "ui/controls.h"
 
 namespace bramlee {
 

@@ -1,11 +1,11 @@
 #include "board/board.h"
 #include "board/charts.h"
-#include "shell/forms.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 
 void RegisterBoard(const BoardRecord& record) {
-  RegisterForm(QString::fromLatin1(record.form), [&record] { return new Board(record); });
+  RegisterForm(record.form, [&record] { return new Board(record); });
 }
 
 void RegisterBoards() {

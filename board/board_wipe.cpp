@@ -1,9 +1,9 @@
 // How a board is wiped: as if its form were made afresh and the user's choices were put back. It
 // is done in place, so that no window flashes or moves and no form goes in its own handler.
 #include "board/board.h"
-#include "shell/numbers.h"
-#include "shell/report.h"
-#include "shell/trap.h"
+#include "files/numbers.h"
+#include "files/trap.h"
+#include "ui/report.h"
 
 namespace bramlee {
 

@@ -1,8 +1,8 @@
 // What a board writes on its sheet: rules, grid and letters.
 #include "board/board.h"
 #include "board/cues.h"
-#include "shell/message_box.h"
-#include "shell/trap.h"
+#include "files/trap.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 namespace {

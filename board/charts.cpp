@@ -2,9 +2,10 @@
 
 #include <QMouseEvent>
 
-#include "shell/forms.h"
-#include "shell/screen.h"
-#include "shell/trap.h"
+#include "files/trap.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
+#include "ui/screen.h"
 
 namespace bramlee {
 namespace {
@@ -40,40 +41,40 @@ void LayOutTelugu(Form& chart, PictureBox& picture) {
 }
 
 constexpr ChartRecord kHindiVowels{
-    .form = "fbrmhinv00",
+    .form = kHindiVowelsChart,
     .title = "Hindi Vowels",
     .picture = ":/pictures/charts/hinv.jpg",
-    .board = "fbrmhinv01",
+    .board = kHindiVowelsForm,
     .layOut = LayOutHindi,
 };
 constexpr ChartRecord kHindiConsonants{
-    .form = "fbrmhinc00",
+    .form = kHindiConsonantsChart,
     .title = "Hindi Consonants",
     .picture = ":/pictures/charts/hinc.jpg",
     .board = "",
     .layOut = LayOutHindi,
 };
 constexpr ChartRecord kTeluguVowels{
-    .form = "fbrmtelv00",
+    .form = kTeluguVowelsChart,
     .title = "TELUGU-VOWELS",
     .picture = ":/pictures/charts/telv.jpg",
-    .board = "fbrmtelv01",
+    .board = kTeluguVowelsForm,
     .layOut = LayOutTelugu,
     .maximised = true,
     .formClicks = true,
 };
 constexpr ChartRecord kTeluguConsonants{
-    .form = "fbrmtelc00",
+    .form = kTeluguConsonantsChart,
     .title = "TELUGU-CONSONANTS",
     .picture = ":/pictures/charts/telc.jpg",
-    .board = "fbrmtelc01",
+    .board = kTeluguConsonantsForm,
     .layOut = LayOutTelugu,
     .maximised = true,
 };
 
 }  // namespace
 
-Chart::Chart(const ChartRecord& record) : Form(QString::fromLatin1(record.form)), record_(record) {
+Chart::Chart(const ChartRecord& record) : Form(record.form), record_(record) {
   setWindowTitle(QString::fromLatin1(record.title));
   picture_ = AddPicture(Indexed("pic", 1));
   picture_->SetPicture(QString::fromLatin1(record.picture));
@@ -94,24 +95,23 @@ void Chart::Form_Click() {
 }
 
 void Chart::pic_Click() {
-  Trap(QStringLiteral("brd:31"),
-       [this](ErrInfo&) { ShowForm(QString::fromLatin1(record_.board)); });
+  Trap(QStringLiteral("brd:31"), [this](ErrInfo&) { ShowForm(record_.board); });
 }
 
 void Chart::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) Form_Click();
 }
 
-fbrmhinv00::fbrmhinv00() : Chart(kHindiVowels) {}
-fbrmhinc00::fbrmhinc00() : Chart(kHindiConsonants) {}
-fbrmtelv00::fbrmtelv00() : Chart(kTeluguVowels) {}
-fbrmtelc00::fbrmtelc00() : Chart(kTeluguConsonants) {}
+HindiVowelsChart::HindiVowelsChart() : Chart(kHindiVowels) {}
+HindiConsonantsChart::HindiConsonantsChart() : Chart(kHindiConsonants) {}
+TeluguVowelsChart::TeluguVowelsChart() : Chart(kTeluguVowels) {}
+TeluguConsonantsChart::TeluguConsonantsChart() : Chart(kTeluguConsonants) {}
 
 void RegisterCharts() {
-  RegisterForm(QStringLiteral("fbrmhinv00"), [] { return new fbrmhinv00; });
-  RegisterForm(QStringLiteral("fbrmhinc00"), [] { return new fbrmhinc00; });
-  RegisterForm(QStringLiteral("fbrmtelv00"), [] { return new fbrmtelv00; });
-  RegisterForm(QStringLiteral("fbrmtelc00"), [] { return new fbrmtelc00; });
+  RegisterForm(kHindiVowelsChart, [] { return new HindiVowelsChart; });
+  RegisterForm(kHindiConsonantsChart, [] { return new HindiConsonantsChart; });
+  RegisterForm(kTeluguVowelsChart, [] { return new TeluguVowelsChart; });
+  RegisterForm(kTeluguConsonantsChart, [] { return new TeluguConsonantsChart; });
 }
 
 }  // namespace bramlee

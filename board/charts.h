@@ -1,7 +1,7 @@
 // The charts: one large picture of a whole letter set, which leads to its board.
 #pragma once
 
-#include "shell/form.h"
+#include "ui/form.h"
 
 namespace bramlee {
 
@@ -37,17 +37,17 @@ class Chart : public Form {
 };
 
 // The four charts, by the names of their forms.
-struct fbrmhinv00 : Chart {
-  fbrmhinv00();
+struct HindiVowelsChart : Chart {
+  HindiVowelsChart();
 };
-struct fbrmhinc00 : Chart {
-  fbrmhinc00();
+struct HindiConsonantsChart : Chart {
+  HindiConsonantsChart();
 };
-struct fbrmtelv00 : Chart {
-  fbrmtelv00();
+struct TeluguVowelsChart : Chart {
+  TeluguVowelsChart();
 };
-struct fbrmtelc00 : Chart {
-  fbrmtelc00();
+struct TeluguConsonantsChart : Chart {
+  TeluguConsonantsChart();
 };
 
 /// Makes the charts known by their forms' names.

@@ -2,13 +2,14 @@
 
 #include <iterator>
 
+#include "files/drives.h"
+#include "files/numbers.h"
+#include "files/trap.h"
 #include "media/play_media_file.h"
-#include "shell/drives.h"
-#include "shell/form.h"
-#include "shell/forms.h"
-#include "shell/message_box.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
+#include "ui/form.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 
@@ -31,13 +32,15 @@ struct CueSet {
 
 // The small letters ask the capitals' board, and the Hindi vowels take their captions there.
 constexpr CueSet kCueSets[] = {
-    {R"(\bramlee\aud\engc\eng-)",      "fbrmengc02", "fbrmengc02", LetterPart::Character},
-    {R"(\bramlee\aud\engs\eng-)",      "fbrmengc02", "fbrmengc02", LetterPart::Character},
-    {R"(\bramlee\aud\hin\hinv\hinv-)", "fbrmhinv01", "fbrmengc02", LetterPart::Number   },
-    {R"(\bramlee\aud\hin\hinc\hinc-)", "fbrmhinc01", "fbrmhinc01", LetterPart::Number   },
-    {R"(\bramlee\aud\tel\telv\telv-)", "fbrmtelv01", "fbrmtelv01", LetterPart::Number   },
-    {R"(\bramlee\aud\tel\telc\telc-)", "fbrmtelc01", "fbrmtelc01", LetterPart::Number   },
-    {R"(\bramlee\aud\mat\mat-)",       "fbrmmat01",  "fbrmmat01",  LetterPart::Number   },
+    {R"(\bramlee\aud\engc\eng-)",      kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
+    {R"(\bramlee\aud\engs\eng-)",      kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
+    {R"(\bramlee\aud\hin\hinv\hinv-)", kHindiVowelsForm,      kCapitalsForm,         LetterPart::Number   },
+    {R"(\bramlee\aud\hin\hinc\hinc-)", kHindiConsonantsForm,  kHindiConsonantsForm,
+     LetterPart::Number                                                                                   },
+    {R"(\bramlee\aud\tel\telv\telv-)", kTeluguVowelsForm,     kTeluguVowelsForm,     LetterPart::Number   },
+    {R"(\bramlee\aud\tel\telc\telc-)", kTeluguConsonantsForm, kTeluguConsonantsForm,
+     LetterPart::Number                                                                                   },
+    {R"(\bramlee\aud\mat\mat-)",       kMathsForm,            kMathsForm,            LetterPart::Number   },
 };
 
 constexpr std::int16_t kMathsSet = 7;
@@ -45,7 +48,7 @@ constexpr std::int16_t kMathsSet = 7;
 constexpr char kNumbersPrefix[] = R"(\bramlee\aud\mat\matc\mat-)";
 
 const Form* Loaded(const char* name) {
-  const Form* form = LoadForm(QString::fromLatin1(name));
+  const Form* form = LoadForm(name);
   if (form == nullptr) throw TrappedError(QStringLiteral("no form of that name"));
   return form;
 }

@@ -1,5 +1,6 @@
 // The board of the English capitals.
 #include "board/board.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -54,7 +55,7 @@ void LayOut(Board& board) {
 }  // namespace
 
 const BoardRecord kCapitalsBoard{
-    .form = "fbrmengc02",
+    .form = kCapitalsForm,
     .title = "English Capital Letters",
     .backColor = kCapitalsGround,
     .letterSet = "engc",

@@ -1,5 +1,6 @@
 // The board of the English small letters.
 #include "board/board.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -21,7 +22,7 @@ void LayOut(Board& board) {
 }  // namespace
 
 const BoardRecord kSmallLettersBoard{
-    .form = "fbrmengs01",
+    .form = kSmallLettersForm,
     .title = "English Small Letters",
     .letterSet = "engs",
     .cueBoardNo = 2,

@@ -2,8 +2,9 @@
 #include <array>
 
 #include "board/board.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
+#include "files/numbers.h"
+#include "files/trap.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -121,7 +122,7 @@ void DrawAll(Board& board) {
 }  // namespace
 
 const BoardRecord kHindiConsonantsBoard{
-    .form = "fbrmhinc01",
+    .form = kHindiConsonantsForm,
     .title = "Hindi Consonants",
     .letterSet = "hinc",
     .cueBoardNo = 4,

@@ -1,6 +1,7 @@
 // The board of the Hindi vowels and the vowel signs.
 #include "board/board.h"
-#include "shell/numbers.h"
+#include "files/numbers.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -72,7 +73,7 @@ void PickSpeed(Board& board, int index) {
 }  // namespace
 
 const BoardRecord kHindiVowelsBoard{
-    .form = "fbrmhinv01",
+    .form = kHindiVowelsForm,
     .title = "Hindi Vowels",
     .letterSet = "hinv",
     .cueBoardNo = 3,

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "board/stamps.h"
-#include "shell/controls.h"
+#include "ui/controls.h"
 
 namespace bramlee {
 

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <utility>
 
-#include "shell/numbers.h"
+#include "files/numbers.h"
 
 namespace bramlee {
 namespace {

@@ -11,8 +11,8 @@
 #include "board/ink.h"
 #include "board/pace.h"
 #include "engine/drawing_surface.h"
-#include "shell/controls.h"
-#include "shell/held_input.h"
+#include "ui/controls.h"
+#include "ui/held_input.h"
 
 class QLineEdit;
 

@@ -1,6 +1,7 @@
 // The board of the Telugu consonants.
 #include "board/board.h"
-#include "shell/numbers.h"
+#include "files/numbers.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -35,7 +36,7 @@ void LayOut(Board& board) {
 }  // namespace
 
 const BoardRecord kTeluguConsonantsBoard{
-    .form = "fbrmtelc01",
+    .form = kTeluguConsonantsForm,
     .title = "TELUGU-CONSONANTS",
     .letterSet = "telc",
     .cueBoardNo = 6,

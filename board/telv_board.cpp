@@ -1,5 +1,6 @@
 // The board of the Telugu vowels.
 #include "board/board.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -48,7 +49,7 @@ void LayOut(Board& board) {
 }  // namespace
 
 const BoardRecord kTeluguVowelsBoard{
-    .form = "fbrmtelv01",
+    .form = kTeluguVowelsForm,
     .title = "TELUGU-VOWELS",
     .letterSet = "telv",
     .cueBoardNo = 5,

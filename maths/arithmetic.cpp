@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "shell/numbers.h"
+#include "files/numbers.h"
 
 namespace bramlee {
 namespace {

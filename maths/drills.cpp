@@ -2,12 +2,12 @@
 
 #include <array>
 
+#include "files/numbers.h"
+#include "files/trap.h"
 #include "maths/arithmetic.h"
 #include "maths/maths_menu.h"
 #include "maths/result_box.h"
-#include "shell/message_box.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 namespace {

@@ -1,13 +1,14 @@
 // The maths board: digits, signs and typed numbers; drills and tables stand on the same form.
 #include "board/board.h"
 #include "board/cues.h"
+#include "files/numbers.h"
+#include "files/trap.h"
 #include "maths/drills.h"
 #include "maths/maths.h"
 #include "maths/maths_menu.h"
 #include "maths/number_box.h"
 #include "maths/tables.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
+#include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
@@ -116,7 +117,7 @@ void DrawAll(Board& board) {
 }
 
 const BoardRecord kMathsBoard{
-    .form = "fbrmmat01",
+    .form = kMathsForm,
     .title = "MATHS NUMBERS",
     .letterSet = "mat",
     .cueBoardNo = 7,

@@ -1,8 +1,8 @@
 #include "maths/number_box.h"
 
 #include "board/cues.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
+#include "files/numbers.h"
+#include "files/trap.h"
 
 namespace bramlee {
 namespace {

@@ -1,10 +1,10 @@
 #include "maths/tables.h"
 
+#include "files/numbers.h"
+#include "files/trap.h"
 #include "maths/arithmetic.h"
 #include "maths/maths_menu.h"
 #include "maths/result_box.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
 
 namespace bramlee {
 namespace {

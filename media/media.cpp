@@ -1,13 +1,14 @@
 #include "media/media.h"
 
-#include "media/f1207vid.h"
+#include "media/player_form.h"
 #include "media/sound_engine.h"
-#include "shell/forms.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 
 void RegisterMedia() {
-  RegisterForm(QStringLiteral("f1207vid"), [] { return new f1207vid; });
+  RegisterForm(kPlayerForm, [] { return new PlayerForm; });
 }
 
 void WarmUpPlayer() {

@@ -3,7 +3,7 @@
 
 namespace bramlee {
 
-/// Makes f1207vid known. Loads no media code.
+/// Makes PlayerForm known. Loads no media code.
 void RegisterMedia();
 
 /// Gets the sound ready on its own thread, so that the first cue is as quick as any later one.

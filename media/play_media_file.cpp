@@ -1,12 +1,13 @@
 #include "media/play_media_file.h"
 
+#include "files/drives.h"
+#include "files/numbers.h"
+#include "files/trap.h"
 #include "media/windows_media_player.h"
-#include "shell/drives.h"
-#include "shell/form.h"
-#include "shell/forms.h"
-#include "shell/message_box.h"
-#include "shell/numbers.h"
-#include "shell/trap.h"
+#include "ui/form.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 
@@ -15,7 +16,7 @@ void PlayMediaFile(const QString& path) {
     err.ErrText = QStringLiteral("File Not Found: ( %1 )").arg(Trim(path));
     if (FileMissing(path)) MsgBox(err.ErrText);
     // Named only now: while the box stood, the countdown may have unloaded the form.
-    const Form* form = LoadForm(QStringLiteral("f1207vid"));
+    const Form* form = LoadForm(kPlayerForm);
     if (form == nullptr) return;  // all forms are being unloaded
     auto* player = form->Named<WindowsMediaPlayer>(QStringLiteral("WindowsMediaPlayer1"));
     player->SetURL(Trim(path));

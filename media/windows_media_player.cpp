@@ -5,9 +5,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "files/drives.h"
 #include "media/clip_player.h"
 #include "media/sound_file.h"
-#include "shell/drives.h"
 
 namespace bramlee {
 

@@ -1,4 +1,4 @@
-// The media player that stands on f1207vid.
+// The media player that stands on PlayerForm.
 #pragma once
 
 #include <QString>

@@ -13,7 +13,7 @@
 
 #include "board/board.h"
 #include "engine/drawing_surface.h"
-#include "shell/forms.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

@@ -4,8 +4,8 @@
 #include <QEvent>
 #include <QPixmap>
 
-#include "shell/forms.h"
-#include "shell/shell.h"
+#include "home/home.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {
@@ -59,7 +59,7 @@ std::string PlaceText(const Form& form, const QString& control) {
 
 void BoardTest::SetUp() {
   records_.reserve(kManyRecords);  // forms refer to their records
-  RegisterShell();
+  RegisterHome();
   RegisterBoards();
   RegisterForm(Q("fbrmhom1"), [] { return new Home; });
 }

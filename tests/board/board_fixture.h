@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "board/board.h"
-#include "tests/shell/temp_drives.h"
+#include "tests/files/temp_drives.h"
 
 namespace bramlee {
 

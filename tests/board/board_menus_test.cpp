@@ -3,8 +3,8 @@
 #include <QMenuBar>
 
 #include "board/board.h"
-#include "shell/forms.h"
 #include "tests/board/board_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

@@ -6,8 +6,8 @@
 #include <stdexcept>
 
 #include "board/board.h"
-#include "shell/forms.h"
 #include "tests/board/board_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

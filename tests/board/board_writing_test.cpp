@@ -4,8 +4,8 @@
 #include <QScrollBar>
 
 #include "board/cues.h"
-#include "shell/forms.h"
 #include "tests/board/writing_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

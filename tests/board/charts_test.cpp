@@ -4,9 +4,9 @@
 #include <QMouseEvent>
 #include <optional>
 
-#include "shell/forms.h"
-#include "shell/screen.h"
 #include "tests/board/board_fixture.h"
+#include "ui/forms.h"
+#include "ui/screen.h"
 
 namespace bramlee {
 namespace {

@@ -5,9 +5,9 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include "home/home_form.h"
 #include "media/media.h"
 #include "media/windows_media_player.h"
-#include "shell/fbrmhom1.h"
 #include "tests/board/board_fixture.h"
 
 namespace bramlee {
@@ -121,7 +121,7 @@ TEST_F(Cues, SmallLettersReadFormatAndDriveFromTheCapitals) {
 
 TEST_F(Cues, CapitalsLoadedUnseenKeepTheDriveOfThatMoment) {
   // The home form with its menus and tiles, not the one of drives alone.
-  RegisterForm(Q("fbrmhom1"), [] { return new fbrmhom1; });
+  RegisterForm(Q("fbrmhom1"), [] { return new HomeForm; });
   ShowForm(Q("fbrmhom1"));
   const Form& home = *LoadedForm(Q("fbrmhom1"));
   const auto writeSmallA = [&home] {

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "shell/forms.h"
 #include "tests/board/writing_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

@@ -3,8 +3,8 @@
 
 #include "board/board.h"
 #include "board/cues.h"
-#include "shell/forms.h"
 #include "tests/board/board_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

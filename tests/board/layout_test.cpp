@@ -1,7 +1,7 @@
 // Where everything stands on the boards, in twips, worked out anew here.
 #include "board/board.h"
-#include "shell/forms.h"
 #include "tests/board/board_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

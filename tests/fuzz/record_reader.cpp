@@ -3,11 +3,11 @@
 #include <QFile>
 #include <algorithm>
 
-#include "shell/card_file.h"
-#include "shell/drives.h"
-#include "shell/err_rep_rec.h"
-#include "shell/report.h"
-#include "shell/trap.h"
+#include "card/card_file.h"
+#include "files/drives.h"
+#include "files/err_rep_rec.h"
+#include "files/trap.h"
+#include "ui/report.h"
 
 namespace bramlee {
 namespace {

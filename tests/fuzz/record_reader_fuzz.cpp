@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "shell/message_box.h"
 #include "tests/fuzz/record_reader.h"
+#include "ui/message_box.h"
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size);

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <limits>
 
-#include "shell/numbers.h"
+#include "files/numbers.h"
 
 namespace bramlee {
 namespace {

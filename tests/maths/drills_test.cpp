@@ -1,8 +1,8 @@
 // What the drills reckon, by their menu items, combos and the equals picture.
 #include <QScrollBar>
 
-#include "shell/forms.h"
 #include "tests/maths/drills_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

@@ -1,8 +1,8 @@
 // The board of digits and signs: tiles, wipes, alternative forms, Draw All, sound.
 #include <QMenuBar>
 
-#include "shell/forms.h"
 #include "tests/maths/maths_fixture.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 
 #include "maths/maths.h"
-#include "shell/forms.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 

@@ -10,7 +10,7 @@
 
 #include "board/board.h"
 #include "maths/result_box.h"
-#include "shell/message_box.h"
+#include "ui/message_box.h"
 
 /// QStrings in failure messages; where gtest looks for it.
 inline void PrintTo(const QString& text, std::ostream* out) {

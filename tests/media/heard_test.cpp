@@ -9,10 +9,10 @@
 #include "media/media.h"
 #include "media/play_media_file.h"
 #include "media/windows_media_player.h"
-#include "shell/form.h"
+#include "tests/files/temp_drives.h"
 #include "tests/media/sound_files.h"
 #include "tests/media/sound_rig.h"
-#include "tests/shell/temp_drives.h"
+#include "ui/form.h"
 
 namespace bramlee {
 namespace {

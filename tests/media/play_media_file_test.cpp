@@ -5,9 +5,9 @@
 
 #include "media/media.h"
 #include "media/windows_media_player.h"
-#include "shell/form.h"
+#include "tests/files/temp_drives.h"
 #include "tests/media/sound_files.h"
-#include "tests/shell/temp_drives.h"
+#include "ui/form.h"
 
 namespace bramlee {
 namespace {

@@ -16,13 +16,14 @@
 #endif
 
 #include "board/board.h"
+#include "card/card.h"
+#include "home/home.h"
 #include "maths/maths.h"
 #include "media/media.h"
-#include "shell/form.h"
-#include "shell/forms.h"
-#include "shell/message_box.h"
-#include "shell/screen.h"
-#include "shell/shell.h"
+#include "ui/form.h"
+#include "ui/forms.h"
+#include "ui/message_box.h"
+#include "ui/screen.h"
 
 namespace bramlee {
 namespace {
@@ -206,7 +207,8 @@ TEST(Afternoon, EndsWithoutAFaultAndInNoMoreMemory) {
   ReplaceMessageBoxes({.show = [&](const QString&, const QString&) { ++boxes; },
                        .ask = [&](const QString&) { return ++boxes % 2 == 0; }});
   ReplaceEndProgram([&] { ++ends; });
-  RegisterShell();
+  RegisterHome();
+  RegisterCard();
   RegisterMedia();
   RegisterBoards();
   RegisterMaths();

@@ -21,8 +21,8 @@
 
 #include "board/board.h"
 #include "engine/primitives.h"
-#include "shell/forms.h"
-#include "shell/message_box.h"
+#include "ui/forms.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 namespace {

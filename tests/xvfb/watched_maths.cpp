@@ -9,7 +9,7 @@
 #include "board/board.h"
 #include "maths/maths.h"
 #include "maths/result_box.h"
-#include "shell/forms.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

@@ -7,8 +7,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "shell/forms.h"
 #include "tests/xvfb/forms/user.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 

@@ -19,7 +19,7 @@
 #include <optional>
 #include <stdexcept>
 
-#include "shell/forms.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 namespace {

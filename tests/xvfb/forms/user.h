@@ -16,8 +16,8 @@
 
 #include "board/board.h"
 #include "board/ink.h"
-#include "shell/held_input.h"
 #include "tests/xvfb/desktop.h"
+#include "ui/held_input.h"
 
 namespace bramlee {
 

@@ -7,11 +7,12 @@
 #include <thread>
 
 #include "board/board.h"
+#include "card/card.h"
+#include "home/home.h"
 #include "maths/maths.h"
 #include "media/media.h"
-#include "shell/forms.h"
-#include "shell/shell.h"
 #include "tests/xvfb/forms/user.h"
+#include "ui/forms.h"
 
 namespace bramlee {
 
@@ -32,7 +33,8 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("bramlee"));
   QApplication::setQuitOnLastWindowClosed(false);
-  RegisterShell();
+  RegisterHome();
+  RegisterCard();
   RegisterMedia();
   RegisterBoards();
   RegisterMaths();

@@ -1,0 +1,106 @@
+#include "card/card_file.h"
+
+#include <algorithm>
+
+#include "files/clock.h"
+#include "files/drives.h"
+#include "files/numbers.h"
+#include "files/trap.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kMostKept = 99;  ///< copies of damaged files
+
+StudentRec DefaultCard() {
+  StudentRec rec;
+  rec.StudentSerial = 1;
+  rec.StudentName.Set(QStringLiteral("Enter Your Name"));
+  rec.ClassName.Set(QStringLiteral("BRM"));
+  rec.IdCardPath.Set(QStringLiteral("C:\\bramlee\\idcard.jpg"));
+  rec.LogoPath.Set(QStringLiteral("C:\\bramlee\\school.jpg"));
+  rec.TeacherName.Set(QStringLiteral("Enter Your Class Teacher Name"));
+  rec.ItemName.Set(QStringLiteral("I Bought BRM Cd "));
+  rec.PocketMoney = 100;
+  rec.ItemAmount = 100;
+  rec.Balance = 0;
+  const QDate today = Today();
+  rec.EnterDay = RoundToInteger(today.day());
+  rec.EnterMonth = RoundToInteger(today.month());
+  rec.EnterYear = RoundToInteger(today.year());
+  rec.RecordCount = 1;
+  rec.PricePerItem = 100.0;
+  rec.TotalItems = 1;
+  return rec;
+}
+
+void KeepAside(const QByteArray& bytes) {
+  for (int i = 1; i <= kMostKept; ++i) {
+    const QString number = i == 1 ? QString() : QString::number(i);
+    FileReplacement copy(SystemPath(QStringLiteral("C:\\bramlee\\dba\\brmstu1.bad") + number));
+    if (copy.Old().IsThere() && copy.Old().Read(0, kStudentRecLen) == bytes) return;
+    if (copy.Old().IsThere()) continue;
+    return copy.Commit({
+        {0, bytes}
+    });
+  }
+  throw TrappedError(QStringLiteral("too many damaged files"));
+}
+
+}  // namespace
+
+std::int32_t CountedItems(const StudentRec& first, const RecordFile& file) {
+  return std::clamp(first.RecordCount, 0, file.Records());
+}
+
+CardContents ReadCard(const RecordFile& file) {
+  CardContents card;
+  card.hasHead = file.Records() > 0;
+  card.head = DecodeStudent(file.Get(1));
+  const std::int32_t count = CountedItems(card.head, file);
+  for (std::int32_t i = 1; i <= count; ++i) card.items.push_back(DecodeStudent(file.Get(i)));
+  return card;
+}
+
+void ProvideCard() {
+  Trap(QStringLiteral("601:23"), [](ErrInfo&) {
+    const FileSlot slot = TakeSlot(kCardSlot);
+    if (!FileMissing(slot.SlotPath)) {
+      const FileBytes file = FileBytes::Open(SystemPath(slot.SlotPath));
+      if (file.Size() >= kStudentRecLen) return;
+      if (file.Size() > 0) KeepAside(file.Read(0, kStudentRecLen));
+    }
+    WriteDefaultCard();
+  });
+}
+
+std::int16_t WriteDefaultCard() {
+  const bool done = Trap({}, [](ErrInfo&) {
+    const FileSlot slot = TakeSlot(kCardSlot);
+    FileSave save(slot.SlotPath);
+    RecordFile(slot, save).Put(1, EncodeStudent(DefaultCard()));
+    save.Commit();
+  });
+  return done ? 0 : 1;
+}
+
+std::int16_t RemoveCardItem(std::int32_t recNo) {
+  const bool done = Trap({}, [recNo](ErrInfo&) {
+    const FileSlot slot = TakeSlot(kCardSlot);
+    FileSave save(slot.SlotPath);
+    RecordFile file(slot, save);
+    if (file.Records() == 0) throw TrappedError(QStringLiteral("the card is gone"));
+    StudentRec first = DecodeStudent(file.Get(1));
+    const std::int32_t count = CountedItems(first, file);
+    first.RecordCount = RoundToLong(std::min(first.RecordCount, file.Records()) - 1.0);
+    file.Put(1, EncodeStudent(first));
+    std::int32_t kept = 1;
+    for (std::int32_t i = 2; i <= count; ++i) {
+      if (i != recNo) file.Put(++kept, file.Get(i));
+    }
+    save.Commit();
+  });
+  return done ? 0 : 1;
+}
+
+}  // namespace bramlee

@@ -1,0 +1,94 @@
+// The biodata card: the child's name, class, teacher and two pictures, and below them the list of
+// bought items. Nine combos show one item; position k in every list is record k + 1.
+#pragma once
+
+#include <cstdint>
+
+#include "files/numbers.h"
+#include "files/student_rec.h"
+#include "ui/form.h"
+
+namespace bramlee {
+
+struct CardContents;
+
+/// What follows a path that names no file.
+inline const QString kCardNotFound = QStringLiteral(" Not Found:");
+
+// The grounds of a field that can be stored and of one that cannot.
+inline constexpr ColourWord kCardWhite = 0xFFFFFF;
+inline constexpr ColourWord kCardRed = 255;
+
+class CardForm : public Form {
+  Q_OBJECT
+ public:
+  CardForm();
+
+  /// Lays the card out, sees to it that there is a file and fills the form from it. Tag "601:23"; a
+  /// layout that fails leaves the controls where they are.
+  void Form_Load() override;
+
+  // --- handlers
+  /// 12 is NEW, 13 SAVE, 14 REMOVE; other labels do nothing. A save or a removal that fails says
+  /// nothing, and what was typed stays. Tag "601:23".
+  void lbl_Click(int index);
+  /// A pick in that combo: all nine show the entry that it is at.
+  void cmb_Click(int index);
+  /// 1 goes back to the form below, 2 ends the program in order.
+  void mnufile_Click(int index);
+  /// Does nothing: NEW and SAVE are buttons.
+  void mnubio_Click(int index);
+  /// Shows the two pictures that the paths name, the ID card's in the logo's place and the logo's
+  /// in the ID card's. The first path that names no file is told, and neither picture changes.
+  void mnuref_Click();
+
+  // --- the card. Each is 0 when done, 1 after an error; then the file is as it was.
+  /// Fills the form from the file; `rec` is then the last record read. Shows item 1.
+  std::int16_t LoadCard(StudentRec& rec);
+  /// Stores the head and the item on show. A new item gets the next record, whose number is then
+  /// in `recNo`.
+  std::int16_t SaveCard(std::int32_t& recNo, bool isNew);
+  /// Puts the head's texts into record 1, and its item's too if that is the one on show. A path
+  /// that names no file is shown red, and the record keeps its old one.
+  std::int16_t SaveCardHeader(std::int32_t recNo, bool isNew, StudentRec& rec);
+
+  /// Shows the head's texts and pictures. A path that names no file is shown with kCardNotFound
+  /// behind it; what is no picture leaves the one that was there.
+  void ShowCardHeader(const StudentRec& rec);
+  /// Puts the nine combos' texts into the record. Throws std::overflow_error for a number that
+  /// its field cannot hold.
+  void ReadItemFields(StudentRec& rec) const;
+  /// Makes room for a new item, dated today.
+  void NewCardItem();
+
+  /// The number of the record on show, or "New".
+  QString CardRecNo() const;
+
+ private:
+  /// What a click on SAVE or REMOVE is about.
+  struct Target {
+    std::int32_t recNo;
+    bool isNew;
+  };
+
+  void MakeMenus();
+  void ShowItems(const CardContents& card);
+  void ShowPath(const QString& path, const QString& textBox, const QString& picture);
+  void ShowPicture(const QString& path, const QString& picture);
+  void ShowItem(std::int32_t recNo);
+  void SetCardRecNo(const QString& text);
+  Target TakeTarget();
+  void Failed(const Target& target);
+  bool ItemIsNumeric();
+  /// Asks before anything is stored that the file cannot hold as it was typed.
+  bool LossesAreAgreedTo() const;
+  void TakePath(const QString& textBox, FixedText<50>& field) const;
+  void SaveClicked();
+  void RemoveClicked();
+
+  Combo* Field(int index) const { return Named<Combo>(Indexed("cmb", index)); }
+  double Number(int index) const { return Val(Field(index)->currentText()); }
+  QString Words(int index) const { return Trim(TextOf(Indexed("txt", index))); }
+};
+
+}  // namespace bramlee

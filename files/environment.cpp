@@ -1,0 +1,10 @@
+#include "files/environment.h"
+
+namespace bramlee {
+
+Environment& TheEnvironment() {
+  static Environment environment;
+  return environment;
+}
+
+}  // namespace bramlee

@@ -1,0 +1,21 @@
+#include "home/home.h"
+
+#include "home/frame_form.h"
+#include "home/home_form.h"
+#include "home/loading_notice.h"
+#include "home/report_notice.h"
+#include "home/start_form.h"
+#include "ui/form_ids.h"
+#include "ui/forms.h"
+
+namespace bramlee {
+
+void RegisterHome() {
+  RegisterForm(kFrameForm, [] { return new FrameForm; });
+  RegisterForm(kStartForm, [] { return new StartForm; });
+  RegisterForm(kHomeForm, [] { return new HomeForm; });
+  RegisterForm(kLoadingNotice, [] { return new LoadingNotice; });
+  RegisterForm(kReportNotice, [] { return new ReportNotice; });
+}
+
+}  // namespace bramlee

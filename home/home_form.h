@@ -1,0 +1,39 @@
+// The home form: the seven subjects, the drive that the media lie on, the way to the card and out.
+#pragma once
+
+#include "ui/form.h"
+#include "ui/screen_rec.h"
+
+namespace bramlee {
+
+class HomeForm : public Form {
+  Q_OBJECT
+ public:
+  HomeForm();
+
+  /// Lays the form out and chooses drive C:. Tag "603:01"; an error is told and reported.
+  void Form_Load() override;
+  /// Places all controls by those sizes. Tag "601:23"; an error is told.
+  void LayOut(const ScreenRec& rec);
+
+  // --- handlers. What cannot be loaded is passed over without a word.
+  /// Shows the subject's board, 1 to 7.
+  void pic_Click(int index);
+  /// Shows the subject's board and, but for the first, hands it the drive. 8 does nothing.
+  void lbl1_Click(int index);
+  /// Chooses the drive of that letter, 1 for "A:"; whether it is there shows at the next cue.
+  void mnudrv_Click(int index);
+  /// Back to the start form; the drive chosen is forgotten.
+  void mnuback_Click();
+  /// Shows the biodata card.
+  void mnubiodata_Click();
+  /// Unloads all forms and ends the program, also when one of them fails to go. Tag "603:02".
+  void mnuexit_Click();
+
+ private:
+  void MakeTitle();
+  void MakeSubjects();
+  void MakeMenus();
+};
+
+}  // namespace bramlee

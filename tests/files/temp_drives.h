@@ -1,0 +1,73 @@
+// A folder of drives of a test's own, with the drive C:, and message boxes that only remember.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "files/drives.h"
+#include "files/environment.h"
+#include "ui/forms.h"
+#include "ui/message_box.h"
+
+namespace bramlee {
+
+inline QByteArray BytesOf(const QString& systemPath) {
+  QFile file(systemPath);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << systemPath.toStdString();
+  return file.readAll();
+}
+
+inline void WriteBytes(const QString& systemPath, const QByteArray& bytes) {
+  QFile file(systemPath);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << systemPath.toStdString();
+  ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+/// Tests with drives. `boxes` are the texts shown, `titles` their titles, `questions` the texts
+/// asked; a question is answered by `answer`.
+class TempDrives : public ::testing::Test {
+ protected:
+  TempDrives() {
+    qputenv("BRAMLEE_DRIVES", QFile::encodeName(drives_.path()));
+    QDir().mkpath(drives_.filePath(QStringLiteral("c")));
+    ChDrive(QStringLiteral("C:"));
+    ChDir(QStringLiteral("C:\\"));
+    TheEnvironment().tell = [](const QString& text) { MsgBox(text); };
+    before_ = ReplaceMessageBoxes({.show =
+                                       [this](const QString& text, const QString& title) {
+                                         boxes.append(text);
+                                         titles.append(title);
+                                       },
+                                   .ask =
+                                       [this](const QString& text) {
+                                         questions.append(text);
+                                         return answer;
+                                       }});
+  }
+  ~TempDrives() override {
+    UnloadAll();
+    ReplaceMessageBoxes(before_);
+    qunsetenv("BRAMLEE_DRIVES");
+  }
+  TempDrives(const TempDrives&) = delete;
+  TempDrives& operator=(const TempDrives&) = delete;
+
+  /// The system's name of something in the folder of drives: On("c/bramlee").
+  QString On(const char* place) const { return drives_.filePath(QString::fromUtf8(place)); }
+  void MakeDataFolder() const { QDir().mkpath(On("c/bramlee/dba")); }
+
+  QStringList boxes;
+  QStringList titles;
+  QStringList questions;
+  bool answer = true;
+
+ private:
+  QTemporaryDir drives_;
+  MessageBoxes before_;
+};
+
+}  // namespace bramlee

@@ -1,0 +1,46 @@
+#include "files/trap.h"
+
+#include <gtest/gtest.h>
+
+namespace bramlee {
+namespace {
+
+TEST(TrapOf, TellsItsTagAndAnEmptyTextOnEntry) {
+  const bool done = Trap(QStringLiteral("601:03"), [](ErrInfo& err) {
+    EXPECT_EQ(err.ErrTag, QStringLiteral("601:03"));
+    EXPECT_EQ(err.ErrText, QString());
+  });
+  EXPECT_TRUE(done);
+}
+
+TEST(TrapOf, HandsWhatTheRoutineSetToItsHandler) {
+  ErrInfo seen;
+  const bool done = Trap(
+      QStringLiteral("603:02"),
+      [](ErrInfo& err) {
+        err.ErrText = QStringLiteral("Error:Unload all");
+        throw TrappedError(QStringLiteral("x"));
+      },
+      [&](ErrInfo& err) { seen = err; });
+  EXPECT_FALSE(done);
+  EXPECT_EQ(seen.ErrTag, QStringLiteral("603:02"));
+  EXPECT_EQ(seen.ErrText, QStringLiteral("Error:Unload all"));
+}
+
+TEST(TrapOf, DoesNotAskItsHandlerWithoutAnError) {
+  bool asked = false;
+  EXPECT_TRUE(Trap(
+      {}, [](ErrInfo&) {}, [&](ErrInfo&) { asked = true; }));
+  EXPECT_FALSE(asked);
+}
+
+TEST(TrapOf, LetsNothingThrough) {
+  EXPECT_FALSE(Trap({}, [](ErrInfo&) { throw std::overflow_error("x"); }));
+  EXPECT_FALSE(Trap({}, [](ErrInfo&) { throw std::bad_alloc(); }));
+  EXPECT_FALSE(Trap(
+      {}, [](ErrInfo&) { throw TrappedError(QStringLiteral("x")); },
+      [](ErrInfo&) { throw TrappedError(QStringLiteral("y")); }));
+}
+
+}  // namespace
+}  // namespace bramlee

@@ -1,0 +1,62 @@
+// The shell's forms under test: a screen of its own, a folder of drives of its own, and an end of
+// the program that is only counted.
+#pragma once
+
+#include <QApplication>
+#include <QEvent>
+#include <QTest>
+
+#include "card/card.h"
+#include "home/home.h"
+#include "tests/files/temp_drives.h"
+#include "ui/form.h"
+#include "ui/screen.h"
+
+namespace bramlee {
+
+/// A click by hand on the middle of a control.
+inline void ClickOn(QWidget* control) {
+  QTest::mouseClick(control, Qt::LeftButton);
+}
+
+/// One tick of a timer, when it would have come.
+inline void Tick(QTimer* timer) {
+  QTimerEvent tick(timer->timerId());
+  QCoreApplication::sendEvent(timer, &tick);
+}
+
+/// The loaded forms' names in the order of their loading.
+inline QStringList LoadedNames() {
+  QStringList names;
+  for (const Form* form : LoadedForms()) names.append(form->objectName());
+  return names;
+}
+
+class ShellForms : public TempDrives {
+ protected:
+  ShellForms() {
+    RegisterHome();
+    RegisterCard();
+    SetScreen(ScreenSize{.width = 15360, .height = 11520});
+    ReplaceEndProgram([this] { ++ends; });
+  }
+  ~ShellForms() override {
+    UnloadAll();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ReplaceEndProgram({});
+    SetScreen({});
+  }
+
+  static Form* Shown(const char* name) {
+    ShowForm(QString::fromLatin1(name));
+    return LoadedForm(QString::fromLatin1(name));
+  }
+  static Form* Loaded(const char* name) { return LoadedForm(QString::fromLatin1(name)); }
+  static QAction* Item(const Form* form, const char* name) {
+    return form->Named<QAction>(QString::fromLatin1(name));
+  }
+
+  int ends = 0;  ///< how often the program was asked to end
+};
+
+}  // namespace bramlee

@@ -1,0 +1,81 @@
+// The controls that forms are made of. Plain text everywhere; what a control keeps as data (a
+// flag, a drive) it keeps as text.
+#pragma once
+
+#include <QColor>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QString>
+#include <cstdint>
+
+#include "ui/picture_box.h"
+
+namespace bramlee {
+
+/// A colour as the forms name it: a word in blue-green-red order, 0x000000FF is red.
+using ColourWord = std::uint32_t;
+QColor ColourOf(ColourWord word);
+ColourWord WordOf(const QColor& colour);  ///< without its transparency
+
+/// The name of an array's element: Indexed("pic", 3) is "pic(3)".
+QString Indexed(const char* array, int index);
+
+/// A form's ground: a plain widget of one colour, on which the controls stand. Its colour is its
+/// own and reaches no child, and text on it stays dark under any desktop theme.
+class Ground : public QWidget {
+ public:
+  explicit Ground(QWidget* parent = nullptr);
+  void SetBackColor(ColourWord colour);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor backColor_{Qt::white};
+};
+
+/// A text box. ForeColor and BackColor are its palette's.
+class TextBox : public QLineEdit {
+ public:
+  explicit TextBox(const QString& text, QWidget* parent = nullptr);
+};
+
+void SetBackColor(QWidget* control, ColourWord colour);  ///< of its ground; fills a label
+void SetForeColor(QWidget* control, ColourWord colour);  ///< of its text
+ColourWord BackColorOf(const QWidget* control);
+ColourWord ForeColorOf(const QWidget* control);
+
+/// Gives the label that font, as large as lets its text stand in a room of that size, in pixels.
+void FitFont(QLabel* label, QFont font, QSize room);
+
+/// A label that can be clicked.
+class Label : public QLabel {
+  Q_OBJECT
+ public:
+  explicit Label(const QString& text, QWidget* parent = nullptr);
+ Q_SIGNALS:
+  void Clicked();  ///< by the left button
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+/// A combo box whose text is free and whose list is what it was given: typing, leaving and the
+/// wheel pick nothing and add nothing.
+class Combo : public QComboBox {
+  Q_OBJECT
+ public:
+  explicit Combo(QWidget* parent = nullptr);
+ Q_SIGNALS:
+  /// An entry was picked from the list or by the arrow keys.
+  void Picked(int index);
+  /// Return was pressed in the text.
+  void Entered();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace bramlee

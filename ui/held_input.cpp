@@ -1,0 +1,276 @@
+#include "ui/held_input.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QThread>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
+#include <deque>
+#include <utility>
+
+QT_BEGIN_NAMESPACE
+// A key that is only sent to a window never triggers a shortcut; this way in does. QtGui exports
+// it for the headers of Qt's own test library.
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
+                                    Qt::KeyboardModifiers modifiers, const QString& text,
+                                    bool autoRepeat, ushort count);
+QT_END_NAMESPACE
+
+namespace bramlee {
+namespace {
+
+constexpr int kLookAgainMs = 50;
+
+/// Something that waits, as values: a clone of a mouse event would share its point with events
+/// to come, and lie elsewhere when it is delivered.
+struct Held {
+  QPointer<QObject> receiver;
+  std::function<void()> deliver;
+  bool urges = false;
+  bool isMove = false;
+};
+
+QWidget* WidgetOf(const QWindow* window) {
+  const QWidgetList widgets = QApplication::topLevelWidgets();
+  const auto found = std::find_if(widgets.begin(), widgets.end(), [window](const QWidget* widget) {
+    return widget->windowHandle() == window;
+  });
+  return found != widgets.end() ? *found : nullptr;
+}
+
+/// A place as the user meant it: that point of that control, wherever it lies when the time has
+/// come, since what is written meanwhile may scroll its sheet.
+struct Place {
+  QPointer<QWidget> control;
+  QPointF point;  ///< in the control
+};
+
+Place PlaceAt(const QWindow* window, const QPointF& point) {
+  QWidget* top = WidgetOf(window);
+  QWidget* control = top != nullptr ? top->childAt(point.toPoint()) : nullptr;
+  if (control == nullptr) return {nullptr, point};
+  return {control, control->mapFrom(top, point)};
+}
+
+Held HeldMouse(QWindow* window, const QMouseEvent& event) {
+  const Place place = PlaceAt(window, event.position());
+  const auto deliver = [window, place, type = event.type(), button = event.button(),
+                        buttons = event.buttons(), modifiers = event.modifiers(),
+                        point = event.position()] {
+    const auto send = [&](QObject* receiver, const QPointF& inReceiver, const QPointF& inWindow) {
+      QMouseEvent late(type, inReceiver, inWindow, window->mapToGlobal(inWindow), button, buttons,
+                       modifiers);
+      QCoreApplication::sendEvent(receiver, &late);
+    };
+    if (place.control == nullptr || !place.control->isVisible()) return send(window, point, point);
+    QWidget* top = place.control->window();
+    const QPointF inWindow = place.control->mapTo(top, place.point);
+    const bool inView = top->childAt(inWindow.toPoint()) == place.control;
+    if (inView || QApplication::activePopupWidget() != nullptr) {
+      send(window, inWindow, inWindow);
+    } else {
+      send(place.control, place.point, inWindow);
+    }
+  };
+  return {.receiver = window, .deliver = deliver, .isMove = event.type() == QEvent::MouseMove};
+}
+
+Held HeldWheel(QWindow* window, const QWheelEvent& event) {
+  const auto deliver = [window, point = event.position(), pixels = event.pixelDelta(),
+                        angle = event.angleDelta(), buttons = event.buttons(),
+                        modifiers = event.modifiers(), phase = event.phase(),
+                        inverted = event.inverted()] {
+    QWheelEvent late(point, window->mapToGlobal(point), pixels, angle, buttons, modifiers, phase,
+                     inverted);
+    QCoreApplication::sendEvent(window, &late);
+  };
+  return {.receiver = window, .deliver = deliver};
+}
+
+Held HeldKey(QWindow* window, const QKeyEvent& event) {
+  const auto deliver = [window, type = event.type(), key = event.key(),
+                        modifiers = event.modifiers(), text = event.text(),
+                        repeat = event.isAutoRepeat(), count = event.count()] {
+    qt_handleKeyEvent(window, type, key, modifiers, text, repeat, static_cast<ushort>(count));
+  };
+  return {.receiver = window, .deliver = deliver, .urges = event.key() == Qt::Key_Escape};
+}
+
+/// Text from an input method goes to the control that has the focus, not to its window.
+Held HeldText(QObject* control, const QInputMethodEvent& event) {
+  const auto deliver = [control, preedit = event.preeditString(), attributes = event.attributes(),
+                        commit = event.commitString(), from = event.replacementStart(),
+                        length = event.replacementLength()] {
+    QInputMethodEvent late(preedit, attributes);
+    late.setCommitString(commit, from, length);
+    QCoreApplication::sendEvent(control, &late);
+  };
+  return {.receiver = control, .deliver = deliver};
+}
+
+/// All that waits, and the watch over what comes.
+class HeldInput : public QObject {
+ public:
+  static HeldInput& Instance() {
+    static QPointer<HeldInput> input;
+    if (input == nullptr) input = new HeldInput(QCoreApplication::instance());
+    return *input;
+  }
+
+  void Begin() {
+    if (depth_++ > 0 || Waiting()) return;
+    level_ = std::max(QThread::currentThread()->loopLevel(), 1);
+  }
+
+  void End() {
+    if (--depth_ == 0 && Waiting()) next_.start(0);
+  }
+
+  void Pump() {
+    if (depth_ == 0) return;
+    const bool outer = std::exchange(pumping_, true);
+    QCoreApplication::processEvents(QEventLoop::X11ExcludeTimers |
+                                    QEventLoop::ExcludeSocketNotifiers);
+    pumping_ = outer;
+  }
+
+  bool EndIsAwaited() const {
+    return !closes_.isEmpty() || std::any_of(waiting_.begin(), waiting_.end(),
+                                             [](const Held& held) { return held.urges; });
+  }
+
+  void Call(QObject* context, std::function<void()> call) {
+    if (depth_ == 0 && !Waiting()) return call();
+    waiting_.push_back({.receiver = context, .deliver = std::move(call)});
+    if (depth_ == 0) next_.start(0);
+  }
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (!Holds()) return false;
+    if (event->type() == QEvent::InputMethod) {
+      waiting_.push_back(HeldText(receiver, *static_cast<QInputMethodEvent*>(event)));
+      return true;
+    }
+    if (!receiver->isWindowType()) return false;
+    return Keep(static_cast<QWindow*>(receiver), event);
+  }
+
+ private:
+  explicit HeldInput(QCoreApplication* application) : QObject(application) {
+    next_.setSingleShot(true);
+    connect(&next_, &QTimer::timeout, this, [this] { DeliverNext(); });
+    application->installEventFilter(this);
+  }
+
+  bool Waiting() const { return !waiting_.empty() || !closes_.isEmpty(); }
+
+  /// A message box within the handler runs an event loop of its own, deeper than the handler's:
+  /// it takes its input as ever, and what waits goes on waiting.
+  bool HandlerHasReturned() const {
+    return depth_ == 0 && QThread::currentThread()->loopLevel() <= level_;
+  }
+
+  /// Whether what comes now has to wait: also behind what waits already.
+  bool Holds() const { return pumping_ || (Waiting() && !delivering_ && HandlerHasReturned()); }
+
+  /// Takes an event that is input; lets any other pass.
+  bool Keep(QWindow* window, QEvent* event) {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+        waiting_.push_back(HeldMouse(window, *static_cast<QMouseEvent*>(event)));
+        return true;
+      case QEvent::MouseMove:
+        // Of moves in a row the last is enough, to light what the pointer then stands on.
+        if (!waiting_.empty() && waiting_.back().isMove) waiting_.pop_back();
+        waiting_.push_back(HeldMouse(window, *static_cast<QMouseEvent*>(event)));
+        return true;
+      case QEvent::MouseButtonDblClick:  // the press that it comes with is kept
+        return true;
+      case QEvent::Wheel:
+        waiting_.push_back(HeldWheel(window, *static_cast<QWheelEvent*>(event)));
+        return true;
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+        waiting_.push_back(HeldKey(window, *static_cast<QKeyEvent*>(event)));
+        return true;
+      case QEvent::ShortcutOverride:
+        event->accept();  // or the shortcut would act at once; accepted, the key itself comes
+        return true;
+      case QEvent::Close:
+        if (window->type() != Qt::Window && window->type() != Qt::Dialog) return false;
+        event->ignore();
+        if (!closes_.contains(window)) closes_.append(window);
+        return true;
+      case QEvent::TouchBegin:
+      case QEvent::TouchUpdate:
+      case QEvent::TouchEnd:
+      case QEvent::TouchCancel:
+      case QEvent::TabletPress:
+      case QEvent::TabletMove:
+      case QEvent::TabletRelease:
+        // Refused, these come again as mouse events; what follows is refused for good.
+      case QEvent::NativeGesture:
+      case QEvent::DragEnter:
+      case QEvent::DragMove:
+      case QEvent::Drop:
+        event->ignore();
+        return true;
+      default:
+        return false;
+    }
+  }
+
+  void DeliverNext() {
+    if (depth_ > 0 || delivering_ || !Waiting()) return;
+    if (!HandlerHasReturned()) return next_.start(kLookAgainMs);
+    delivering_ = true;
+    if (!waiting_.empty()) {
+      const Held held = std::move(waiting_.front());
+      waiting_.pop_front();
+      if (held.receiver != nullptr) held.deliver();
+    } else if (const QPointer<QWindow> window = closes_.takeFirst(); window != nullptr) {
+      window->close();
+    }
+    delivering_ = false;
+    if (Waiting()) next_.start(0);
+  }
+
+  int depth_ = 0;
+  int level_ = 1;  ///< of the event loop that called the handler
+  bool pumping_ = false;
+  bool delivering_ = false;
+  std::deque<Held> waiting_;
+  QList<QPointer<QWindow>> closes_;
+  QTimer next_;
+};
+
+}  // namespace
+
+HoldInput::HoldInput() {
+  HeldInput::Instance().Begin();
+}
+
+HoldInput::~HoldInput() {
+  HeldInput::Instance().End();
+}
+
+void LetWindowsLive() {
+  HeldInput::Instance().Pump();
+}
+
+bool EndIsAwaited() {
+  return HeldInput::Instance().EndIsAwaited();
+}
+
+void WhenFree(QObject* context, std::function<void()> call) {
+  HeldInput::Instance().Call(context, std::move(call));
+}
+
+}  // namespace bramlee
