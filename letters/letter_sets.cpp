@@ -7,23 +7,21 @@ namespace {
 
 constexpr int kHindiVowelForms[] = {1, 2, 7, 8, 9, 28};
 constexpr int kHindiConsonantForms[] = {3, 7, 18, 35, 53, 64};
-constexpr int kNumberForms[] = {1, 3, 4, 9};
-
-// clang-format off
-constexpr LetterSet kLetterSets[] = {
-    {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,  .secondForms = {},                   .write = WriteCapital},
-    {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,  .secondForms = {},                   .write = WriteSmallLetter},
-    {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .secondForms = kHindiVowelForms,     .write = WriteHindiVowel},
-    {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .secondForms = kHindiConsonantForms, .write = WriteHindiConsonant, .footTilesFrom = 75},
-    {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .secondForms = {},                   .write = WriteTeluguVowel},
-    {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .secondForms = {},                   .write = WriteTeluguConsonant},
-    {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .secondForms = kNumberForms,         .write = WriteNumberTile, .digits = 10},
-};
-// clang-format on
 
 }  // namespace
 
 std::span<const LetterSet> LetterSets() {
+  // clang-format off
+  static const LetterSet kLetterSets[] = {
+      {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,  .secondForms = {},                   .write = WriteCapital},
+      {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,  .secondForms = {},                   .write = WriteSmallLetter},
+      {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .secondForms = kHindiVowelForms,     .write = WriteHindiVowel},
+      {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .secondForms = kHindiConsonantForms, .write = WriteHindiConsonant, .footTilesFrom = 75},
+      {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .secondForms = {},                   .write = WriteTeluguVowel},
+      {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .secondForms = {},                   .write = WriteTeluguConsonant},
+      {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .secondForms = NumbersOfTwoForms(),  .write = WriteNumberTile, .digits = kDigitTiles},
+  };
+  // clang-format on
   return kLetterSets;
 }
 
@@ -32,8 +30,8 @@ bool HasSecondForm(const LetterSet& set, int tile) {
 }
 
 const LetterSet* FindLetterSet(std::string_view name) {
-  const auto* found = std::ranges::find(kLetterSets, name, &LetterSet::name);
-  return found == std::end(kLetterSets) ? nullptr : found;
+  const auto found = std::ranges::find(LetterSets(), name, &LetterSet::name);
+  return found == LetterSets().end() ? nullptr : &*found;
 }
 
 void WriteWholeTile(const LetterSet& set, int tile, const TileForm& form, DrawingSurface& sheet) {

@@ -29,6 +29,9 @@ struct LetterSet {
 /// with the foot stroke.
 inline constexpr int kHindiSetTiles = 37;
 
+/// The first tiles of the number set are digits: 1 to 9, then 0.
+inline constexpr int kDigitTiles = 10;
+
 /// All sets that there are.
 std::span<const LetterSet> LetterSets();
 
@@ -54,6 +57,10 @@ void WriteTypedDigit(StrokeRec& rec, DrawingSurface& sheet);
 /// The stroke at the foot of the Hindi consonants' third set, written after the letter with the
 /// same record. A board writes it as long as it has that set in use, whatever the tile.
 void WriteHindiFootStroke(StrokeRec& rec, DrawingSurface& sheet);
+
+// The tiles that have an alternative form, of the sets that have any: those whose table names a
+// second routine.
+std::span<const int> NumbersOfTwoForms();
 
 /// Which form of a tile is wanted.
 struct TileForm {

@@ -1,13 +1,15 @@
-// Digits and signs. A digit stands between Y1 (325) and 150 below, its left edge or middle at
+// Digits and signs: tiles 1 to 9 are the digits of that name, tile 10 is 0, tiles 11 to 17 are the
+// signs + - x / % = ?. A digit stands between Y1 (325) and 150 below, its left edge or middle at
 // X1; a sign has its middle on Row3 (400). Their measures are parts of the cell's width and
 // height and of R1, so that a digit stands alike in any column.
+#include "letters/forms.h"
 #include "letters/letter_sets.h"
 #include "letters/pen.h"
 
 namespace bramlee {
 namespace {
 
-// Each digit: its anchors, then its strokes in writing order, a line each.
+// Parts that several digits or forms share: whoever changes one changes all that name it.
 
 /// The frame that the 1, 2, 3 and 5 stand in.
 void LayFrame(StrokeRec& r) {
@@ -17,18 +19,46 @@ void LayFrame(StrokeRec& r) {
   r.CX1 = r.CellW * 0.342 + r.X1;
 }
 
-void WriteOne(StrokeRec& r, Pen& pen) {
+/// The 1 stands at WX1 from WY1 to WY2; its flag and its foot begin at WX3.
+void LayOne(StrokeRec& r) {
   LayFrame(r);
   r.WX3 = r.WX1 - r.CellW * 0.3;
   r.WY3 = r.CellH * 0.3 + r.Y1;
   r.WY2 = 2 * r.CellH + r.Y1;
-  if (r.AltFlag == 0) pen.SlantUpRight(45, r.WX3, r.WY3, r.WY1);
   r.WX1 = r.WX1 - r.CellW * 0.2;
+}
+
+/// The 4 has its bar from WX1 to WX2 at WY2 and its stem at WX3 from WY1 to WY3.
+void LayFour(StrokeRec& r) {
+  r.WX1 = r.X1;
+  r.WY1 = r.Y1;
+  r.WX2 = r.CellW * 0.5 + r.WX1;
+  r.WY2 = r.CellH + r.Y1;
+  r.WX3 = (r.WX2 - r.WX1) * 1.7 / 3 + r.WX1;
+  r.WY3 = 2 * r.CellH + r.WY1;
+}
+
+/// The ring of the 9, of radius R4 about (X1, CY1); gives the place where its stem begins.
+EndPoint WriteRingOfNine(StrokeRec& r, Pen& pen) {
+  r.WY1 = r.CellH * 0.32 + r.Y1;
+  r.CY1 = r.CellH * 0.2 + r.WY1;
+  r.R4 = r.R1 * 0.52;
+  return pen.Arc(0, 360, +1, r.X1, r.CY1, r.R4);
+}
+
+// Each digit: its anchors, then its strokes in writing order, a line each.
+
+void WriteOne(StrokeRec& r, Pen& pen) {
+  LayOne(r);
+  pen.SlantUpRight(45, r.WX3, r.WY3, r.WY1);
   pen.LineDown(r.WX1, r.WY1, r.WY2);
-  if (r.AltFlag == 0) {
-    r.WX2 = (r.WX1 - r.WX3) + r.WX1;
-    pen.LineRight(r.WX3, r.WY2, r.WX2);
-  }
+  r.WX2 = (r.WX1 - r.WX3) + r.WX1;
+  pen.LineRight(r.WX3, r.WY2, r.WX2);
+}
+
+void WriteBareOne(StrokeRec& r, Pen& pen) {
+  LayOne(r);
+  pen.LineDown(r.WX1, r.WY1, r.WY2);
 }
 
 void WriteTwo(StrokeRec& r, Pen& pen) {
@@ -41,29 +71,32 @@ void WriteTwo(StrokeRec& r, Pen& pen) {
 
 void WriteThree(StrokeRec& r, Pen& pen) {
   LayFrame(r);
+  r.R4 = r.R1 * 0.5;
+  r.CY1 = r.CellH * 1.5 + r.WY1;
+  pen.Arc(135, -90, -1, r.CX1, r.CellH * 0.5 + r.WY1, r.R4);
+  pen.Arc(90, -135, -1, r.CX1, r.CY1, r.R4);
+}
+
+void WriteFlatThree(StrokeRec& r, Pen& pen) {
+  LayFrame(r);
   r.WY2 = r.CellH * 0.59 + r.Y1;
-  if (r.AltFlag == 1) {
-    r.R4 = r.R1 * 0.72;
-    r.CY1 = r.CellH * 1.3 + r.WY1;
-    pen.LineRight(r.WX1, r.WY1, r.WX2);
-    pen.SlantLeft(43, r.WX2, r.WY1, r.WY2);
-  } else {
-    r.R4 = r.R1 * 0.5;
-    r.CY1 = r.CellH * 1.5 + r.WY1;
-    pen.Arc(135, -90, -1, r.CX1, r.CellH * 0.5 + r.WY1, r.R4);
-  }
+  r.R4 = r.R1 * 0.72;
+  r.CY1 = r.CellH * 1.3 + r.WY1;
+  pen.LineRight(r.WX1, r.WY1, r.WX2);
+  pen.SlantLeft(43, r.WX2, r.WY1, r.WY2);
   pen.Arc(90, -135, -1, r.CX1, r.CY1, r.R4);
 }
 
 void WriteFour(StrokeRec& r, Pen& pen) {
-  r.WX1 = r.X1;
-  r.WY1 = r.Y1;
-  r.WX2 = r.CellW * 0.5 + r.WX1;
-  r.WY2 = r.CellH + r.Y1;
-  r.WX3 = (r.WX2 - r.WX1) * 1.7 / 3 + r.WX1;
-  r.WY3 = 2 * r.CellH + r.WY1;
-  if (r.AltFlag == 0) pen.SlantLeft(43, r.WX3, r.WY1, r.WY2);
-  if (r.AltFlag != 0) pen.LineDown(r.WX1, r.WY1, r.WY2);
+  LayFour(r);
+  pen.SlantLeft(43, r.WX3, r.WY1, r.WY2);
+  pen.LineRight(r.WX1, r.WY2, r.WX2);
+  pen.LineDown(r.WX3, r.WY1, r.WY3);
+}
+
+void WriteOpenFour(StrokeRec& r, Pen& pen) {
+  LayFour(r);
+  pen.LineDown(r.WX1, r.WY1, r.WY2);
   pen.LineRight(r.WX1, r.WY2, r.WX2);
   pen.LineDown(r.WX3, r.WY1, r.WY3);
 }
@@ -105,13 +138,16 @@ void WriteEight(StrokeRec& r, Pen& pen) {
 }
 
 void WriteNine(StrokeRec& r, Pen& pen) {
-  r.WY1 = r.CellH * 0.32 + r.Y1;
-  r.CY1 = r.CellH * 0.2 + r.WY1;
-  r.R4 = r.R1 * 0.52;
-  const EndPoint ring = pen.Arc(0, 360, +1, r.X1, r.CY1, r.R4);
-  r.Y2 = (r.AltFlag == 1 ? r.R4 * 1.8 : r.CellH * 1.5) + ring.y;
+  const EndPoint ring = WriteRingOfNine(r, pen);
+  r.Y2 = r.CellH * 1.5 + ring.y;
   pen.LineDown(ring.x, ring.y, r.Y2);
-  if (r.AltFlag == 1) pen.Arc(0, -135, -1, r.X1, r.CY1 + r.R4 * 1.8, r.R4);
+}
+
+void WriteHookedNine(StrokeRec& r, Pen& pen) {
+  const EndPoint ring = WriteRingOfNine(r, pen);
+  r.Y2 = r.R4 * 1.8 + ring.y;
+  pen.LineDown(ring.x, ring.y, r.Y2);
+  pen.Arc(0, -135, -1, r.X1, r.CY1 + r.R4 * 1.8, r.R4);
 }
 
 // An egg of five arcs: crown, left side, foot, right side, and the crown closed.
@@ -128,18 +164,14 @@ void WriteZero(StrokeRec& r, Pen& pen) {
 
 // Signs stand in columns of their own, which no typed number changes.
 
-enum { Percent = 15, Question = 17 };
-
-/// Two small rings, half a cell above and below (X1, Y1). Those of the per cent sign lie aslant.
-void TwoDots(StrokeRec& r, Pen& pen) {
-  const double aslant = r.LetterNo == Percent ? r.CellW * 0.3 : 0;
+/// Two small rings, half a cell above and below (X1, Y1), the lower one `aslant` further right.
+void WriteTwoDots(double aslant, StrokeRec& r, Pen& pen) {
   pen.Arc(90, 450, +1, r.X1, r.Y1 - r.CellH * 0.5, r.R1 * 0.08);
   pen.Arc(90, 450, +1, r.X1 + aslant, r.Y1 + r.CellH * 0.5, r.R1 * 0.08);
 }
 
-/// The bow of the question mark over (X1, Y1); a whole ring for its dot, which LoopNo 17 asks for.
-void QuestionArc(StrokeRec& r, Pen& pen) {
-  const double end = r.LoopNo == Question ? -180 : -90;
+/// The round of the question mark over (X1, Y1), to the angle `end`: its bow and its dot.
+void WriteRound(double end, StrokeRec& r, Pen& pen) {
   pen.Arc(180, end, -1, r.X1, r.Y1 - r.CellH * 0.5, r.R1 * 0.15);
 }
 
@@ -170,7 +202,7 @@ void WriteDividedBy(StrokeRec& r, Pen& pen) {
   r.X1 = r.CellW * 0.5 + r.Col3;
   r.Y1 = r.Row3;
   pen.LineRight(r.CellW * 0.3 + r.Col3, r.Row3, r.Col4 - r.CellW * 0.3);
-  TwoDots(r, pen);
+  WriteTwoDots(0, r, pen);
   pen.SlantLeft(35, r.CellW * 0.62 + r.Col4, r.CellH * 0.32 + r.Row2, r.Row4 - r.CellH * 0.32);
 }
 
@@ -179,7 +211,7 @@ void WritePercent(StrokeRec& r, Pen& pen) {
   r.Y1 = r.Row3;
   r.R1 = r.R1 * 3;
   pen.SlantLeft(45, r.CellW * 0.67 + r.Col1, r.CellH * 0.3 + r.Row2, r.Row4 - r.CellH * 0.3);
-  TwoDots(r, pen);
+  WriteTwoDots(r.CellW * 0.3, r, pen);
 }
 
 void WriteEquals(StrokeRec& r, Pen& pen) {
@@ -190,76 +222,91 @@ void WriteEquals(StrokeRec& r, Pen& pen) {
 void WriteQuestion(StrokeRec& r, Pen& pen) {
   r.X1 = r.CellW * 0.5 + r.Col3;
   r.Y1 = r.Row3;
-  r.LoopNo = 1;
   r.R1 = r.R1 * 3.2;
-  QuestionArc(r, pen);
+  WriteRound(-90, r, pen);
   pen.LineDown(r.X1, r.Row3, r.CellH * 0.6 + r.Row3);
   r.Y1 = r.Row4 + 30;
-  r.LoopNo = Question;
   r.R1 = r.R1 * 0.1;
-  QuestionArc(r, pen);
+  WriteRound(-180, r, pen);
 }
 
-constexpr Letter kTiles[] = {
-    WriteOne,   WriteTwo,       WriteThree,   WriteFour,   WriteFive,     WriteSix,
-    WriteSeven, WriteEight,     WriteNine,    WriteZero,   WritePlus,     WriteMinus,
-    WriteTimes, WriteDividedBy, WritePercent, WriteEquals, WriteQuestion,
-};
-static_assert(std::size(kTiles) == 17);
-
-/// Where a digit stands: its radius as a part of R1, its distance from the column's left edge as
-/// a part of the cell's width, and the column of its tile.
-struct DigitPlace {
-  double radius;
-  double offset;
-  int column;
-};
-constexpr DigitPlace kPlaces[] = {
-    {0.65, 0.55, 1}, // 1
-    {0.65, 0.1,  2}, // 2
-    {0.65, 0.1,  3}, // 3
-    {0.65, 0.3,  4}, // 4
-    {0.65, 0.15, 1}, // 5
-    {0.6,  0.65, 2}, // 6
-    {1,    0.3,  3}, // 7
-    {0.7,  0.5,  4}, // 8
-    {0.45, 0.47, 1}, // 9
-    {1.2,  0.5,  2}, // 0
+/// A digit: its routines, and where it stands.
+struct Digit {
+  Forms write;
+  double radius;  ///< Rad as a part of R1
+  double offset;  ///< X1's distance from the column's left edge as a part of the cell's width
+  int column;     ///< of its tile
+  double width;   ///< of its own cell, as a part of the cell's
 };
 
-bool IsDigit(const StrokeRec& r) {
-  return r.LetterNo >= 1 && r.LetterNo <= static_cast<int>(std::size(kPlaces));
+// clang-format off
+constexpr Digit kDigits[] = {
+    // usual, alternative         radius offset column width
+    {{WriteOne, WriteBareOne},    0.65,  0.55,  1,     1},            //  1
+    {{WriteTwo},                  0.65,  0.1,   2,     1},            //  2
+    {{WriteThree, WriteFlatThree},0.65,  0.1,   3,     1},            //  3
+    {{WriteFour, WriteOpenFour},  0.65,  0.3,   4,     1},            //  4
+    {{WriteFive},                 0.65,  0.15,  1,     1},            //  5
+    {{WriteSix},                  0.6,   0.65,  2,     1},            //  6
+    {{WriteSeven},                1,     0.3,   3,     kSevenWidth},  //  7
+    {{WriteEight},                0.7,   0.5,   4,     1},            //  8
+    {{WriteNine, WriteHookedNine},0.45,  0.47,  1,     1},            //  9
+    {{WriteZero},                 1.2,   0.5,   2,     1},            // 10, the 0
+};
+// clang-format on
+static_assert(std::size(kDigits) == kDigitTiles);
+
+// From tile 11 on.
+constexpr Letter kSigns[] = {
+    WritePlus, WriteMinus, WriteTimes, WriteDividedBy, WritePercent, WriteEquals, WriteQuestion,
+};
+static_assert(kDigitTiles + std::size(kSigns) == 17);
+
+/// The digit of the record's tile, or nullptr.
+const Digit* DigitOf(const StrokeRec& r) {
+  return r.LetterNo >= 1 && r.LetterNo <= kDigitTiles ? &kDigits[r.LetterNo - 1] : nullptr;
 }
 
-const DigitPlace& PlaceOf(const StrokeRec& r) {
-  return kPlaces[r.LetterNo - 1];
-}
-
-void StandIn(double column, StrokeRec& r) {
-  r.Rad = r.R1 * PlaceOf(r).radius;
-  r.X1 = r.CellW * PlaceOf(r).offset + column;
+void StandIn(double column, const Digit& digit, StrokeRec& r) {
+  r.Rad = r.R1 * digit.radius;
+  r.X1 = r.CellW * digit.offset + column;
   r.Y1 = r.Row2;
 }
 
-void NarrowSeven(StrokeRec& r) {
-  if (r.LetterNo == 7) r.CellW = r.CellW * kSevenWidth;
+/// Leaves the digit the width of its own cell.
+void Narrow(const Digit& digit, StrokeRec& r) {
+  r.CellW = r.CellW * digit.width;
+}
+
+constexpr bool HasTwoForms(int tile) {
+  return kDigits[tile - 1].write.alternative != nullptr;
 }
 
 }  // namespace
 
+std::span<const int> NumbersOfTwoForms() {
+  static constexpr auto kTiles = TilesOfTwoForms<kDigitTiles, HasTwoForms>();
+  return kTiles;
+}
+
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet) {
-  if (IsDigit(rec)) {
-    StandIn(ColumnOf(rec, PlaceOf(rec).column), rec);
-    NarrowSeven(rec);
+  Pen pen{rec, sheet};
+  if (const Digit* digit = DigitOf(rec)) {
+    StandIn(ColumnOf(rec, digit->column), *digit, rec);
+    Narrow(*digit, rec);
+    return Wanted(digit->write, rec)(rec, pen);
   }
-  WriteFrom(kTiles, rec, sheet);
+  const int sign = rec.LetterNo - kDigitTiles;
+  if (sign >= 1 && sign <= std::ssize(kSigns)) kSigns[sign - 1](rec, pen);
 }
 
 void WriteTypedDigit(StrokeRec& rec, DrawingSurface& sheet) {
-  if (!IsColumn(rec.LoopNo) || !IsDigit(rec)) return;
-  NarrowSeven(rec);  // before its place is measured: a typed 7 stands further left
-  StandIn(ColumnOf(rec, rec.LoopNo), rec);
-  WriteFrom(kTiles, rec, sheet);
+  const Digit* digit = DigitOf(rec);
+  if (digit == nullptr || !IsColumn(rec.LoopNo)) return;
+  Narrow(*digit, rec);  // before its place is measured: a typed 7 stands further left
+  StandIn(ColumnOf(rec, rec.LoopNo), *digit, rec);
+  Pen pen{rec, sheet};
+  Wanted(digit->write, rec)(rec, pen);
 }
 
 }  // namespace bramlee

@@ -3,6 +3,7 @@
 #include "board/cues.h"
 #include "files/numbers.h"
 #include "files/trap.h"
+#include "letters/letter_sets.h"
 #include "maths/drills.h"
 #include "maths/maths.h"
 #include "maths/maths_menu.h"
@@ -14,8 +15,6 @@ namespace bramlee {
 namespace {
 
 constexpr int kGroupStarts[] = {1, 5, 9, 13, 15};
-constexpr int kAlternatives[] = {1, 3, 4, 9};
-constexpr int kDigits = 10;  ///< tiles 1 to 9 and 0; the signs follow
 constexpr int kTiles = 17;
 
 // Places of the tiles, in twips. The digits in two rows of five, the signs in one row beside
@@ -30,12 +29,12 @@ constexpr double kSignWidth = 900;
 constexpr double kSignHeight = 1725;
 
 void LayOutTiles(Board& board) {
-  for (int i = 0; i < kDigits; ++i) {
+  for (int i = 0; i < kDigitTiles; ++i) {
     const int row = i / kColumns;
     board.PlaceTile(i + 1, kLeft + i % kColumns * kColumnPitch, kTop + row * kRowPitch);
   }
-  for (int i = kDigits; i < kTiles; ++i) {
-    board.PlaceTile(i + 1, kLeft + (kColumns + i - kDigits) * kColumnPitch, kTop, kSignWidth,
+  for (int i = kDigitTiles; i < kTiles; ++i) {
+    board.PlaceTile(i + 1, kLeft + (kColumns + i - kDigitTiles) * kColumnPitch, kTop, kSignWidth,
                     kSignHeight);
   }
 }
@@ -83,7 +82,7 @@ void ForgetPlace(Board& board) {
 void ShowTilesByForm(Board& board) {
   if (board.FlagOf(QStringLiteral("txtalt")) != 1) return ShowDigitTiles(board);
   HideDigitTiles(board);
-  for (const int tile : kAlternatives) board.Tile(tile)->show();
+  for (const int tile : board.letters().secondForms) board.Tile(tile)->show();
 }
 
 void SilenceNextTile(Board& board, bool on) {
@@ -106,7 +105,7 @@ void CueUnlessSilenced(Board& board, const StrokeRec& rec) {
 
 /// Signs have no place in a typed number.
 WriteLetter ProgramByPlace(const Board& board, const StrokeRec& rec) {
-  const bool typed = rec.LetterNo <= kDigits && board.FlagOf(QStringLiteral("txtalt3")) == 3;
+  const bool typed = rec.LetterNo <= kDigitTiles && board.FlagOf(QStringLiteral("txtalt3")) == 3;
   return typed ? WriteTypedDigit : WriteNumberTile;
 }
 

@@ -3,6 +3,7 @@
 #include "board/cues.h"
 #include "files/numbers.h"
 #include "files/trap.h"
+#include "letters/letter_sets.h"
 
 namespace bramlee {
 namespace {
@@ -23,7 +24,7 @@ Combo* NumberBox(const Board& board) {
 
 /// The tile that bears the digit.
 int TileOf(QChar digit) {
-  return digit == u'0' ? 10 : digit.digitValue();
+  return digit == u'0' ? kDigitTiles : digit.digitValue();
 }
 
 void SpeakWhole(Board& board, const QString& text) {

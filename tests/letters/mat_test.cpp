@@ -94,7 +94,7 @@ TEST(NumberTile, ClosesZeroWithArcsOfOneRadius) {
   EXPECT_DOUBLE_EQ(sheet.runs[0].arguments.at(4), 325 + 30 + 46.5 * 0.39);
 }
 
-TEST(NumberTile, AsksForTheDotOfTheQuestionMarkByLoopNo) {
+TEST(NumberTile, ClosesTheRoundOfTheQuestionMarkForItsDot) {
   const Recorder sheet = Write(WriteNumberTile, Clicked(17));
   ASSERT_EQ(sheet.runs.size(), 3U);
   EXPECT_EQ(sheet.runs[0].arguments.at(2), -90);
