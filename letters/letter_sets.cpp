@@ -5,7 +5,6 @@
 namespace bramlee {
 namespace {
 
-constexpr int kHindiVowelForms[] = {1, 2, 7, 8, 9, 28};
 constexpr int kHindiConsonantForms[] = {3, 7, 18, 35, 53, 64};
 
 }  // namespace
@@ -15,7 +14,7 @@ std::span<const LetterSet> LetterSets() {
   static const LetterSet kLetterSets[] = {
       {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,  .secondForms = {},                   .write = WriteCapital},
       {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,  .secondForms = {},                   .write = WriteSmallLetter},
-      {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .secondForms = kHindiVowelForms,     .write = WriteHindiVowel},
+      {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .secondForms = HindiVowelsOfTwoForms(), .write = WriteHindiVowel},
       {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .secondForms = kHindiConsonantForms, .write = WriteHindiConsonant, .footTilesFrom = 75},
       {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .secondForms = {},                   .write = WriteTeluguVowel},
       {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .secondForms = {},                   .write = WriteTeluguConsonant},

@@ -60,6 +60,7 @@ void WriteHindiFootStroke(StrokeRec& rec, DrawingSurface& sheet);
 
 // The tiles that have an alternative form, of the sets that have any: those whose table names a
 // second routine.
+std::span<const int> HindiVowelsOfTwoForms();
 std::span<const int> NumbersOfTwoForms();
 
 /// Which form of a tile is wanted.

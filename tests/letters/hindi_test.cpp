@@ -81,7 +81,7 @@ TEST(HindiVowels, StemOfTheAuSignHangsWhereItsSecondSlantEnded) {
   EXPECT_NE(Vowel(24, {}, 1)[4].arguments[0], Vowel(24, {}, 0.7)[4].arguments[0]);
 }
 
-TEST(HindiVowels, OfOneRoutineDifferByTheStrokesOfTheirOwn) {
+TEST(HindiVowels, ThatShareAPartDifferByTheStrokesOfTheirOwn) {
   EXPECT_EQ(FirstOf(Vowel(4), 6), Moved(Vowel(3), 250));  // ii is i with a loop on top
   EXPECT_EQ(Vowel(4).size(), 7U);
   EXPECT_EQ(FirstOf(Vowel(9), 6), Moved(Vowel(8), 250));  // ai is e with a stroke above
