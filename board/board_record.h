@@ -17,16 +17,13 @@
 
 #include "board/rules.h"
 #include "engine/stroke_rec.h"
+#include "ink/colours.h"
 #include "letters/letter_sets.h"
 #include "ui/controls.h"
 
 namespace bramlee {
 
 class Board;
-
-// The grounds of the boards' sheets.
-inline constexpr ColourWord kCapitalsGround = 0x00FFFFC0;
-inline constexpr ColourWord kGround = 0x00E0E0E0;  ///< of all but the capitals
 
 // The ways most boards do it; a record names another where its board differs.
 void NoOwnPart(Board& board);

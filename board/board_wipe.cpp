@@ -29,7 +29,7 @@ const QString kYes = QStringLiteral("1");
 void Board::ResetToDesign() {
   sheet_->Wipe();
   sheet_->SetBackColor(record_.backColor);
-  sheet_->SetForeColor(0x000000FF);
+  sheet_->SetForeColor(kPenColour);
   auto* gridColour = Named<QLineEdit>(QStringLiteral("txtgridcolor"));
   bramlee::SetForeColor(gridColour, 0x00FF0000);
   gridColour->setText(kNo);

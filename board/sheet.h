@@ -8,7 +8,7 @@
 #include <limits>
 #include <optional>
 
-#include "board/ink.h"
+#include "ink/ink.h"
 #include "board/pace.h"
 #include "engine/drawing_surface.h"
 #include "ui/controls.h"

@@ -8,16 +8,6 @@
 
 namespace bramlee {
 
-QColor ColourOf(ColourWord word) {
-  return QColor(static_cast<int>(word & 0xFF), static_cast<int>((word >> 8) & 0xFF),
-                static_cast<int>((word >> 16) & 0xFF));
-}
-
-ColourWord WordOf(const QColor& colour) {
-  return static_cast<ColourWord>(colour.red()) | static_cast<ColourWord>(colour.green()) << 8 |
-         static_cast<ColourWord>(colour.blue()) << 16;
-}
-
 QString Indexed(const char* array, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1StringView(array)).arg(index);
 }

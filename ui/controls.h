@@ -2,21 +2,15 @@
 // flag, a drive) it keeps as text.
 #pragma once
 
-#include <QColor>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QString>
-#include <cstdint>
 
+#include "ink/colours.h"
 #include "ui/picture_box.h"
 
 namespace bramlee {
-
-/// A colour as the forms name it: a word in blue-green-red order, 0x000000FF is red.
-using ColourWord = std::uint32_t;
-QColor ColourOf(ColourWord word);
-ColourWord WordOf(const QColor& colour);  ///< without its transparency
 
 /// The name of an array's element: Indexed("pic", 3) is "pic(3)".
 QString Indexed(const char* array, int index);

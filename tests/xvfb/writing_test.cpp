@@ -6,7 +6,7 @@
 #include <QPoint>
 #include <QTemporaryDir>
 
-#include "board/ink.h"
+#include "ink/ink.h"
 #include "letters/letter_sets.h"
 #include "tests/xvfb/desktop.h"
 

@@ -5,8 +5,7 @@
 #include <QXmlStreamWriter>
 #include <cmath>
 
-#include "board/board_record.h"
-#include "board/ink.h"
+#include "ink/ink.h"
 #include "engine/last_point.h"
 #include "letters/letter_names.h"
 #include "tools/strokes/path_surface.h"
@@ -17,8 +16,6 @@ namespace {
 /// What a picture shows of the sheet, in sheet pixels: room for all that any set writes, a digit
 /// at the fifth place of a number being the furthest.
 constexpr QRect kShown(0, 0, 1400, 600);
-
-constexpr ColourWord kInk = 0x000000FF;
 
 QColor GroundOf(const Request& request) {
   return ColourOf(request.set->sheet == SheetKind::Capitals ? kCapitalsGround : kGround);
@@ -62,7 +59,7 @@ QString WriteSvg(const Request& request) {
   attribute("fill", GroundOf(request).name());
   svg.writeStartElement(QStringLiteral("g"));
   attribute("fill", QStringLiteral("none"));
-  attribute("stroke", ColourOf(kInk).name());
+  attribute("stroke", ColourOf(kPenColour).name());
   attribute("stroke-width", QString::number(kDrawWidth));
   attribute("stroke-linecap", QStringLiteral("round"));
   attribute("stroke-linejoin", QStringLiteral("round"));
@@ -78,7 +75,7 @@ QString WritePng(const Request& request) {
   QSaveFile file(request.png);
   if (!file.open(QIODevice::WriteOnly)) return CannotWrite(file);
   Ink ink(request.step);
-  ink.SetColour(kInk);
+  ink.SetColour(kPenColour);
   Write(request, ink);
 
   const QImage picture = ink.Picture(kShown, request.scale, GroundOf(request));

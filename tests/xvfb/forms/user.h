@@ -15,7 +15,7 @@
 #include <string>
 
 #include "board/board.h"
-#include "board/ink.h"
+#include "ink/ink.h"
 #include "tests/xvfb/desktop.h"
 #include "ui/held_input.h"
 

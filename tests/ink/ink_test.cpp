@@ -1,4 +1,4 @@
-#include "board/ink.h"
+#include "ink/ink.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "engine/primitives.h"
 #include "letters/letter_sets.h"
-#include "tests/board/discs.h"
+#include "tests/ink/discs.h"
 
 namespace bramlee {
 namespace {

@@ -1,4 +1,4 @@
-#include "board/ink.h"
+#include "ink/ink.h"
 
 #include <algorithm>
 #include <bit>
@@ -51,27 +51,58 @@ void Ink::Keep(float x, float y) {
   if (planes_) planes_->Stamp(x, y);
 }
 
-/// Of dots on the very same place the last one alone is seen, in whatever colours.
+/// Of dots on the very same place the last one alone is seen, in whatever colours. A dot before a
+/// mark comes back into sight when what follows the mark is taken away: only dots between the same
+/// two marks cover each other here.
 void Ink::ForgetCovered() {
   std::unordered_set<std::uint64_t> places;
   places.reserve(dots_.size());
   std::vector<Dot> dots;
   std::vector<Stretch> stretches;
+  auto mark = marks_.rbegin();
   for (std::size_t i = stretches_.size(); i-- > 0;) {
     const std::size_t before = dots.size();
     for (std::size_t dot = EndOf(i); dot-- > stretches_[i].first;) {
+      for (; mark != marks_.rend() && mark->dots > dot; ++mark) {
+        mark->dots = dots.size();
+        places.clear();
+      }
       if (places.insert(std::bit_cast<std::uint64_t>(dots_[dot])).second)
         dots.push_back(dots_[dot]);
     }
     if (dots.size() > before) stretches.push_back({stretches_[i].colour, dots.size()});
   }
-  // Both were gathered from their ends: a stretch's first dot came last.
+  for (; mark != marks_.rend(); ++mark) mark->dots = dots.size();
+  // All were gathered from their ends: a stretch's first dot came last, and a mark counted the
+  // dots behind it.
   std::reverse(dots.begin(), dots.end());
   std::reverse(stretches.begin(), stretches.end());
   for (Stretch& stretch : stretches) stretch.first = dots.size() - stretch.first;
+  for (MarkedPlace& place : marks_) place.dots = dots.size() - place.dots;
   dots_ = std::move(dots);
   stretches_ = std::move(stretches);
   forgetAt_ = std::max(kManyDots, 2 * dots_.size());
+}
+
+InkMark Ink::Mark() {
+  Flush();
+  marks_.push_back({++marksMade_, dots_.size(), colour_});
+  return {marksMade_};
+}
+
+bool Ink::RewindTo(InkMark mark) {
+  const auto place = std::ranges::find(marks_, mark.serial, &MarkedPlace::serial);
+  if (place == marks_.end()) return false;
+  Flush();
+  dots_.resize(place->dots);
+  while (!stretches_.empty() && stretches_.back().first >= dots_.size()) stretches_.pop_back();
+  colour_ = place->colour;
+  marks_.erase(place + 1, marks_.end());
+  if (planes_) {
+    planes_->Clear();
+    ReplayInto(*planes_);
+  }
+  return true;
 }
 
 void Ink::SetColour(ColourWord colour) {
@@ -84,6 +115,7 @@ void Ink::Wipe() {
   Flush();
   dots_.clear();
   stretches_.clear();
+  marks_.clear();
   forgetAt_ = kManyDots;
   if (planes_) planes_->Clear();
 }

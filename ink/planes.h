@@ -6,8 +6,8 @@
 #include <QRectF>
 #include <vector>
 
-#include "board/stamps.h"
-#include "ui/controls.h"
+#include "ink/colours.h"
+#include "ink/stamps.h"
 
 namespace bramlee {
 

@@ -1,4 +1,4 @@
-#include "tests/board/discs.h"
+#include "tests/ink/discs.h"
 
 #include <algorithm>
 #include <cmath>

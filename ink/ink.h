@@ -3,13 +3,19 @@
 
 #include <QColor>
 #include <QImage>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
-#include "board/planes.h"
 #include "engine/drawing_surface.h"
+#include "ink/planes.h"
 
 namespace bramlee {
+
+/// A place in an ink's journal. A plain value; it means nothing to another ink.
+struct InkMark {
+  std::uint64_t serial = 0;  ///< 0 is no mark's
+};
 
 /// Takes dots and shows them as smooth-edged discs of kDrawWidth at any pixel ratio.
 ///
@@ -47,8 +53,19 @@ class Ink final : public DrawingSurface {
   ColourWord Colour() const { return colour_; }
   void SetColour(ColourWord colour);
 
-  /// Takes every dot away.
+  /// Takes every dot away; no mark is left.
   void Wipe();
+
+  // --- marks: places in the journal that one can go back to
+  /// Marks what stands now. A run that is under way ends here.
+  InkMark Mark();
+  /// Takes away every dot that came after the mark, and the marks made after it; the pen has the
+  /// colour that it had then. Returns false, and takes nothing away, when the mark is not there
+  /// any more.
+  bool RewindTo(InkMark mark);
+  /// Drops all marks, so that dots which later ones cover can be forgotten. A dot before a mark is
+  /// kept as long as the mark stands, whatever is written over it.
+  void DropMarks() { marks_.clear(); }
 
   /// All dots over a ground: what lies within `area` (sheet pixels) at `ratio` device pixels to a
   /// sheet pixel. The image carries the ratio. Empty for an empty area or one too large for the
@@ -102,8 +119,15 @@ class Ink final : public DrawingSurface {
   }
   void ReplayInto(Planes& planes) const;
 
+  /// A mark and what stood then.
+  struct MarkedPlace {
+    std::uint64_t serial;
+    std::size_t dots;
+    ColourWord colour;
+  };
+
   double step_;
-  ColourWord colour_ = 0x000000FF;
+  ColourWord colour_ = kPenColour;
 
   bool atWork_ = false;  ///< whether last is the last kept dot of a run not yet ended
   float lastX_ = 0;
@@ -117,6 +141,8 @@ class Ink final : public DrawingSurface {
 
   std::vector<Dot> dots_;
   std::vector<Stretch> stretches_;
+  std::vector<MarkedPlace> marks_;  ///< in the order of their making
+  std::uint64_t marksMade_ = 0;
   std::size_t forgetAt_ = kManyDots;  ///< how many dots make it worth to look for covered ones
   std::optional<Planes> planes_;
 };

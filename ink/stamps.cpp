@@ -1,4 +1,4 @@
-#include "board/stamps.h"
+#include "ink/stamps.h"
 
 #include <cmath>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "board/planes.h"
+#include "ink/planes.h"
 
 #include <algorithm>
 #include <bit>
