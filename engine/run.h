@@ -114,6 +114,11 @@ class RunCursor {
   Place last_;  ///< what the registers become
 };
 
+/// How many dots the run plots.
+inline std::int64_t DotCount(const Run& run, double step) {
+  return RunCursor(run, step).Skip();
+}
+
 template <class Turn>
 std::int64_t RunCursor::Count(std::int64_t most, Turn turn) {
   // The sum runs in a variable of its own, which goes back also when a turn throws.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "engine/last_point.h"
+
 namespace bramlee {
 namespace {
 
@@ -35,6 +37,7 @@ const LetterSet* FindLetterSet(std::string_view name) {
 
 void WriteWholeTile(const LetterSet& set, int tile, const TileForm& form, DrawingSurface& sheet) {
   if (tile < 1 || tile > set.tiles) return;
+  ClearLastPoint();
   StrokeRec rec = FillStrokeRec(set.sheet, static_cast<std::int16_t>(tile));
   rec.AltFlag = form.alternative ? 1 : 0;
   rec.LoopNo = static_cast<std::int16_t>(form.place);

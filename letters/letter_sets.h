@@ -67,10 +67,12 @@ std::span<const int> NumbersOfTwoForms();
 struct TileForm {
   bool alternative = false;
   int place = 0;  ///< column of a digit in a typed number, 1 to 5; 0 is the tile's own
+  bool operator==(const TileForm&) const = default;
 };
 
-/// Writes all that belongs to one tile from a fresh record, as its board does on a click: for
-/// uses without a board. A tile outside the set writes nothing.
+/// Writes all that belongs to one tile from a fresh record and cleared last-point registers, as a
+/// board just opened does on a click: for uses without a board. A tile outside the set writes
+/// nothing.
 void WriteWholeTile(const LetterSet& set, int tile, const TileForm& form, DrawingSurface& sheet);
 
 }  // namespace bramlee

@@ -88,13 +88,30 @@ TEST(LetterSets, OnlyReadTheCellTables) {
 
 TEST(LetterSets, DoNotRelyOnWhatAnotherLetterLeftInTheRegisters) {
   ForEveryTile([](const LetterSet& set, int tile, const TileForm& form) {
-    const Recorder fromZero = Written(set.name, tile, form);
-    LastX = LastY = LastX2 = LastY2 = 4321;
-    Recorder sheet(1);
-    WriteWholeTile(set, tile, form, sheet);
-    EXPECT_EQ(sheet.runs, fromZero.runs);
-    EXPECT_EQ(sheet.dots, fromZero.dots);
+    const auto writtenAfter = [&](double left) {
+      LastX = LastY = LastX2 = LastY2 = left;
+      StrokeRec rec = FillStrokeRec(set.sheet, static_cast<std::int16_t>(tile));
+      rec.AltFlag = form.alternative ? 1 : 0;
+      Recorder sheet(1);
+      set.write(rec, sheet);
+      return sheet;
+    };
+    const Recorder fromZero = writtenAfter(0);
+    const Recorder after = writtenAfter(4321);
+    EXPECT_EQ(after.runs, fromZero.runs);
+    EXPECT_EQ(after.dots, fromZero.dots);
   });
+}
+
+TEST(LetterSets, WriteAWholeTileFromClearedRegisters) {
+  const LetterSet& capitals = *FindLetterSet("engc");
+  LastX = LastY = LastX2 = LastY2 = 4321;
+  Recorder sheet(1);
+  WriteWholeTile(capitals, 9, {}, sheet);  // I, a line that leaves the registers alone
+  EXPECT_EQ(LastX, 0);
+  EXPECT_EQ(LastY, 0);
+  EXPECT_EQ(LastX2, 0);
+  EXPECT_EQ(LastY2, 0);
 }
 
 TEST(LetterSets, DoNotChangeWithTheStepFlag) {

@@ -16,7 +16,6 @@ namespace bramlee {
 inline Recorder Written(std::string_view set, int tile, const TileForm& form = {},
                         double step = 1) {
   Recorder sheet(step);
-  ClearLastPoint();
   WriteWholeTile(*FindLetterSet(set), tile, form, sheet);
   return sheet;
 }

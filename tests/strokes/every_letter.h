@@ -1,0 +1,42 @@
+// All letters that there are, for tests that go through them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "letters/letter_sets.h"
+#include "strokes/pen_strokes.h"
+
+namespace bramlee {
+
+/// The forms of a tile: its usual one, its alternative, and at each place of a number.
+inline std::vector<TileForm> FormsOf(const LetterSet& set, int tile) {
+  std::vector<TileForm> forms;
+  for (const bool alternative : {false, true}) {
+    if (alternative && !HasSecondForm(set, tile)) continue;
+    const int places = tile <= set.digits ? 5 : 0;
+    for (int place = 0; place <= places; ++place) {
+      forms.push_back({.alternative = alternative, .place = place});
+    }
+  }
+  return forms;
+}
+
+inline std::vector<LetterId> EveryLetter() {
+  std::vector<LetterId> letters;
+  for (const LetterSet& set : LetterSets()) {
+    for (int tile = 1; tile <= set.tiles; ++tile) {
+      for (const TileForm& form : FormsOf(set, tile)) {
+        letters.push_back({.set = set.name, .tile = tile, .form = form});
+      }
+    }
+  }
+  return letters;
+}
+
+inline std::string NameOf(const LetterId& id) {
+  return std::string(id.set) + ' ' + std::to_string(id.tile) +
+         (id.form.alternative ? " alternative" : "") + " place " + std::to_string(id.form.place);
+}
+
+}  // namespace bramlee
