@@ -38,6 +38,10 @@ class DrawingSurface {
   /// end and what they leave in the last-point registers is the same.
   virtual bool WantsDots() const { return true; }
 
+  /// The colour of the dots to come, in whatever way the surface tells colours. Primitives do not
+  /// set it; who writes in several colours does.
+  virtual void SetPen(std::uint32_t /*colour*/) {}
+
   /// Tells that a primitive begins, with its arguments in its own order (see primitives.h).
   virtual void BeginRun(Primitive /*primitive*/, std::span<const double> /*arguments*/) {}
 

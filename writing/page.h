@@ -1,0 +1,48 @@
+// What is to be written: letters, each at its place and in its colour.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "strokes/letter.h"
+
+namespace bramlee {
+
+/// Where a letter's sheet lies on the page: each coordinate times `scale`, then moved.
+struct Placing {
+  double scale = 1;
+  double right = 0;  ///< sheet pixels
+  double down = 0;   ///< sheet pixels
+
+  /// A letter left where it was laid out keeps its dots to the last bit.
+  bool IsNone() const { return *this == Placing{}; }
+  bool operator==(const Placing&) const = default;
+};
+
+/// A letter on a page.
+struct PlacedLetter {
+  Letter letter;
+  std::uint32_t colour = 0;  ///< handed to the surface as it is
+  Placing placing;
+};
+
+/// Letters in writing order. It may grow while a player stands on it.
+class Page {
+ public:
+  void Add(PlacedLetter letter);
+
+  /// Takes all letters off. A player goes back to the begin, without taking dots off its surface.
+  void Clear();
+
+  std::span<const PlacedLetter> Letters() const { return letters_; }
+
+  /// How often the page was cleared: a place on it holds as long as this does.
+  std::uint64_t Edition() const { return edition_; }
+
+ private:
+  std::vector<PlacedLetter> letters_;
+  std::uint64_t edition_ = 0;
+};
+
+}  // namespace bramlee
