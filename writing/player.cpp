@@ -85,13 +85,11 @@ std::int64_t Player::RunToEnd() {
 
 bool Player::StepBack() {
   FollowPage();
-  if (begins_.empty()) return false;
-  EndRun();
-  if (!inStroke_) --strokesWritten_;
-  inStroke_ = false;
+  if (begins_.empty() || !rewindable_->RewindTo(begins_.back().mark)) return false;
   place_ = begins_.back().place;
-  rewindable_->RewindTo(begins_.back().mark);
   begins_.pop_back();
+  if (!inStroke_) --strokesWritten_;
+  inStroke_ = inRun_ = false;
   return true;
 }
 

@@ -51,8 +51,8 @@ class Player {
   std::int64_t RunToEnd();
 
   /// Takes the present pen stroke away, back to its begin; standing there already, the stroke
-  /// before. Returns false, with nothing done, at the begin of the page or on a surface that
-  /// cannot go back.
+  /// before. Returns false, with nothing done, at the begin of the page and where the surface
+  /// cannot go back, or not so far.
   bool StepBack();
 
   /// Whether every dot of the page is written. It may grow and be written on.

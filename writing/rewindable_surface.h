@@ -18,10 +18,11 @@ class RewindableSurface : public DrawingSurface {
   /// The present state. Asked for between two runs only.
   virtual SurfaceMark Mark() = 0;
 
-  /// Takes away what was plotted after the mark, and shows again what that had covered. The marks
-  /// made after it hold no longer; it and those before do. Called between two runs only; the pen's
-  /// colour is set anew before the next dot.
-  virtual void RewindTo(SurfaceMark mark) = 0;
+  /// Takes away what was plotted after the mark, and shows again what that had covered. A run under
+  /// way is given up, without an EndRun. The marks made after this one hold no longer; it and those
+  /// before do. The pen's colour is set anew before the next dot. Returns false, with nothing done,
+  /// when the mark is not there any more.
+  virtual bool RewindTo(SurfaceMark mark) = 0;
 };
 
 }  // namespace bramlee

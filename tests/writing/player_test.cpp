@@ -160,6 +160,16 @@ TEST_F(PlayerTest, CannotStepBackOnASurfaceThatTakesNothingBack) {
   EXPECT_EQ(plain.dots.size(), 20U);
 }
 
+TEST_F(PlayerTest, GoesOnWhereItStandsWhenTheSurfaceHasForgottenTheMark) {
+  player_.Write(15);
+  surface_.forgotten = 2;
+  EXPECT_FALSE(player_.StepBack());
+  EXPECT_EQ(player_.StrokesWritten(), 1U);
+  EXPECT_EQ(player_.RunToEnd(), 5);
+  EXPECT_EQ(surface_.dots, PlainDots(page_));
+  EXPECT_EQ(surface_.Runs().size(), 3U);
+}
+
 TEST_F(PlayerTest, SetsEachLettersColour) {
   page_.Add({.letter = TwoStrokes(), .colour = kBlue, .placing = {}});
   player_.RunToEnd();

@@ -47,16 +47,18 @@ class RecordingSurface : public RewindableSurface {
     kept_.push_back({.dots = dots.size(), .runs = runs_.size()});
     return {kept_.size() - 1};
   }
-  void RewindTo(SurfaceMark mark) override {
-    if (inRun_) errors += "gone back within a run; ";
+  bool RewindTo(SurfaceMark mark) override {
     if (mark.at >= kept_.size()) {
       errors += "a mark that holds no longer; ";
-      return;
+      return false;
     }
+    if (mark.at < forgotten) return false;
     dots.resize(kept_[mark.at].dots);
     runs_.resize(kept_[mark.at].runs);
     kept_.resize(mark.at + 1);
+    inRun_ = false;
     colour_ = 0xBAD;  // it is set anew before the next dot
+    return true;
   }
 
   bool IsInRun() const { return inRun_; }
@@ -64,6 +66,7 @@ class RecordingSurface : public RewindableSurface {
 
   std::vector<ColouredDot> dots;
   std::string errors;
+  std::size_t forgotten = 0;  ///< marks before this one are not there any more
 
  private:
   static constexpr double kStepOfNobody = 123;  // letters bring their own
