@@ -10,6 +10,7 @@
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
+#include <cstdint>
 #include <deque>
 #include <utility>
 
@@ -139,6 +140,8 @@ class HeldInput : public QObject {
     pumping_ = outer;
   }
 
+  void Admit(QWidget* widget) { admitted_.append(widget); }
+
   bool EndIsAwaited() const {
     return !closes_.isEmpty() || std::any_of(waiting_.begin(), waiting_.end(),
                                              [](const Held& held) { return held.urges; });
@@ -152,7 +155,7 @@ class HeldInput : public QObject {
 
  protected:
   bool eventFilter(QObject* receiver, QEvent* event) override {
-    if (!Holds()) return false;
+    if (!Holds() || IsAdmitted(receiver, event)) return false;
     if (event->type() == QEvent::InputMethod) {
       waiting_.push_back(HeldText(receiver, *static_cast<QInputMethodEvent*>(event)));
       return true;
@@ -178,6 +181,51 @@ class HeldInput : public QObject {
 
   /// Whether what comes now has to wait: also behind what waits already.
   bool Holds() const { return pumping_ || (Waiting() && !delivering_ && HandlerHasReturned()); }
+
+  bool IsAdmitted(const QWidget* widget) const {
+    return std::any_of(
+        admitted_.begin(), admitted_.end(), [widget](const QPointer<QWidget>& admitted) {
+          return admitted != nullptr && (admitted == widget || admitted->isAncestorOf(widget));
+        });
+  }
+
+  /// Whether what lies at that point of a window is admitted.
+  bool IsAdmittedAt(const QObject* window, const QPointF& point) const {
+    if (!window->isWindowType()) return false;
+    const QWidget* top = WidgetOf(static_cast<const QWindow*>(window));
+    const QWidget* control = top != nullptr ? top->childAt(point.toPoint()) : nullptr;
+    return control != nullptr && IsAdmitted(control);
+  }
+
+  /// A press grabs the mouse: what follows belongs to whom it belongs to, until the last release.
+  bool IsAdmittedMouse(const QObject* window, const QMouseEvent& event) {
+    if (!window->isWindowType()) return false;
+    const bool admitted = mouseOf_ == MouseOf::Nobody ? IsAdmittedAt(window, event.position())
+                                                      : mouseOf_ == MouseOf::Admitted;
+    const MouseOf owner = admitted ? MouseOf::Admitted : MouseOf::Waiting;
+    mouseOf_ = event.buttons() == Qt::NoButton ? MouseOf::Nobody : owner;
+    return admitted;
+  }
+
+  /// Whether the event is meant for an admitted widget.
+  bool IsAdmitted(const QObject* receiver, const QEvent* event) {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseMove:
+        return IsAdmittedMouse(receiver, *static_cast<const QMouseEvent*>(event));
+      case QEvent::Wheel:
+        return IsAdmittedAt(receiver, static_cast<const QWheelEvent*>(event)->position());
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::ShortcutOverride:
+      case QEvent::InputMethod:
+        return QApplication::focusWidget() != nullptr && IsAdmitted(QApplication::focusWidget());
+      default:
+        return false;
+    }
+  }
 
   /// Takes an event that is input; lets any other pass.
   bool Keep(QWindow* window, QEvent* event) {
@@ -242,6 +290,11 @@ class HeldInput : public QObject {
     if (Waiting()) next_.start(0);
   }
 
+  /// Whose the mouse is while a button is down.
+  enum class MouseOf : std::uint8_t { Nobody, Admitted, Waiting };
+
+  QList<QPointer<QWidget>> admitted_;
+  MouseOf mouseOf_ = MouseOf::Nobody;
   int depth_ = 0;
   int level_ = 1;  ///< of the event loop that called the handler
   bool pumping_ = false;
@@ -259,6 +312,10 @@ HoldInput::HoldInput() {
 
 HoldInput::~HoldInput() {
   HeldInput::Instance().End();
+}
+
+void HoldInput::Admit(QWidget* widget) {
+  HeldInput::Instance().Admit(widget);
 }
 
 void LetWindowsLive() {

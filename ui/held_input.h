@@ -8,6 +8,8 @@
 #include <QObject>
 #include <functional>
 
+class QWidget;
+
 namespace bramlee {
 
 /// Input waits while one of these lives; they nest. Delivery never begins in the destructor but
@@ -18,6 +20,11 @@ class HoldInput {
   ~HoldInput();
   HoldInput(const HoldInput&) = delete;
   HoldInput& operator=(const HoldInput&) = delete;
+
+  /// From now on as long as the widget lives, input that is meant for it or for what stands on it
+  /// waits for nothing: the mouse and the wheel above it, a button until it is let go again, and
+  /// the keys while it has the focus. Its handlers then run in the middle of what is written.
+  static void Admit(QWidget* widget);
 };
 
 /// To be called every few milliseconds while input is held: windows are repainted where they were

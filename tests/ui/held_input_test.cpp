@@ -1,0 +1,146 @@
+// Input that waits while a handler is busy, and the widgets that it does not wait for.
+#include "ui/held_input.h"
+
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWidget>
+#include <QWindow>
+
+namespace bramlee {
+namespace {
+
+/// A window with a tile and a strip, each a button, and a slider on the strip.
+class HeldInputTest : public ::testing::Test {
+ protected:
+  HeldInputTest() {
+    auto* rows = new QVBoxLayout(&window_);
+    rows->addWidget(&tile);
+    rows->addWidget(&strip);
+    auto* row = new QVBoxLayout(&strip);
+    row->addWidget(&button);
+    row->addWidget(&slider);
+    slider.setOrientation(Qt::Horizontal);
+    window_.resize(300, 300);
+    window_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window_));
+    QObject::connect(&tile, &QPushButton::clicked, &tile, [this] { ++tileClicks; });
+    QObject::connect(&button, &QPushButton::clicked, &button, [this] { ++buttonClicks; });
+  }
+
+  /// What a user does while a handler is busy: `act` runs as the windows live.
+  static void Meanwhile(const std::function<void()>& act) {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), act, Qt::QueuedConnection);
+    LetWindowsLive();
+  }
+  QPoint MiddleOf(const QWidget& widget) const {
+    return widget.mapTo(&window_, widget.rect().center());
+  }
+  void Press(const QPoint& place) const {
+    QTest::mousePress(window_.windowHandle(), Qt::LeftButton, {}, place);
+  }
+  void Release(const QPoint& place) const {
+    QTest::mouseRelease(window_.windowHandle(), Qt::LeftButton, {}, place);
+  }
+  void ClickAt(const QPoint& place) const {
+    Press(place);
+    Release(place);
+  }
+
+  QWidget window_;
+  QPushButton tile{QStringLiteral("tile")};
+  QWidget strip;
+  QPushButton button{QStringLiteral("strip")};
+  QSlider slider;
+  int tileClicks = 0;
+  int buttonClicks = 0;
+};
+
+TEST_F(HeldInputTest, WaitsUntilTheHandlerReturns) {
+  {
+    const HoldInput hold;
+    Meanwhile([this] { ClickAt(MiddleOf(tile)); });
+    EXPECT_EQ(tileClicks, 0);
+  }
+  EXPECT_EQ(tileClicks, 0);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return tileClicks == 1; }));
+}
+
+TEST_F(HeldInputTest, ReachesAnAdmittedWidgetAtOnceAndNoOther) {
+  HoldInput::Admit(&strip);
+  {
+    const HoldInput hold;
+    Meanwhile([this] {
+      ClickAt(MiddleOf(tile));
+      ClickAt(MiddleOf(button));
+    });
+    EXPECT_EQ(buttonClicks, 1);
+    EXPECT_EQ(tileClicks, 0);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return tileClicks == 1; }));
+  EXPECT_EQ(buttonClicks, 1);
+}
+
+TEST_F(HeldInputTest, StaysWithTheWidgetThatWasPressed) {
+  HoldInput::Admit(&strip);
+  const HoldInput hold;
+  Meanwhile([this] {
+    Press(MiddleOf(button));
+    Release(MiddleOf(tile));
+  });
+  EXPECT_FALSE(button.isDown());  // let go elsewhere, the button is up again and not clicked
+  EXPECT_EQ(buttonClicks, 0);
+  Meanwhile([this] {
+    Press(MiddleOf(tile));
+    Release(MiddleOf(button));
+    ClickAt(MiddleOf(button));
+  });
+  EXPECT_EQ(buttonClicks, 1);
+}
+
+TEST_F(HeldInputTest, LetsASliderBeDrawnPastItsStrip) {
+  HoldInput::Admit(&strip);
+  slider.setRange(0, 100);
+  const HoldInput hold;
+  Meanwhile([this] {
+    const QPoint begin = slider.mapTo(&window_, QPoint(4, slider.height() / 2));
+    Press(begin);
+    QTest::mouseMove(window_.windowHandle(), QPoint(290, 5));
+    Release(QPoint(290, 5));
+  });
+  EXPECT_EQ(slider.value(), 100);
+  EXPECT_EQ(tileClicks, 0);
+}
+
+TEST_F(HeldInputTest, GivesTheKeysToAnAdmittedWidgetThatHasTheFocus) {
+  HoldInput::Admit(&strip);
+  window_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  const auto space = [this] { QTest::keyClick(window_.windowHandle(), Qt::Key_Space); };
+  {
+    const HoldInput hold;
+    button.setFocus();
+    Meanwhile(space);
+    EXPECT_EQ(buttonClicks, 1);
+    tile.setFocus();
+    Meanwhile(space);
+    EXPECT_EQ(tileClicks, 0);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return tileClicks == 1; }));
+  EXPECT_EQ(buttonClicks, 1);
+}
+
+TEST_F(HeldInputTest, ForgetsAnAdmittedWidgetThatIsGone) {
+  auto* gone = new QWidget(&window_);
+  HoldInput::Admit(gone);
+  delete gone;
+  const HoldInput hold;
+  Meanwhile([this] { ClickAt(MiddleOf(tile)); });
+  EXPECT_EQ(tileClicks, 0);
+}
+
+}  // namespace
+}  // namespace bramlee
