@@ -2,8 +2,7 @@
 // form at all is worked out from there.
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include <vector>
 
 #include "letters/pen.h"
 
@@ -20,22 +19,14 @@ inline Letter Wanted(const Forms& forms, const StrokeRec& r) {
   return r.AltFlag != 0 && forms.alternative != nullptr ? forms.alternative : forms.usual;
 }
 
-/// The tiles 1 to `kTiles` for which `kHasTwo` is true, in their order.
-template <int kTiles, bool (*kHasTwo)(int tile)>
-constexpr auto TilesOfTwoForms() {
-  constexpr std::size_t kCount = [] {
-    std::size_t count = 0;
-    for (int tile = 1; tile <= kTiles; ++tile) {
-      if (kHasTwo(tile)) ++count;
-    }
-    return count;
-  }();
-  std::array<int, kCount> tiles{};
-  std::size_t next = 0;
-  for (int tile = 1; tile <= kTiles; ++tile) {
-    if (kHasTwo(tile)) tiles[next++] = tile;
+/// Those of the tiles 1 to `tiles` that have an alternative form, in their order.
+template <class FormsOf>
+std::vector<int> TilesOfTwoForms(int tiles, FormsOf formsOf) {
+  std::vector<int> ofTwo;
+  for (int tile = 1; tile <= tiles; ++tile) {
+    if (formsOf(tile).alternative != nullptr) ofTwo.push_back(tile);
   }
-  return tiles;
+  return ofTwo;
 }
 
 }  // namespace bramlee

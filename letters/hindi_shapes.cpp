@@ -10,4 +10,9 @@ HookEnds WriteHook(const StrokeRec& r, Pen& pen) {
   return {.upper = upper, .lower = lower};
 }
 
+void WriteRingAndTail(const StrokeRec& r, Pen& pen) {
+  const EndPoint ring = pen.Arc(360, 0, -1, r.X1 + 41.25, r.Y1 + 22.5, 22.5);
+  pen.Arc(360, 290, -1, ring.x - 67.5, ring.y, 67.5);
+}
+
 }  // namespace bramlee

@@ -1,4 +1,5 @@
-// Strokes that Hindi vowels and consonants share.
+// Strokes that letters of several Hindi sources share: whoever changes one changes all letters that
+// name it.
 #pragma once
 
 #include "letters/pen.h"
@@ -13,5 +14,8 @@ struct HookEnds {
 
 /// The hook of इ, ङ, झ and ड: a short stem under the bar at X1, Y1 and two bows below each other.
 HookEnds WriteHook(const StrokeRec& r, Pen& pen);
+
+/// The body of थ and श: a ring about the upper left of the letter, and the tail that leaves it.
+void WriteRingAndTail(const StrokeRec& r, Pen& pen);
 
 }  // namespace bramlee

@@ -334,14 +334,11 @@ constexpr Tile kTiles[] = {
 // clang-format on
 static_assert(std::size(kTiles) == 28);
 
-constexpr bool HasTwoForms(int tile) {
-  return kTiles[tile - 1].write.alternative != nullptr;
-}
-
 }  // namespace
 
 std::span<const int> HindiVowelsOfTwoForms() {
-  static constexpr auto kOfTwo = TilesOfTwoForms<std::size(kTiles), HasTwoForms>();
+  static const std::vector<int> kOfTwo = TilesOfTwoForms(
+      static_cast<int>(std::size(kTiles)), [](int tile) { return kTiles[tile - 1].write; });
   return kOfTwo;
 }
 

@@ -5,22 +5,17 @@
 #include "engine/last_point.h"
 
 namespace bramlee {
-namespace {
-
-constexpr int kHindiConsonantForms[] = {3, 7, 18, 35, 53, 64};
-
-}  // namespace
 
 std::span<const LetterSet> LetterSets() {
   // clang-format off
   static const LetterSet kLetterSets[] = {
-      {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,  .secondForms = {},                   .write = WriteCapital},
-      {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,  .secondForms = {},                   .write = WriteSmallLetter},
-      {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,  .secondForms = HindiVowelsOfTwoForms(), .write = WriteHindiVowel},
-      {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = 111, .secondForms = kHindiConsonantForms, .write = WriteHindiConsonant, .footTilesFrom = 75},
-      {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,  .secondForms = {},                   .write = WriteTeluguVowel},
-      {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,  .secondForms = {},                   .write = WriteTeluguConsonant},
-      {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,  .secondForms = NumbersOfTwoForms(),  .write = WriteNumberTile, .digits = kDigitTiles},
+      {.name = "engc", .sheet = SheetKind::Capitals,     .tiles = 26,          .secondForms = {},                          .write = WriteCapital},
+      {.name = "engs", .sheet = SheetKind::SmallLetters, .tiles = 26,          .secondForms = {},                          .write = WriteSmallLetter},
+      {.name = "hinv", .sheet = SheetKind::Wide,         .tiles = 28,          .secondForms = HindiVowelsOfTwoForms(),     .write = WriteHindiVowel},
+      {.name = "hinc", .sheet = SheetKind::Wide,         .tiles = kHindiTiles, .secondForms = HindiConsonantsOfTwoForms(), .write = WriteHindiConsonant, .footTilesFrom = FirstHindiTileOf(kHindiFootSet)},
+      {.name = "telv", .sheet = SheetKind::Wide,         .tiles = 36,          .secondForms = {},                          .write = WriteTeluguVowel},
+      {.name = "telc", .sheet = SheetKind::Wide,         .tiles = 75,          .secondForms = {},                          .write = WriteTeluguConsonant},
+      {.name = "mat",  .sheet = SheetKind::Wide,         .tiles = 17,          .secondForms = NumbersOfTwoForms(),         .write = WriteNumberTile, .digits = kDigitTiles},
   };
   // clang-format on
   return kLetterSets;

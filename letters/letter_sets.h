@@ -25,9 +25,28 @@ struct LetterSet {
   int digits = 0;         ///< tiles 1 to this can stand in a typed number
 };
 
-/// The Hindi consonants come in three sets of this many tiles: whole letters, half forms, letters
-/// with the foot stroke.
-inline constexpr int kHindiSetTiles = 37;
+// The Hindi consonants come in three sets of tiles: whole letters, half forms, letters with the
+// foot stroke.
+inline constexpr int kHindiSetTiles = 37;  ///< tiles of one set: its letters
+inline constexpr int kHindiSets = 3;
+inline constexpr int kHindiHalfSet = 2;
+inline constexpr int kHindiFootSet = 3;
+inline constexpr int kHindiTiles = kHindiSets * kHindiSetTiles;
+
+/// The set, 1 to 3, that the tile belongs to.
+constexpr int HindiSetOf(int tile) {
+  return (tile - 1) / kHindiSetTiles + 1;
+}
+
+/// The tile's letter, 1 to 37, the same in each set.
+constexpr int HindiLetterOf(int tile) {
+  return (tile - 1) % kHindiSetTiles + 1;
+}
+
+/// The tile of a set's first letter.
+constexpr int FirstHindiTileOf(int set) {
+  return (set - 1) * kHindiSetTiles + 1;
+}
 
 /// The first tiles of the number set are digits: 1 to 9, then 0.
 inline constexpr int kDigitTiles = 10;
@@ -61,6 +80,7 @@ void WriteHindiFootStroke(StrokeRec& rec, DrawingSurface& sheet);
 // The tiles that have an alternative form, of the sets that have any: those whose table names a
 // second routine.
 std::span<const int> HindiVowelsOfTwoForms();
+std::span<const int> HindiConsonantsOfTwoForms();
 std::span<const int> NumbersOfTwoForms();
 
 /// Which form of a tile is wanted.

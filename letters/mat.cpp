@@ -278,15 +278,12 @@ void Narrow(const Digit& digit, StrokeRec& r) {
   r.CellW = r.CellW * digit.width;
 }
 
-constexpr bool HasTwoForms(int tile) {
-  return kDigits[tile - 1].write.alternative != nullptr;
-}
-
 }  // namespace
 
 std::span<const int> NumbersOfTwoForms() {
-  static constexpr auto kTiles = TilesOfTwoForms<kDigitTiles, HasTwoForms>();
-  return kTiles;
+  static const std::vector<int> kOfTwo =
+      TilesOfTwoForms(kDigitTiles, [](int tile) { return kDigits[tile - 1].write; });
+  return kOfTwo;
 }
 
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet) {

@@ -93,7 +93,7 @@ TEST(HindiVowels, ThatShareAPartDifferByTheStrokesOfTheirOwn) {
 // --- consonants
 
 TEST(HindiConsonants, ReadTheFormForTheTilesThatHaveTwoAlone) {
-  // their bodies know a second form, their tiles do not
+  // the same letter in another set has a second form
   for (const int tile : {16, 40, 55, 72, 77, 90}) {
     EXPECT_EQ(Consonant(tile, kAlternative), Consonant(tile)) << tile;
   }
