@@ -4,37 +4,28 @@
 #include "board/board.h"
 #include "files/numbers.h"
 #include "files/trap.h"
+#include "letters/letter_sets.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
 
-constexpr int kSets = 3;
-constexpr int kLetters = 37;  ///< tiles of a set
-constexpr int kTiles = kSets * kLetters;
-constexpr int kFootSet = 3;  ///< the set whose letters bear the foot stroke
-
-constexpr const char* kSetNames[kSets] = {"whole letters", "half letters",
-                                          "letters with the foot stroke"};
+constexpr const char* kSetNames[kHindiSets] = {"whole letters", "half letters",
+                                               "letters with the foot stroke"};
 
 /// The first letters of the groups, in each set.
 constexpr auto kGroupStarts = [] {
   constexpr int kInSet[] = {1, 5, 6, 10, 11, 15, 16, 20, 21, 25, 26, 30, 34};
-  std::array<int, kSets * std::size(kInSet)> starts{};
+  std::array<int, kHindiSets * std::size(kInSet)> starts{};
   std::size_t next = 0;
-  for (int set = 0; set < kSets; ++set) {
-    for (const int letter : kInSet) starts[next++] = letter + kLetters * set;
+  for (int set = 1; set <= kHindiSets; ++set) {
+    for (const int letter : kInSet) starts[next++] = FirstHindiTileOf(set) + letter - 1;
   }
   return starts;
 }();
 
 int SetInUse(const Board& board) {
   return RoundToInteger(board.FlagOf(QStringLiteral("txtsetno")));
-}
-
-/// The tile of a set's first letter.
-int FirstTileOf(int set) {
-  return 1 + kLetters * (set - 1);
 }
 
 bool AlternativesWanted(const Board& board) {
@@ -50,7 +41,7 @@ void pic1_Click(Board& board, int index) {
 
 void MakeOwn(Board& board) {
   board.AddHiddenText(QStringLiteral("txtsetno"), QStringLiteral("1"));
-  for (int set = 1; set <= kSets; ++set) {
+  for (int set = 1; set <= kHindiSets; ++set) {
     PictureBox* button = board.AddPicture(Indexed("pic1", set));
     button->setAccessibleName(QString::fromLatin1(kSetNames[set - 1]));
     button->SetPicture(QStringLiteral(":/pictures/hinc/set%1.jpg").arg(set));
@@ -62,10 +53,10 @@ void MakeOwn(Board& board) {
 /// Shows the tiles of the set in use alone, and of these only the ones with a second form while
 /// alternatives are wanted.
 void ShowTiles(Board& board) {
-  const int first = FirstTileOf(SetInUse(board));
+  const int first = FirstHindiTileOf(SetInUse(board));
   const bool alternatives = AlternativesWanted(board);
-  board.ShowTiles(1, kTiles, [&](int tile) {
-    const bool inSet = tile >= first && tile < first + kLetters;
+  board.ShowTiles(1, kHindiTiles, [&](int tile) {
+    const bool inSet = tile >= first && tile < first + kHindiSetTiles;
     return inSet && (!alternatives || HasSecondForm(board.letters(), tile));
   });
 }
@@ -74,8 +65,8 @@ void ShowTiles(Board& board) {
 void PlaceSet(Board& board, int set) {
   double left = 1450;
   double top = 560;
-  for (int letter = 1; letter <= kLetters; ++letter) {
-    const int tile = FirstTileOf(set) + letter - 1;
+  for (int letter = 1; letter <= kHindiSetTiles; ++letter) {
+    const int tile = FirstHindiTileOf(set) + letter - 1;
     board.PlaceTile(tile, left, top);
     left += 950;
     if (letter > 25 || letter % 5 != 0) continue;
@@ -91,7 +82,7 @@ void PlaceSet(Board& board, int set) {
 void LayOut(Board& board) {
   PlaceSet(board, SetInUse(board));
   ShowTiles(board);
-  for (int set = 1; set <= kSets; ++set) {
+  for (int set = 1; set <= kHindiSets; ++set) {
     Place(board.Named<QWidget>(Indexed("pic1", set)),
           {.left = 100, .top = 560 + 875.0 * (set - 1), .width = 1250, .height = 825});
   }
@@ -110,13 +101,13 @@ void WriteWithFootStroke(StrokeRec& rec, DrawingSurface& sheet) {
 
 /// The foot stroke hangs on the set in use, whatever the tile.
 WriteLetter Program(const Board& board, const StrokeRec& /*rec*/) {
-  return SetInUse(board) == kFootSet ? WriteWithFootStroke : WriteHindiConsonant;
+  return SetInUse(board) == kHindiFootSet ? WriteWithFootStroke : WriteHindiConsonant;
 }
 
 void DrawAll(Board& board) {
   if (AlternativesWanted(board)) return board.mnuclear1_Click();
-  const int first = FirstTileOf(SetInUse(board));
-  for (int tile = first; tile < first + kLetters; ++tile) board.pic_Click(tile);
+  const int first = FirstHindiTileOf(SetInUse(board));
+  for (int tile = first; tile < first + kHindiSetTiles; ++tile) board.pic_Click(tile);
 }
 
 }  // namespace
@@ -128,7 +119,7 @@ const BoardRecord kHindiConsonantsBoard{
     .cueBoardNo = 4,
     .backItem = "mnuback",
     .audioCaption = "Audio",
-    .lastTile = kTiles,
+    .lastTile = kHindiTiles,
     .groupStarts = kGroupStarts,
     .strangeTile = "My Friend is Calling.I am going for Ice-Cream",
     .makeOwn = MakeOwn,

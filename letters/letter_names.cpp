@@ -94,12 +94,12 @@ Named HindiVowel(int tile) {
 }
 
 std::string HindiConsonant(int tile, bool name) {
-  const int set = (tile - 1) / kHindiSetTiles + 1;
-  const Named letter = kHindiConsonants[(tile - 1) % kHindiSetTiles];
+  const int set = HindiSetOf(tile);
+  const Named letter = kHindiConsonants[HindiLetterOf(tile) - 1];
   std::string whole = name ? letter.name : letter.printed;
   if (set == 1) return whole;
-  if (name) return set == 2 ? "half " + whole : whole + " with the foot stroke";
-  return whole + kVirama + (set == 2 ? kJoiner : kFoot);
+  if (name) return set == kHindiHalfSet ? "half " + whole : whole + " with the foot stroke";
+  return whole + kVirama + (set == kHindiHalfSet ? kJoiner : kFoot);
 }
 
 int Tiles(std::string_view set) {
