@@ -4,6 +4,7 @@
 
 #include "files/drives.h"
 #include "files/numbers.h"
+#include "files/sound_sets.h"
 #include "files/trap.h"
 #include "media/play_media_file.h"
 #include "ui/form.h"
@@ -22,30 +23,27 @@ constexpr int kFormats = 4;
 /// How the letter's part of a file's name reads.
 enum class LetterPart : std::uint8_t { Character, Number };
 
-/// One set of sounds.
+/// How a board's sounds are asked for.
 struct CueSet {
-  const char* prefix;    ///< folder and beginning of the file's name
   const char* board;     ///< the form whose checked format and drive count
   const char* captions;  ///< the form whose format items give the extension
   LetterPart part;
 };
 
-// The small letters ask the capitals' board, and the Hindi vowels take their captions there.
+// As kSoundSets. The small letters ask the capitals' board, and the Hindi vowels take their
+// captions there.
 constexpr CueSet kCueSets[] = {
-    {R"(\bramlee\aud\engc\eng-)",      kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
-    {R"(\bramlee\aud\engs\eng-)",      kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
-    {R"(\bramlee\aud\hin\hinv\hinv-)", kHindiVowelsForm,      kCapitalsForm,         LetterPart::Number   },
-    {R"(\bramlee\aud\hin\hinc\hinc-)", kHindiConsonantsForm,  kHindiConsonantsForm,
-     LetterPart::Number                                                                                   },
-    {R"(\bramlee\aud\tel\telv\telv-)", kTeluguVowelsForm,     kTeluguVowelsForm,     LetterPart::Number   },
-    {R"(\bramlee\aud\tel\telc\telc-)", kTeluguConsonantsForm, kTeluguConsonantsForm,
-     LetterPart::Number                                                                                   },
-    {R"(\bramlee\aud\mat\mat-)",       kMathsForm,            kMathsForm,            LetterPart::Number   },
+    {kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
+    {kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
+    {kHindiVowelsForm,      kCapitalsForm,         LetterPart::Number   },
+    {kHindiConsonantsForm,  kHindiConsonantsForm,  LetterPart::Number   },
+    {kTeluguVowelsForm,     kTeluguVowelsForm,     LetterPart::Number   },
+    {kTeluguConsonantsForm, kTeluguConsonantsForm, LetterPart::Number   },
+    {kMathsForm,            kMathsForm,            LetterPart::Number   },
 };
+static_assert(std::size(kCueSets) == std::size(kSoundSets));
 
 constexpr std::int16_t kMathsSet = 7;
-/// Whole numbers, in the place of the maths board's tiles while its txtaud is not 0.
-constexpr char kNumbersPrefix[] = R"(\bramlee\aud\mat\matc\mat-)";
 
 const Form* Loaded(const char* name) {
   const Form* form = LoadForm(name);
@@ -63,9 +61,11 @@ QString Extension(const Form* board, const Form* captions) {
   return caption(1);
 }
 
+/// Whole numbers speak in the place of the maths board's tiles while its txtaud is not 0.
 QString Prefix(std::int16_t cueBoardNo, const Form* board) {
   const bool numbers = cueBoardNo == kMathsSet && Val(board->TextOf(QStringLiteral("txtaud"))) != 0;
-  return QString::fromLatin1(numbers ? kNumbersPrefix : kCueSets[cueBoardNo - 1].prefix);
+  const SoundSet& sounds = numbers ? kNumberSounds : kSoundSets[cueBoardNo - 1];
+  return QString::fromLatin1(kSoundFolder) + QString::fromLatin1(sounds.prefix);
 }
 
 QString LetterText(const CueSet& set, std::int16_t letterNo) {

@@ -1,5 +1,5 @@
 // What the script that users start lays out before the program runs. The program, the maker of
-// sounds and its voice are stand-ins that only tell how they were called.
+// sounds and its voice are stand-ins that only note how they were called.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -24,6 +24,8 @@ class FirstStart : public ::testing::Test {
     }
     QFile::copy(QStringLiteral(BRAMLEE_START_SCRIPT), In("bin/bramlee"));
     Script("libexec/bramlee/bramlee", "echo \"program $*\"; exit 3");
+    QFile::link(QStringLiteral(BRAMLEE_BINARY_DIR "/tools/bramlee-path"),
+                In("libexec/bramlee/bramlee-path"));
     Script("tools/espeak-ng", "exit 0");
     Maker("exit 0");
     for (const char* picture : {"idcard.jpg", "school.jpg"}) {
@@ -144,6 +146,29 @@ TEST_F(FirstStart, LeavesWhatIsThereAloneWhateverItsCase) {
                          QStringLiteral("school.jpg")}));
   EXPECT_EQ(Read("drives/C/BRAMLEE/IDCARD.JPG"), "my own");
   EXPECT_EQ(Read("made"), "--quiet " + QFile::encodeName(In("drives/C")) + '\n');
+}
+
+TEST_F(FirstStart, OfNamesThatDifferInCaseTakesThoseThatTheProgramFinds) {
+  for (const char* folder :
+       {"BRAMLEE/aud", "bramlee/AUD", "bramlee/Aud", "bramlee/DBA", "bramlee/dba", "Bramlee"}) {
+    QDir().mkpath(In("drives/c/") + QString::fromLatin1(folder));
+  }
+  Write("drives/c/BRAMLEE/idcard.jpg", "another folder's");
+  Start();
+  Await([this] { return IsThere("drives/c/bramlee/AUD/.complete"); });
+  EXPECT_EQ(Read("drives/c/bramlee/idcard.jpg"), "the pack's idcard.jpg");
+  EXPECT_FALSE(IsThere("drives/c/BRAMLEE/school.jpg"));
+  EXPECT_EQ(QDir(In("drives/c/bramlee")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 4);
+}
+
+TEST_F(FirstStart, RunsTheProgramEvenWhenNoPathIsFound) {
+  QFile::remove(In("libexec/bramlee/bramlee-path"));
+  const Told told = Start();
+  EXPECT_EQ(told.status, 3);
+  EXPECT_EQ(told.text, "program one two\n");
+  EXPECT_TRUE(told.errors.endsWith(
+      "Drive C: could not be laid out; the program starts without its files.\n"));
+  EXPECT_FALSE(IsThere("made"));
 }
 
 TEST_F(FirstStart, MakesNoSoundsWhenTheyAreNotWanted) {

@@ -11,6 +11,7 @@
 #include <QThread>
 #include <map>
 
+#include "files/drives.h"
 #include "tests/tools/decoded.h"
 #include "tests/tools/run_tool.h"
 
@@ -315,6 +316,29 @@ TEST_F(SoundsMaker, NamesMatchWithoutRegardToCase) {
   EXPECT_EQ(files.size(), 26);
   EXPECT_FALSE(files.contains(QStringLiteral("eng-a.wav")));
   EXPECT_EQ(own.size(), 12);
+}
+
+TEST_F(SoundsMaker, WritesWhereTheProgramLooksWhenNamesDifferInCaseOnly) {
+  const QTemporaryDir drives;
+  for (const char* folder :
+       {"BRAMLEE/AUD", "Bramlee/aud", "BRAMLEE/Aud", "BRAMLEE/AUD/MAT", "BRAMLEE/AUD/Mat"}) {
+    ASSERT_TRUE(QDir().mkpath(drives.filePath(QStringLiteral("c/") + QString::fromLatin1(folder))));
+  }
+  const QString c = drives.filePath(QStringLiteral("c"));
+  for (const char* file : {"MAT-1.wav", "Mat-1.wav"}) {
+    QFile empty(c + QStringLiteral("/BRAMLEE/AUD/MAT/") + QString::fromLatin1(file));
+    ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
+  }
+  const ToolRun run =
+      Sounds({QStringLiteral("--quiet"), QStringLiteral("--sets"), QStringLiteral("mat"),
+              QStringLiteral("--formats"), QStringLiteral("wav"), c});
+  ASSERT_EQ(run.status, 0) << run.error.toStdString();
+  qputenv("BRAMLEE_DRIVES", QFile::encodeName(drives.path()));
+  for (int tile = 1; tile <= 17; ++tile) {
+    const QString sound = SystemPath(QStringLiteral("C:\\bramlee\\aud\\mat\\mat-%1.wav").arg(tile));
+    EXPECT_GT(QFileInfo(sound).size(), 0) << sound.toStdString();
+  }
+  qunsetenv("BRAMLEE_DRIVES");
 }
 
 TEST_F(SoundsMaker, StoppedItLeavesWholeFilesAndIsTakenUpAgain) {

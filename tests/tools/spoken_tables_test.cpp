@@ -40,8 +40,7 @@ TEST(SpokenTables, NameEveryTileOnce) {
     const auto rows = ByFile(name);
     const int tiles = FindLetterSet(name)->tiles;
     for (int tile = 1; tile <= tiles; ++tile) {
-      EXPECT_TRUE(rows.contains(QString::fromLatin1(Set(name).prefix) + QString::number(tile)))
-          << name << tile;
+      EXPECT_TRUE(rows.contains(FilesOf(Set(name)) + QString::number(tile))) << name << tile;
     }
     const std::size_t more = QLatin1StringView(name) == QLatin1StringView("hinv") ? 1 : 0;
     EXPECT_EQ(rows.size(), static_cast<std::size_t>(tiles) + more) << name;
@@ -67,7 +66,7 @@ TEST(SpokenTables, ShowWhatTheTilesShow) {
   for (const char* name : {"hinc", "telv", "telc"}) {
     const auto rows = ByFile(name);
     for (int tile = 1; tile <= FindLetterSet(name)->tiles; ++tile) {
-      const QString file = QString::fromLatin1(Set(name).prefix) + QString::number(tile);
+      const QString file = FilesOf(Set(name)) + QString::number(tile);
       EXPECT_EQ(rows.at(file).shows.toStdString(), PrintedLetter(name, tile)) << name << tile;
     }
   }

@@ -24,7 +24,7 @@ constexpr int kDone = 0;
 constexpr int kSomeMissing = 1;
 constexpr int kBadArguments = 2;
 
-const QString kNumbers = QStringLiteral("matc");
+const QString kNumbers = QString::fromLatin1(kNumberSounds.name);
 const QString kWorkFolder = QStringLiteral(".bramlee-sounds-");
 
 void Say(const QString& text) {

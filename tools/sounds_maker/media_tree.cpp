@@ -3,41 +3,34 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "files/platform.h"
+#include "files/sound_sets.h"
+
 namespace bramlee {
+namespace {
 
-MediaTree::MediaTree(const QString& drive) {
-  folders_.insert({}, QFileInfo(drive).absoluteFilePath());
-  root_ = Folder(QStringLiteral("bramlee/aud"));
-}
-
-/// The name as the folder spells it.
-QString MediaTree::Entry(const QString& folder, const QString& name) {
-  if (!entries_.contains(folder)) {
-    QHash<QString, QString>& entries = entries_[folder];
-    for (const QString& entry :
-         QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
-      entries.insert(entry.toLower(), entry);
-    }
+/// The folder at those parted names below `from`, made if need be. Empty when it cannot be made.
+QString MakeFolder(QString from, const QString& names, QChar parted) {
+  for (const QString& name : names.split(parted, Qt::SkipEmptyParts)) {
+    from = InFolder(from, name);
+    if (LookAt(from) != Sight::Folder && !QDir().mkdir(from)) return {};
   }
-  return entries_[folder].value(name.toLower(), name);
+  return from;
 }
 
-/// `folder` is below the drive, its parts parted by slashes.
-QString MediaTree::Folder(const QString& folder) {
-  if (folders_.contains(folder)) return folders_[folder];
-  const qsizetype slash = folder.lastIndexOf(u'/');
-  const QString parent = Folder(slash < 0 ? QString() : folder.left(slash));
-  if (parent.isEmpty()) return {};
-  QString path = parent + u'/' + Entry(parent, folder.mid(slash + 1));
-  if (!QDir(path).exists() && !QDir().mkdir(path)) return {};
-  folders_.insert(folder, path);
-  return path;
-}
+}  // namespace
+
+MediaTree::MediaTree(const QString& drive)
+    : root_(MakeFolder(QFileInfo(drive).absoluteFilePath(), QString::fromLatin1(kSoundFolder),
+                       u'\\')) {}
 
 QString MediaTree::PathOf(const QString& file) {
   const qsizetype slash = file.lastIndexOf(u'/');
-  const QString folder = Folder(QStringLiteral("bramlee/aud/") + file.left(slash));
-  return folder.isEmpty() ? QString() : folder + u'/' + Entry(folder, file.mid(slash + 1));
+  const QString asked = file.left(slash);
+  if (root_.isEmpty()) return {};
+  if (!folders_.contains(asked)) folders_.insert(asked, MakeFolder(root_, asked, u'/'));
+  const QString folder = folders_.value(asked);
+  return folder.isEmpty() ? QString() : InFolder(folder, file.mid(slash + 1));
 }
 
 bool MediaTree::IsThere(const QString& path) {

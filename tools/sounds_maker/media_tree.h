@@ -2,18 +2,17 @@
 #pragma once
 
 #include <QHash>
-#include <QSet>
 #include <QString>
 
 namespace bramlee {
 
-/// The tree bramlee/aud below a drive's folder. Names are found whatever their case, as the
-/// program finds them; what is not there is made in small letters.
+/// The folder of sounds below a drive's folder. Names are found as the program finds them; what is
+/// not there is made in small letters.
 class MediaTree {
  public:
   explicit MediaTree(const QString& drive);
 
-  /// The folder bramlee/aud, made if need be. Empty when it cannot be made.
+  /// The folder of sounds, made if need be. Empty when it cannot be made.
   const QString& Root() const { return root_; }
 
   /// The full path for "engc/eng-a.wma" below it, its folder made if need be. Empty when that
@@ -25,12 +24,8 @@ class MediaTree {
   static bool IsThere(const QString& path);
 
  private:
-  QString Folder(const QString& folder);
-  QString Entry(const QString& folder, const QString& name);
-
   QString root_;
-  QHash<QString, QString> folders_;                  ///< path asked for, path found
-  QHash<QString, QHash<QString, QString>> entries_;  ///< of a folder, by small letters
+  QHash<QString, QString> folders_;  ///< below root_: as asked for, full path
 };
 
 }  // namespace bramlee

@@ -63,6 +63,10 @@ class TableReader {
 
 }  // namespace
 
+QString FilesOf(const SoundSet& set) {
+  return QString::fromLatin1(set.prefix).replace(u'\\', u'/');
+}
+
 QList<Spoken> ReadSpokenTable(const SoundSet& set, const QString& folder, QString& error) {
   error.clear();
   QFile file(folder + QStringLiteral("/%1.tsv").arg(QString::fromLatin1(set.name)));
@@ -70,7 +74,7 @@ QList<Spoken> ReadSpokenTable(const SoundSet& set, const QString& folder, QStrin
     error = QStringLiteral("%1: %2").arg(file.fileName(), file.errorString());
     return {};
   }
-  TableReader reader(QString::fromLatin1(set.prefix));
+  TableReader reader(FilesOf(set));
   int number = 0;
   while (!file.atEnd()) {
     ++number;
@@ -88,7 +92,7 @@ QList<Spoken> SpokenNumbers(int first, int last) {
   QList<Spoken> rows;
   for (int number = first; number <= last; ++number) {
     const QString digits = QString::number(number);
-    rows.append({QStringLiteral("mat/matc/mat-") + digits, digits, QStringLiteral("en-gb"), 120,
+    rows.append({FilesOf(kNumberSounds) + digits, digits, QStringLiteral("en-gb"), 120,
                  NumberWords(number)});
   }
   return rows;
