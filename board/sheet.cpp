@@ -56,6 +56,7 @@ void Sheet::SetBackColor(ColourWord colour) {
 
 void Sheet::Wipe() {
   ink_.Wipe();
+  if (!shown_.isNull()) shown_.fill(backColor_);
   update();
 }
 
@@ -99,15 +100,23 @@ void Sheet::ShowNewDots() {
   if (!dirty.isEmpty()) repaint(dirty);
 }
 
-/// Brings what is shown up to date; returns around what has changed, in logical pixels.
+/// Makes ready all that the sheet is shown with; returns false when there is no memory for it.
+bool Sheet::MakeReady(double ratio) {
+  const QSize size = Planes::SizeOf(rect(), ratio);
+  if (shown_.size() == size) return ink_.Cover(rect(), ratio);
+  QImage picture(size, QImage::Format_RGB32);
+  if (picture.isNull() || !ink_.Cover(rect(), ratio)) return false;
+  shown_ = std::move(picture);
+  shownGround_.reset();
+  return true;
+}
+
+/// Brings what is shown up to date; returns around what has changed, in logical pixels. Where the
+/// memory has run out the last picture stays, until a later call finds some.
 QRect Sheet::Refresh() {
   const double ratio = devicePixelRatioF();
-  ink_.Cover(rect(), ratio);
+  if (!MakeReady(ratio)) return {};
   QRect dirty = ink_.TakeDirty();
-  if (shown_.size() != ink_.CoveredSize()) {
-    shown_ = QImage(ink_.CoveredSize(), QImage::Format_RGB32);
-    shownGround_.reset();
-  }
   if (shownGround_ != backColor_) dirty = shown_.rect();
   shownGround_ = backColor_;
   shown_.setDevicePixelRatio(ratio);
@@ -123,6 +132,8 @@ void Sheet::paintEvent(QPaintEvent* event) {
   if (!unseen.isEmpty()) update(unseen);
   QPainter painter(this);
   painter.setClipRegion(event->region());
+  const QRectF picture(QPointF(), shown_.deviceIndependentSize());
+  if (!picture.contains(rect())) painter.fillRect(rect(), backColor_);
   painter.drawImage(0, 0, shown_);
 }
 

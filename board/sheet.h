@@ -88,6 +88,7 @@ class Sheet final : public QWidget, public DrawingSurface {
   void Rest(std::int64_t dots);
   void ShowNewDots();
   QRect Refresh();
+  bool MakeReady(double ratio);
   void TakeStep(const QString& text);
 
   QLineEdit* stepBox_ = nullptr;
@@ -95,7 +96,7 @@ class Sheet final : public QWidget, public DrawingSurface {
 
   Ink ink_;
   QColor backColor_{Qt::white};
-  QImage shown_;                       ///< all of the sheet as it was shown last
+  QImage shown_;                       ///< all of the sheet as it was shown last; null at first
   std::optional<QColor> shownGround_;  ///< what it was shown over
 
   int writing_ = 0;

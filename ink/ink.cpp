@@ -26,7 +26,7 @@ void Ink::Turn(float x, float y) {
   directionY_ = dy / distance;
 }
 
-void Ink::Flush() {
+void Ink::Flush() noexcept {
   if (std::exchange(held_, false)) Keep(heldX_, heldY_);
   heldAlong_ = kNever;
   atWork_ = false;
@@ -98,17 +98,28 @@ bool Ink::RewindTo(InkMark mark) {
   while (!stretches_.empty() && stretches_.back().first >= dots_.size()) stretches_.pop_back();
   colour_ = place->colour;
   marks_.erase(place + 1, marks_.end());
-  if (planes_) {
-    planes_->Clear();
-    ReplayInto(*planes_);
-  }
+  ChangePlanes([this](Planes& planes) {
+    planes.Clear();
+    ReplayInto(planes);
+  });
   return true;
 }
 
-void Ink::SetColour(ColourWord colour) {
+/// Planes that find no room for a colour go: the journal has all that they showed.
+template <class Change>
+void Ink::ChangePlanes(Change change) noexcept {
+  if (!planes_) return;
+  try {
+    change(*planes_);
+  } catch (const std::bad_alloc&) {
+    planes_.reset();
+  }
+}
+
+void Ink::SetColour(ColourWord colour) noexcept {
   Flush();
   colour_ = colour;
-  if (planes_) planes_->SetColour(colour);
+  ChangePlanes([colour](Planes& planes) { planes.SetColour(colour); });
 }
 
 void Ink::Wipe() {
@@ -147,17 +158,23 @@ QImage Ink::Picture(const QRectF& area, double ratio, const QColor& ground) cons
   }
 }
 
-void Ink::Cover(const QRectF& area, double ratio) {
-  if (planes_ && planes_->Area() == area && planes_->Ratio() == ratio) return;
-  planes_.emplace(area, ratio);
-  ReplayInto(*planes_);
+bool Ink::Cover(const QRectF& area, double ratio) noexcept {
+  if (planes_ && planes_->Area() == area && planes_->Ratio() == ratio) return true;
+  planes_.reset();  // leaves more room for the new ones
+  try {
+    Planes planes(area, ratio);
+    ReplayInto(planes);
+    planes_ = std::move(planes);
+  } catch (const std::bad_alloc&) {  // the journal is there for a later call
+  }
+  return planes_.has_value();
 }
 
 QRect Ink::TakeDirty() {
   return planes_ ? planes_->TakeDirty() : QRect();
 }
 
-void Ink::Compose(QImage& image, const QRect& part, const QColor& ground) {
+void Ink::Compose(QImage& image, const QRect& part, const QColor& ground) noexcept {
   if (planes_) planes_->Compose(image, part, ground.rgb());
 }
 

@@ -49,9 +49,10 @@ class Ink final : public DrawingSurface {
   }
   void EndRun() override { Flush(); }
 
-  /// The colour of the dots to come; red at first.
+  /// The colour of the dots to come; red at first. Never throws: a pen is put back as well where
+  /// the memory has run out.
   ColourWord Colour() const { return colour_; }
-  void SetColour(ColourWord colour);
+  void SetColour(ColourWord colour) noexcept;
 
   /// Takes every dot away; no mark is left.
   void Wipe();
@@ -75,13 +76,14 @@ class Ink final : public DrawingSurface {
   // --- what a window shows: kept ready, so that each frame costs only what is new
 
   /// Keeps what lies within `area` ready at `ratio`. Asked for the same again it does nothing.
-  void Cover(const QRectF& area, double ratio);
+  /// Returns false when there is no memory for it: nothing is covered then.
+  bool Cover(const QRectF& area, double ratio) noexcept;
   /// Size of what is covered, in device pixels.
   QSize CoveredSize() const { return planes_ ? planes_->Size() : QSize(); }
   /// Where the covered part has changed since the last call, in device pixels.
   QRect TakeDirty();
   /// Paints a part of what is covered into the same place of a 32-bit image of CoveredSize().
-  void Compose(QImage& image, const QRect& part, const QColor& ground);
+  void Compose(QImage& image, const QRect& part, const QColor& ground) noexcept;
 
   /// How many dots the journal holds.
   std::size_t KeptDots() const { return dots_.size(); }
@@ -110,7 +112,7 @@ class Ink final : public DrawingSurface {
 
   /// Takes a dot that is not passed over. Throws std::bad_alloc when there is no memory for it.
   void Turn(float x, float y);
-  void Flush();
+  void Flush() noexcept;
   void MakeRoom();
   void Keep(float x, float y);
   void ForgetCovered();
@@ -118,6 +120,8 @@ class Ink final : public DrawingSurface {
     return stretch + 1 < stretches_.size() ? stretches_[stretch + 1].first : dots_.size();
   }
   void ReplayInto(Planes& planes) const;
+  template <class Change>
+  void ChangePlanes(Change change) noexcept;
 
   /// A mark and what stood then.
   struct MarkedPlace {

@@ -33,6 +33,9 @@ BRAMLEE_WIDE void TakeOut(std::uint64_t* from, const std::uint64_t* other, int c
   for (int i = 0; i < count; ++i) from[i] &= ~other[i];
 }
 
+/// On the stack: painting a frame asks for no memory.
+constexpr int kPixelsAtOnce = 256;
+
 /// What one colour adds to the pixels of a row: its three parts times its samples.
 struct Sums {
   int red;
@@ -73,11 +76,15 @@ Planes::Box Planes::Box::Shared(const Box& other) const {
           std::min(bottom, other.bottom)};
 }
 
+QSize Planes::SizeOf(const QRectF& area, double ratio) {
+  return {static_cast<int>(std::ceil(area.width() * ratio)),
+          static_cast<int>(std::ceil(area.height() * ratio))};
+}
+
 Planes::Planes(const QRectF& area, double ratio)
     : stamps_(ratio),
       area_(area),
-      size_(static_cast<int>(std::ceil(area.width() * ratio)),
-            static_cast<int>(std::ceil(area.height() * ratio))),
+      size_(SizeOf(area, ratio)),
       margin_(2 * stamps_.Reach() + 1),
       stride_(size_.width() + margin_ + stamps_.Columns() + 1),
       rows_(size_.height() + 2 * margin_ + 1),
@@ -138,23 +145,31 @@ QRect Planes::TakeDirty() {
       .intersected(QRect(QPoint(), size_));
 }
 
-void Planes::Compose(QImage& image, const QRect& part, QRgb ground) {
+void Planes::Compose(QImage& image, const QRect& part, QRgb ground) noexcept {
   Settle();
   const QRect area = part.intersected(QRect(QPoint(), size_));
-  std::vector<Sums> sums(static_cast<std::size_t>(area.width()));
   for (int y = area.top(); y <= area.bottom(); ++y) {
-    std::fill(sums.begin(), sums.end(), Sums{});
-    const int left = area.left() + margin_;
-    const Box line{left, y + margin_, left + area.width(), y + margin_ + 1};
-    for (const Plane& plane : planes_) {
-      const Box box = line.Shared(plane.touched);
-      if (box.Empty()) continue;
-      const QColor colour = ColourOf(plane.colour);
-      AddColour(sums.data() + box.left - left, RowOf(plane, box.top) + box.left,
-                box.right - box.left, {colour.red(), colour.green(), colour.blue(), 0});
+    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = area.left(); x <= area.right(); x += kPixelsAtOnce) {
+      ComposePixels(line + x, x, y, std::min(kPixelsAtOnce, area.right() + 1 - x), ground);
     }
-    auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(y)) + area.left();
-    for (const Sums& sum : sums) *pixel++ = sum.samples == 0 ? ground : Mixed(sum, ground);
+  }
+}
+
+void Planes::ComposePixels(QRgb* pixel, int x, int y, int count, QRgb ground) const {
+  Sums sums[kPixelsAtOnce];
+  std::fill_n(sums, count, Sums{});
+  const int left = x + margin_;
+  const Box pixels{left, y + margin_, left + count, y + margin_ + 1};
+  for (const Plane& plane : planes_) {
+    const Box box = pixels.Shared(plane.touched);
+    if (box.Empty()) continue;
+    const QColor colour = ColourOf(plane.colour);
+    AddColour(sums + (box.left - left), RowOf(plane, box.top) + box.left, box.right - box.left,
+              {colour.red(), colour.green(), colour.blue(), 0});
+  }
+  for (int i = 0; i < count; ++i) {
+    pixel[i] = sums[i].samples == 0 ? ground : Mixed(sums[i], ground);
   }
 }
 

@@ -24,8 +24,11 @@ class Planes {
   double Ratio() const { return stamps_.Ratio(); }
   /// What it covers, in device pixels.
   QSize Size() const { return size_; }
+  /// What `area` at `ratio` comes to, in device pixels.
+  static QSize SizeOf(const QRectF& area, double ratio);
 
-  /// The colour of the stamps to come.
+  /// The colour of the stamps to come. Throws std::bad_alloc when it is a new one and there is no
+  /// memory for it.
   void SetColour(ColourWord colour);
 
   /// Sets a dot with its centre at `x`, `y` (sheet pixels). What lies off the area is cut off.
@@ -50,8 +53,8 @@ class Planes {
   QRect TakeDirty();
 
   /// Paints the part `part` (device pixels of the area) into the same place of `image`, a 32-bit
-  /// image of Size(), over `ground`.
-  void Compose(QImage& image, const QRect& part, QRgb ground);
+  /// image of Size(), over `ground`. Asks for no memory.
+  void Compose(QImage& image, const QRect& part, QRgb ground) noexcept;
 
  private:
   /// Rows and columns of the planes, the last ones beyond it.
@@ -73,6 +76,7 @@ class Planes {
 
   void SetBits(const std::uint64_t* stamp, int column, int row);
   void Settle();
+  void ComposePixels(QRgb* pixel, int x, int y, int count, QRgb ground) const;
   std::uint64_t* RowOf(const Plane& plane, int row) const {
     return plane.words.get() + std::ptrdiff_t{row} * stride_;
   }

@@ -1,4 +1,4 @@
-// Drawings that end half-way: here the memory for their dots runs out.
+// Drawings that end half-way, or are not seen: here the memory for them runs out.
 #include "tests/board/board_fixture.h"
 #include "tests/board/scarce_memory.h"
 
@@ -8,6 +8,8 @@ namespace {
 /// What the journal asks for when it has 4096 and 8192 dots and one more comes.
 constexpr std::size_t kFor8192Dots = 60000;
 constexpr std::size_t kFor16384Dots = 120000;
+/// Less than any colour on a board asks for.
+constexpr std::size_t kForAPlane = 1000000;
 
 class BoardFailures : public BoardTest {};
 
@@ -67,6 +69,21 @@ TEST_F(BoardFailures, TheNextClickWritesAsEver) {
   EXPECT_EQ(ColourAt(board, 625, 200), kRed);
   Pick(board, "mnuclear1");
   EXPECT_TRUE(IsBlank(board, 625, 200));
+}
+
+TEST_F(BoardFailures, AGridWithoutRoomForItsColourPutsThePenBackAndComesWhenThereIsRoom) {
+  Board& board = Open("fbrmengc02");
+  board.pic_Click(2);
+  board.sheet().grab();
+  {
+    const ScarceMemory memory(ScarceMemory::kAny, kForAPlane);
+    EXPECT_NO_THROW(Pick(board, "mnugrid"));
+    board.sheet().grab();
+    EXPECT_GE(memory.Refused(), 1);
+  }
+  EXPECT_EQ(board.sheet().ForeColor(), 0x0000FFU);
+  EXPECT_EQ(board.TextOf(Q("txtundo(32)")), Q("1"));
+  EXPECT_EQ(board.sheet().grab().toImage().pixelColor(500, 50), QColor(Qt::blue));
 }
 
 }  // namespace

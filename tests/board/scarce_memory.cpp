@@ -5,24 +5,27 @@
 namespace bramlee {
 namespace {
 
-std::size_t refusedFrom = 0;  // 0: nothing is refused
+std::size_t refusedFrom = ScarceMemory::kAny;
+std::size_t zeroedRefusedFrom = ScarceMemory::kAny;
 int refused = 0;
 
-void RefuseIfScarce(std::size_t bytes) {
-  if (refusedFrom == 0 || bytes < refusedFrom) return;
+bool IsRefused(std::size_t bytes, std::size_t from) {
+  if (bytes < from) return false;
   ++refused;
-  throw std::bad_alloc();
+  return true;
 }
 
 }  // namespace
 
-ScarceMemory::ScarceMemory(std::size_t bytes) {
+ScarceMemory::ScarceMemory(std::size_t bytes, std::size_t zeroedBytes) {
   refusedFrom = bytes;
+  zeroedRefusedFrom = zeroedBytes;
   refused = 0;
 }
 
 ScarceMemory::~ScarceMemory() {
-  refusedFrom = 0;
+  refusedFrom = kAny;
+  zeroedRefusedFrom = kAny;
 }
 
 int ScarceMemory::Refused() const {
@@ -31,14 +34,20 @@ int ScarceMemory::Refused() const {
 
 }  // namespace bramlee
 
-// The linker's names for both.
+// The linker's names for them.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 void* __real__Znwm(std::size_t bytes);
 void* __wrap__Znwm(std::size_t bytes);
 void* __wrap__Znwm(std::size_t bytes) {
-  bramlee::RefuseIfScarce(bytes);
+  if (bramlee::IsRefused(bytes, bramlee::refusedFrom)) throw std::bad_alloc();
   return __real__Znwm(bytes);
+}
+void* __real_calloc(std::size_t count, std::size_t bytes);
+void* __wrap_calloc(std::size_t count, std::size_t bytes);
+void* __wrap_calloc(std::size_t count, std::size_t bytes) {
+  if (bramlee::IsRefused(count * bytes, bramlee::zeroedRefusedFrom)) return nullptr;
+  return __real_calloc(count, bytes);
 }
 }
 // NOLINTEND(bugprone-reserved-identifier)

@@ -1,14 +1,18 @@
-// Memory that runs out. The linker puts it between our code and operator new (--wrap).
+// Memory that runs out. The linker puts it between our code and operator new, and between our code
+// and calloc (--wrap).
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace bramlee {
 
-/// While this lives nobody gets `bytes` or more at once.
+/// While this lives nobody gets `bytes` or more at once, or as many zeroed bytes.
 class ScarceMemory {
  public:
-  explicit ScarceMemory(std::size_t bytes);
+  static constexpr std::size_t kAny = SIZE_MAX;  ///< as many as are asked for
+
+  explicit ScarceMemory(std::size_t bytes, std::size_t zeroedBytes = kAny);
   ~ScarceMemory();
   ScarceMemory(const ScarceMemory&) = delete;
   ScarceMemory& operator=(const ScarceMemory&) = delete;
