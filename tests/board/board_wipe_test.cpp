@@ -94,10 +94,11 @@ TEST_F(Wipe, KeepsTheFirstOfSeveralRuleFlagsAndAGridFlagOfOneOnly) {
   EXPECT_FALSE(board.Checked(Q("mnugrid")));
 }
 
-TEST_F(Wipe, KeepsTheFirstFormatWhilePlayIsOn) {
+TEST_F(Wipe, KeepsTheFirstMarkedFormatWhilePlayIsOn) {
   Board& board = Open("fbrmengc02");
   Pick(board, "mnuaud");
   Pick(board, "mnufor(2)");
+  board.SetChecked(Q("mnufor(3)"), true);
   Pick(board, "mnuclear1");
   EXPECT_TRUE(board.Checked(Q("mnuaud")));
   EXPECT_EQ(Marked(board, "mnufor", 4), std::vector<int>{2});

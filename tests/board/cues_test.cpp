@@ -98,6 +98,14 @@ TEST_F(Cues, EachFormatIsItsItemsCaption) {
   }
 }
 
+TEST_F(Cues, OfSeveralMarkedFormatsTheFirstPlays) {
+  Board& capitals = Open("fbrmengc02");
+  for (const char* item : {"mnufor(2)", "mnufor(3)", "mnufor(4)"}) {
+    capitals.SetChecked(Q(item), true);
+  }
+  EXPECT_EQ(Path(1, 1), R"(C:\bramlee\aud\engc\eng-a.mp3)");
+}
+
 TEST_F(Cues, CaptionsAreReadWithoutMnemonicMarksAndBlanks) {
   Board& capitals = Open("fbrmengc02");
   capitals.Named<QAction>(Q("mnufor(3)"))->setText(Q(" .w&av "));

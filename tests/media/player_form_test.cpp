@@ -1,5 +1,6 @@
 #include "media/player_form.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFileInfo>
@@ -365,6 +366,20 @@ TEST_F(PlayerFormTest, SwitchesTheCountdownWithColoursAndKeepsWhatHasElapsed) {
   EXPECT_EQ(BackColorOf(Find<QWidget>("txtete")), 65535U);
   Tick(1);
   EXPECT_EQ(Text("txtete"), Name("3.666"));
+}
+
+TEST_F(PlayerFormTest, ACountdownThatRunsIsNotBegunAnewBySwitchingItOn) {
+  auto* countdown = Find<QTimer>("Timerete");
+  // Without the event loop's knowledge it runs on with no time left to it; a start would give it
+  // a new one.
+  QAbstractEventDispatcher::instance()->unregisterTimer(countdown->timerId());
+  ASSERT_TRUE(countdown->isActive());
+  ASSERT_EQ(countdown->remainingTime(), -1);
+  Find<QAction>("mnucdown(1)")->trigger();
+  EXPECT_EQ(countdown->remainingTime(), -1);
+  Find<QAction>("mnucdown(2)")->trigger();
+  Find<QAction>("mnucdown(1)")->trigger();
+  EXPECT_GT(countdown->remainingTime(), 0);
 }
 
 TEST_F(PlayerFormTest, LoadedAnewCountsAnew) {
