@@ -39,19 +39,16 @@ void FillTable(TableSlot (&table)[kSlots]) {
 
 std::int16_t POP_FILE_DATA(FileSlot& slot) {
   std::int16_t missing = 1;
-  Trap(
-      QStringLiteral("602:27"),
-      [&](ErrInfo&) {
-        TableSlot table[kSlots];
-        FillTable(table);
-        if (slot.SlotNo < 0 || slot.SlotNo >= kSlots) {
-          throw TrappedError(QStringLiteral("no such slot"));
-        }
-        slot.SlotPath = table[slot.SlotNo].path;
-        slot.SlotRecLen = table[slot.SlotNo].recordLength;
-        missing = FileMissing(slot.SlotPath) ? 1 : 0;
-      },
-      [](ErrInfo&) { TheEnvironment().tell(QStringLiteral("POP_FILE_DATA:ERROR")); });
+  Trap(QStringLiteral("602:27"), [&](ErrInfo&) {
+    if (slot.SlotNo < 0 || slot.SlotNo >= kSlots) {
+      return TheEnvironment().tell(QStringLiteral("POP_FILE_DATA:ERROR"));
+    }
+    TableSlot table[kSlots];
+    FillTable(table);
+    slot.SlotPath = table[slot.SlotNo].path;
+    slot.SlotRecLen = table[slot.SlotNo].recordLength;
+    missing = FileMissing(slot.SlotPath) ? 1 : 0;
+  });
   return missing;
 }
 

@@ -67,8 +67,7 @@ bool FileMissing(const QString& path) {
   Trap(QStringLiteral("com1:14"), [&](ErrInfo&) {
     const bool pattern = path.contains(u'?') || path.contains(u'*');
     const Sight sight = pattern ? Sight::Nothing : LookAt(SystemPath(path));
-    if (sight == Sight::Unknown) throw TrappedError(QStringLiteral("cannot be looked at"));
-    missing = sight != Sight::File;
+    missing = sight == Sight::Nothing || sight == Sight::Folder;
   });
   return missing;
 }

@@ -13,6 +13,10 @@ namespace {
 constexpr double kWidth = 6000;
 constexpr double kHeight = 2400;
 
+void TellOfPassword() {
+  MsgBox(QStringLiteral("Verify Password Protection"));
+}
+
 }  // namespace
 
 LoadingNotice::LoadingNotice() : Form(kLoadingNotice, Kind::FrameChild) {
@@ -50,14 +54,12 @@ void LoadingNotice::Timer1_Timer() {
       {},
       [this](ErrInfo&) {
         const double number = Val(TextOf(QStringLiteral("txtpwd")));
+        // The switch stands before a form that the program does not have.
+        if (number == 1 || number == 2 || number == 3) return TellOfPassword();
         if (number == 0) ShowForm(kHomeForm);
-        if (number == 1 || number == 2 || number == 3) {
-          // The switch stands before a form that the program does not have.
-          throw TrappedError(QStringLiteral("no form to ask for a password"));
-        }
         UnloadForm(this);
       },
-      [](ErrInfo&) { MsgBox(QStringLiteral("Verify Password Protection")); });
+      [](ErrInfo&) { TellOfPassword(); });
 }
 
 }  // namespace bramlee

@@ -6,6 +6,7 @@
 
 #include "files/drives.h"
 #include "files/numbers.h"
+#include "files/platform.h"
 #include "files/trap.h"
 #include "home/start_ground.h"
 #include "ui/form_ids.h"
@@ -69,7 +70,10 @@ void StartForm::Form_Load() {
       connect(SubWindow(), &QMdiSubWindow::aboutToActivate, this,
               [this] { client()->setUpdatesEnabled(true); });
     }
-    Trap(err.ErrTag, [](ErrInfo&) { MkDir(QStringLiteral("C:/bramlee")); });  // it may be there
+    const QString folder = QStringLiteral("C:/bramlee");
+    if (LookAt(SystemPath(folder)) == Sight::Nothing) {
+      Trap(err.ErrTag, [&](ErrInfo&) { MkDir(folder); });
+    }
     ChDrive(QStringLiteral("C:"));
     ChDir(QStringLiteral("C:\\"));
   });

@@ -13,6 +13,7 @@
 #include "files/trap.h"
 #include "tests/files/faulty_disk.h"
 #include "tests/files/temp_drives.h"
+#include "tests/files/trap_log.h"
 #include "tests/ui/real_boxes.h"
 
 namespace bramlee {
@@ -407,6 +408,7 @@ TEST_F(FileTable, GivesAnEmptyPathForAnUnfilledSlot) {
 }
 
 TEST_F(FileTable, EndsAtSlotTwenty) {
+  const TrapLog log;
   for (const std::int16_t no : {std::int16_t{21}, std::int16_t{22}, std::int16_t{32767},
                                 std::int16_t{-1}, std::int16_t{-32768}}) {
     std::int16_t result = 0;
@@ -415,6 +417,16 @@ TEST_F(FileTable, EndsAtSlotTwenty) {
     EXPECT_EQ(boxes, QStringList(QStringLiteral("POP_FILE_DATA:ERROR")));
     boxes.clear();
   }
+  EXPECT_TRUE(TrapLog::Lines().isEmpty());  // nothing is thrown
+}
+
+TEST_F(FileTable, LogsItsTagWhenItCannotTell) {
+  const TrapLog log;
+  TheEnvironment().tell = [](const QString&) { throw std::bad_alloc(); };
+  std::int16_t result = 0;
+  Asked(21, &result);
+  EXPECT_EQ(result, 1);
+  EXPECT_EQ(TrapLog::Tags(), Tags({"602:27"}));
 }
 
 TEST_F(FileTable, TellsOfAWrongSlotInARealBox) {

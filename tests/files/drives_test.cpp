@@ -1,12 +1,15 @@
 #include "files/drives.h"
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QStandardPaths>
 
 #include "files/trap.h"
 #include "tests/files/temp_drives.h"
+#include "tests/files/trap_log.h"
 
 namespace bramlee {
 namespace {
@@ -123,8 +126,28 @@ TEST_F(FileMissingOf, WhatIsNoFileIsTrue) {
 }
 
 TEST_F(FileMissingOf, ANameTooLongToLookAtIsFalse) {
+  const TrapLog log;
   EXPECT_FALSE(FileMissing(QStringLiteral("C:\\") + QString(300, u'a')));
   EXPECT_FALSE(FileMissing(QStringLiteral("C:\\") + QStringLiteral("a\\").repeated(3000)));
+  EXPECT_TRUE(TrapLog::Lines().isEmpty());  // nothing is thrown
+}
+
+TEST_F(FileMissingOf, ANameThatTakesMoreMemoryThanThereIsIsFalseAndLogsTheTag) {
+#ifdef __SANITIZE_ADDRESS__
+  GTEST_SKIP() << "the sanitizer's memory has no limit";
+#endif
+  const TrapLog log;
+  const QString path = QStringLiteral(" ") + QString(1 << 24, u'a');
+  const pid_t child = fork();
+  if (child == 0) {
+    const rlimit none{.rlim_cur = 0, .rlim_max = 0};
+    setrlimit(RLIMIT_AS, &none);
+    const bool missing = FileMissing(path);
+    _exit(!missing && TrapLog::Tags() == Tags({"com1:14"}) ? 0 : 1);
+  }
+  int status = -1;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
 }
 
 TEST_F(FileMissingOf, AFolderWithoutPermissionIsFalse) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/files/trap_log.h"
+
 namespace bramlee {
 namespace {
 
@@ -40,6 +42,34 @@ TEST(TrapOf, LetsNothingThrough) {
   EXPECT_FALSE(Trap(
       {}, [](ErrInfo&) { throw TrappedError(QStringLiteral("x")); },
       [](ErrInfo&) { throw TrappedError(QStringLiteral("y")); }));
+}
+
+TEST(TrapOf, LogsTheTagAndWhatFailed) {
+  const TrapLog log;
+  Trap(QStringLiteral("601:03"), [](ErrInfo&) { throw TrappedError(QStringLiteral("no form")); });
+  EXPECT_EQ(TrapLog::Lines(), QStringList(QStringLiteral("[601:03] no form")));
+}
+
+TEST(TrapOf, LogsWhatItsHandlerThrowsToo) {
+  const TrapLog log;
+  Trap(
+      QStringLiteral("601:03"), [](ErrInfo&) { throw TrappedError(QStringLiteral("x")); },
+      [](ErrInfo&) { throw TrappedError(QStringLiteral("y")); });
+  EXPECT_EQ(TrapLog::Lines(),
+            QStringList({QStringLiteral("[601:03] x"), QStringLiteral("[601:03] y")}));
+}
+
+TEST(TrapOf, LogsNothingWithoutAnError) {
+  const TrapLog log;
+  Trap(QStringLiteral("601:03"), [](ErrInfo&) {});
+  EXPECT_TRUE(TrapLog::Lines().isEmpty());
+}
+
+TEST(TrapOf, IsSilentUnlessItsMessagesAreAskedFor) {
+  const TrapLog log;
+  QLoggingCategory::setFilterRules({});
+  Trap(QStringLiteral("601:03"), [](ErrInfo&) { throw TrappedError(QStringLiteral("x")); });
+  EXPECT_TRUE(TrapLog::Lines().isEmpty());
 }
 
 }  // namespace

@@ -4,7 +4,9 @@
 #include <QMenuBar>
 
 #include "home/frame_form.h"
+#include "tests/files/trap_log.h"
 #include "tests/home/shell_forms.h"
+#include "tests/ui/failing_event.h"
 
 namespace bramlee {
 namespace {
@@ -36,6 +38,13 @@ TEST_F(Frame, IsAThousandthShortOfTheScreenAndInItsMiddle) {
   EXPECT_EQ(outer.height, 11508);
   EXPECT_EQ(outer.left, 7.5);
   EXPECT_EQ(outer.top, 6);
+}
+
+TEST_F(Frame, ItsLoadLogsItsTag) {
+  const TrapLog log;
+  const FailingEvent noFlag("MDIbrm", QEvent::DynamicPropertyChange);
+  Shown("MDIbrm");
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:02"}));
 }
 
 TEST_F(Frame, StartHomeAndTheNoticeStandInIt) {

@@ -7,7 +7,9 @@
 
 #include "files/trap.h"
 #include "home/home_form.h"
+#include "tests/files/trap_log.h"
 #include "tests/home/shell_forms.h"
+#include "tests/ui/failing_event.h"
 
 namespace bramlee {
 namespace {
@@ -461,6 +463,27 @@ TEST_F(Home, SubjectsAreReachedAndPressedFromTheKeyboard) {
   }
   QTest::keyClick(Tile(home, 4), Qt::Key_Space);
   EXPECT_NE(Loaded("fbrmhinc01"), nullptr);
+}
+
+TEST_F(Home, ItsRoutinesLogTheirTags) {
+  MakeDataFolder();
+  const TrapLog log;
+  {
+    const FailingEvent noFlag("fbrmhom1", QEvent::DynamicPropertyChange);
+    TheForm();
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"603:01"}));
+  UnloadAll();
+  TrapLog::Lines().clear();
+  {
+    const FailingEvent noFont("lblsol(0)", QEvent::FontChange);
+    TheForm();
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));
+  TrapLog::Lines().clear();
+  ReplaceEndProgram([] { throw TrappedError(QStringLiteral("no end")); });
+  TheForm()->mnuexit_Click();
+  EXPECT_EQ(TrapLog::Tags(), Tags({"603:02"}));
 }
 
 TEST_F(Home, ALayoutThatFailsSaysSo) {

@@ -2,6 +2,7 @@
 #include <QMdiSubWindow>
 
 #include "home/frame_form.h"
+#include "tests/files/trap_log.h"
 #include "tests/home/shell_forms.h"
 
 namespace bramlee {
@@ -68,6 +69,7 @@ TEST_F(Lock, NamingTheNoticeForItsNumberLoadsItAndStartsItsTimer) {
 }
 
 TEST_F(Lock, BothEndInTheMessageAndTheNoticeStays) {
+  const TrapLog log;
   for (const int index : {1, 2}) {
     Pick(index);
     Tick(Timer());
@@ -79,6 +81,7 @@ TEST_F(Lock, BothEndInTheMessageAndTheNoticeStays) {
     UnloadForm(Loaded("fbrmsav1"));
     boxes.clear();
   }
+  EXPECT_TRUE(TrapLog::Lines().isEmpty());  // nothing is thrown
 }
 
 TEST_F(Lock, ANoticeTicksOnceInItsLife) {

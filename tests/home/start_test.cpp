@@ -3,6 +3,7 @@
 #include <new>
 
 #include "home/start_form.h"
+#include "tests/files/trap_log.h"
 #include "tests/home/shell_forms.h"
 
 namespace bramlee {
@@ -299,6 +300,37 @@ TEST_F(Start, ItsLoadMakesTheFolderOnDriveCAndNothingBelowIt) {
   EXPECT_TRUE(QDir(On("c/bramlee")).exists());
   EXPECT_TRUE(QDir(On("c/bramlee")).isEmpty());
   EXPECT_EQ(CurDir(), QStringLiteral("C:\\"));
+}
+
+TEST_F(Start, ItsLoadGoesToTheRootOfDriveC) {
+  MakeDataFolder();
+  ChDir(QStringLiteral("C:\\bramlee"));
+  TheForm();
+  EXPECT_EQ(CurDir(), QStringLiteral("C:\\"));
+}
+
+TEST_F(Start, AFolderThatIsThereIsNoError) {
+  MakeDataFolder();
+  const TrapLog log;
+  TheForm();
+  EXPECT_TRUE(TrapLog::Lines().isEmpty());
+}
+
+TEST_F(Start, ItsRoutinesLogTheirTags) {
+  const TrapLog log;
+  QDir(On("c")).removeRecursively();
+  StartForm* form = TheForm();
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:02", "601:02"}));  // the folder, then the drive
+  for (const char* name : {"fbrmhom1", "fbrmsav1"}) {
+    RegisterForm(QString::fromLatin1(name), []() -> Form* { throw std::bad_alloc(); });
+  }
+  TrapLog::Lines().clear();
+  form->mnustart_Click();
+  form->mnupp_Click(1);
+  SetScreen(ScreenSize{.width = 1e13, .height = 1e13});
+  Tick(form->Named<QTimer>(QStringLiteral("tmr1")));
+  Tick(form->Named<QTimer>(QStringLiteral("tmr2")));
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:03", "601:06", "601:04", "601:05"}));
 }
 
 TEST_F(Start, AFolderThatIsThereOrADriveThatIsNotIsPassedOver) {

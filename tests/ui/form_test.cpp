@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 
 #include "files/trap.h"
+#include "tests/files/trap_log.h"
 #include "tests/home/shell_forms.h"
 
 namespace bramlee {
@@ -197,7 +198,9 @@ TEST_F(FormLife, AFormThatNamesItselfAsItGoesIsNotMadeTwice) {
 TEST_F(FormLife, AFailureOnTheWayLeavesUnloadAllQuietly) {
   Load("fone");
   Load("ftwo")->atUnload = [] { throw TrappedError(QStringLiteral("cannot go")); };
+  const TrapLog log;
   UnloadAll();
+  EXPECT_EQ(TrapLog::Lines(), QStringList(QStringLiteral("[com1:20] cannot go")));
   EXPECT_TRUE(boxes.isEmpty());
   EXPECT_NE(Loaded("fone"), nullptr);
   dynamic_cast<Plain*>(Loaded("ftwo"))->atUnload = {};

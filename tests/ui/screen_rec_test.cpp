@@ -3,6 +3,7 @@
 #include "card/card.h"
 #include "home/home.h"
 #include "tests/files/temp_drives.h"
+#include "tests/files/trap_log.h"
 #include "ui/form.h"
 #include "ui/screen.h"
 
@@ -59,7 +60,9 @@ TEST_F(ScreenSizes, TooLargeAreReportedOnceWithoutALoop) {
   RegisterHome();
   RegisterCard();
   MakeDataFolder();
+  const TrapLog log;
   const ScreenRec rec = Filled(1e12, 11520);
+  EXPECT_EQ(TrapLog::Tags().first(), QStringLiteral("com1:01"));
   EXPECT_EQ(rec.ScrW, 0);
   EXPECT_EQ(rec.ScaleFlag, 0);
   EXPECT_EQ(boxes, QStringList(QStringLiteral("Message Box Routine: Error")));

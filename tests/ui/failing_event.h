@@ -1,0 +1,30 @@
+// A routine that fails half-way: what it does to a control fails.
+#pragma once
+
+#include <QApplication>
+#include <QEvent>
+
+#include "files/trap.h"
+
+namespace bramlee {
+
+/// While it lives, each event of that type to an object of that name throws.
+class FailingEvent : public QObject {
+ public:
+  FailingEvent(const char* name, QEvent::Type type)
+      : name_(QString::fromLatin1(name)), type_(type) {
+    qApp->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != type_ || watched->objectName() != name_) return false;
+    throw TrappedError(QStringLiteral("the event fails"));
+  }
+
+ private:
+  QString name_;
+  QEvent::Type type_;
+};
+
+}  // namespace bramlee
