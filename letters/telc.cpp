@@ -1,12 +1,9 @@
 // Telugu consonants. A letter fills the rows from Row2 (325) to Row4 (475), and most carry a
 // HeadTick on or just above Row2. The forms that hang below another consonant are in
 // telc_below.cpp.
-#include "letters/telc.h"
-
-#include <algorithm>
-
 #include "letters/letter_sets.h"
 #include "letters/telugu_shapes.h"
+#include "letters/telugu_tiles.h"
 
 namespace bramlee {
 namespace {
@@ -311,7 +308,7 @@ void WriteRra(StrokeRec& r, Pen& pen) {
 }
 
 // Letters that differ by a stroke or a column share a routine.
-constexpr TeluguConsonant kLetters[] = {
+constexpr TeluguTile kLetters[] = {
     {1,  WriteKa  }, // క
     {2,  WriteKha }, // ఖ
     {3,  WriteGa  }, // గ
@@ -355,11 +352,7 @@ constexpr TeluguConsonant kLetters[] = {
 }  // namespace
 
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet) {
-  Pen pen{rec, sheet};
-  for (const auto letters : {std::span<const TeluguConsonant>(kLetters), TeluguConsonantsBelow()}) {
-    const auto letter = std::ranges::find(letters, rec.LetterNo, &TeluguConsonant::tile);
-    if (letter != letters.end()) letter->write(rec, pen);
-  }
+  WriteTelugu({kLetters, TeluguConsonantsBelow()}, rec, sheet);
 }
 
 }  // namespace bramlee

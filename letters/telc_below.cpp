@@ -1,7 +1,7 @@
 // The forms in which Telugu consonants hang below another consonant. They stand around and under
 // Row4 (475), most of them half as large as the letter itself, and bear no HeadTick.
-#include "letters/telc.h"
 #include "letters/telugu_shapes.h"
+#include "letters/telugu_tiles.h"
 
 namespace bramlee {
 namespace {
@@ -269,7 +269,7 @@ void WriteRra(StrokeRec& r, Pen& pen) {
 }
 
 // Forms that differ by a stroke or a column share a routine.
-constexpr TeluguConsonant kForms[] = {
+constexpr TeluguTile kForms[] = {
     {18, WriteKa  }, // ్క
     {19, WriteKha }, // ్ఖ
     {20, WriteGa  }, // ్గ
@@ -311,7 +311,7 @@ constexpr TeluguConsonant kForms[] = {
 
 }  // namespace
 
-std::span<const TeluguConsonant> TeluguConsonantsBelow() {
+std::span<const TeluguTile> TeluguConsonantsBelow() {
   return kForms;
 }
 

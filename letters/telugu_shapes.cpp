@@ -52,4 +52,23 @@ void OpenCurl(Pen& pen) {
   pen.Arc(-90, 100, +1, r.CX1, r.CY2, r.Rad);
 }
 
+void LetterA(Pen& pen, double column) {
+  const StrokeRec& r = pen.rec;
+  pen.Arc(-180, 180, +1, column + 57, r.Row2 + 30, 30);
+  pen.Arc(-195, 3, +1, column + 125, r.Row3 - 28, 100);
+  pen.Arc(-2, 270, +1, column + 188, r.Row3 - 37, 37);
+  pen.LineLeft(LastX - 110, LastY, LastX);
+}
+
+double CrownX(const StrokeRec& r) {
+  return r.X1 + 152.5 - r.RowH / 2.95 - 2;
+}
+
+void CrownedBack(Pen& pen, double y) {
+  const StrokeRec& r = pen.rec;
+  pen.Arc(190, 346, +1, r.X1 + 152.5, y + 37.5, 37.5);
+  pen.Arc(335, 360, +1, r.X1 + 87.5, y, 112.5);
+  pen.Arc(360, 450, +1, CrownX(r), y, 75);
+}
+
 }  // namespace bramlee

@@ -1,5 +1,6 @@
-// Small shapes that Telugu letters share. A shape takes its place by reference where it leaves
-// something for its caller there; x, y and r are sheet pixels.
+// Shapes that Telugu letters share: whoever changes one changes all letters that name it. A shape
+// takes its place by reference where it leaves something for its caller there; x, y and r are sheet
+// pixels.
 #pragma once
 
 #include "letters/pen.h"
@@ -38,5 +39,16 @@ void TwinCurl(Pen& pen);
 
 /// The consonants' form of TwinCurl, with open arcs.
 void OpenCurl(Pen& pen);
+
+/// The letter a, in a column of its own or as the first letter of a word; `column` is its left
+/// edge.
+void LetterA(Pen& pen, double column);
+
+/// Where a crown has its centre: just left of the back that it closes.
+double CrownX(const StrokeRec& r);
+
+/// The bowl, back and crown that e and the signs of u and vocalic r end with, the bowl under the
+/// line `y`. X1 is the left edge of the column.
+void CrownedBack(Pen& pen, double y);
 
 }  // namespace bramlee
