@@ -17,8 +17,13 @@ struct TeluguTile {
 /// The vowels' signs, in telv_signs.cpp.
 std::span<const TeluguTile> TeluguVowelSigns();
 
-/// The forms that a consonant takes below another one, in telc_below.cpp.
+/// The consonants from ta on, in telc_ta_to_rra.cpp.
+std::span<const TeluguTile> TeluguConsonantsFromTa();
+
+/// The forms that a consonant takes below another one, in telc_below.cpp, and those from ta on, in
+/// telc_below_ta_to_rra.cpp.
 std::span<const TeluguTile> TeluguConsonantsBelow();
+std::span<const TeluguTile> TeluguConsonantsBelowFromTa();
 
 /// Writes the letter of the record's tile, from the table that has it. A number that none has
 /// writes nothing.
