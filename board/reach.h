@@ -10,8 +10,8 @@
 namespace bramlee {
 
 /// The rectangle around the letter's strokes, the pen's width included, in sheet pixels; an empty
-/// one for a letter without strokes. Runs the program at a coarse step, on a copy of the record,
-/// and leaves the last-point registers as they were. Throws what the program throws.
+/// one for a letter without strokes. Records the program at a coarse step, on a copy of the record,
+/// and leaves the last-point registers as they were.
 QRectF ReachOf(WriteLetter program, StrokeRec rec);
 
 /// The same for a sheet's rules or grid.

@@ -8,21 +8,6 @@
 #include "strokes/run_recorder.h"
 
 namespace bramlee {
-namespace {
-
-Letter RecordTile(const LetterSet& set, int tile, const TileForm& form) {
-  const KeepLastPoint kept;
-  RunRecorder recorder(kUsualStep);
-  ClearLastPoint();
-  WriteWholeTile(set, tile, form, recorder);
-  return {
-      {.set = set.name, .tile = tile, .form = form},
-      kUsualStep, recorder.TakeRuns()
-  };
-}
-
-}  // namespace
-
 Letter::Letter(const LetterId& id, double step, std::vector<Run> runs)
     : id_(id), step_(step), runs_(std::move(runs)), penStrokes_(JoinedRuns(id_, runs_)) {}
 
@@ -39,7 +24,19 @@ const Letter& LetterOf(const LetterId& id) {
   const auto key = std::tuple(set->name, id.tile, id.form.alternative, id.form.place);
   const auto found = recorded.find(key);
   if (found != recorded.end()) return found->second;
-  return recorded.emplace(key, RecordTile(*set, id.tile, id.form)).first->second;
+  const KeepLastPoint kept;
+  return recorded.emplace(key, RecordTile(id, kUsualStep)).first->second;
+}
+
+Letter RecordTile(const LetterId& id, double step) {
+  RunRecorder recorder(step);
+  const LetterSet* set = FindLetterSet(id.set);
+  if (set == nullptr) return {};
+  WriteWholeTile(*set, id.tile, id.form, recorder);
+  return {
+      {.set = set->name, .tile = id.tile, .form = id.form},
+      step, recorder.TakeRuns()
+  };
 }
 
 Letter RecordLetter(const LetterId& id, WriteLetter program, StrokeRec& rec, double step) {

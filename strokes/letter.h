@@ -50,6 +50,10 @@ class Letter {
 /// or a tile outside of it gives a letter without runs. Valid as long as the program runs.
 const Letter& LetterOf(const LetterId& id);
 
+/// The letter of a tile at another step, recorded anew, from cleared registers; they are left as
+/// its program leaves them. Without runs like LetterOf.
+Letter RecordTile(const LetterId& id, double step);
+
 /// Runs a letter's program once on the record and takes its runs down, as a surface of that step
 /// would have them. Starts from the registers as they are and leaves them as the program does.
 Letter RecordLetter(const LetterId& id, WriteLetter program, StrokeRec& rec, double step);

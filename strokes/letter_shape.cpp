@@ -75,23 +75,24 @@ StrokePath PathOf(std::span<const Run> runs) {
   return path;
 }
 
-Box BoundsOf(std::span<const Run> runs) {
-  constexpr double kFar = 1e9;
-  double left = kFar, top = kFar, right = -kFar, bottom = -kFar;
-  for (const Run& run : runs) {
-    RunCursor(run, kUsualStep).Advance(RunCursor::kAll, [&](double x, double y) {
-      left = std::min(left, x), right = std::max(right, x);
-      top = std::min(top, y), bottom = std::max(bottom, y);
-    });
-  }
-  if (left > right) return {};
-  return {.x = left, .y = top, .width = right - left, .height = bottom - top};
-}
-
 }  // namespace
 
 double DistanceBetween(const Point& a, const Point& b) {
   return std::hypot(b.x - a.x, b.y - a.y);
+}
+
+std::optional<Box> BoundsOf(std::span<const Run> runs, double step) {
+  constexpr double kFar = 1e9;
+  double left = kFar, top = kFar, right = -kFar, bottom = -kFar;
+  for (const Run& run : runs) {
+    RunCursor(run, step).Advance(RunCursor::kAll, [&](double x, double y) {
+      const Point dot = AsPlotted(x, y);
+      left = std::min(left, dot.x), right = std::max(right, dot.x);
+      top = std::min(top, dot.y), bottom = std::max(bottom, dot.y);
+    });
+  }
+  if (left > right) return std::nullopt;
+  return Box{.x = left, .y = top, .width = right - left, .height = bottom - top};
 }
 
 LetterShape ShapeOf(std::span<const Run> runs, std::span<const PenStroke> strokes) {
@@ -100,7 +101,7 @@ LetterShape ShapeOf(std::span<const Run> runs, std::span<const PenStroke> stroke
     shape.strokes.push_back(PathOf(runs.subspan(stroke.firstRun, stroke.runs)));
     shape.length += shape.strokes.back().length;
   }
-  shape.bounds = BoundsOf(runs);
+  shape.bounds = BoundsOf(runs, kUsualStep).value_or(Box());
   return shape;
 }
 

@@ -1,6 +1,7 @@
 // A letter's geometry: points along its pen strokes, bounds and lengths.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -15,6 +16,11 @@ struct Point {
   double y = 0;
   bool operator==(const Point&) const = default;
 };
+
+/// The place of a dot as the sheet has it: in single precision.
+inline Point AsPlotted(double x, double y) {
+  return {static_cast<double>(static_cast<float>(x)), static_cast<double>(static_cast<float>(y))};
+}
 
 double DistanceBetween(const Point& a, const Point& b);
 
@@ -39,6 +45,10 @@ struct LetterShape {
   Box bounds;                       ///< around all dots, without the pen's width
   double length = 0;                ///< of all strokes together
 };
+
+/// Around all dots of the runs as plotted at that step, without the pen's width; nothing when they
+/// plot none.
+std::optional<Box> BoundsOf(std::span<const Run> runs, double step);
 
 /// Works out the shape of pen strokes at kUsualStep. The points are dots of the runs, the first and
 /// last of each stroke among them; where a run goes on at a distance from the one before, they lie

@@ -1,7 +1,9 @@
 // The geometry of letters: points, bounds, lengths.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 #include <vector>
 
 #include "strokes/letter.h"
@@ -87,6 +89,22 @@ TEST(LetterShapeTest, IsBoundByItsOutermostDots) {
   EXPECT_NEAR(bounds.y, 40, 1e-3);
   EXPECT_NEAR(bounds.x + bounds.width, 310, 0.02);
   EXPECT_NEAR(bounds.y + bounds.height, 200, 0.02);
+}
+
+TEST(LetterShapeTest, OfEveryLetterIsBoundByTheDotsAsPlotted) {
+  for (const LetterId& id : EveryLetter()) {
+    Recorder sheet(1);
+    const Letter letter = RecordTile(id, 1);
+    for (const auto& run : letter.Runs()) RunCursor(run, 1).Plot(sheet);
+    const std::optional<Box> box = BoundsOf(letter.Runs(), 1);
+    ASSERT_EQ(box.has_value(), !sheet.dots.empty()) << NameOf(id);
+    if (!box) continue;
+    const auto [left, right] = std::ranges::minmax(sheet.dots, {}, &Dot::x);
+    const auto [top, bottom] = std::ranges::minmax(sheet.dots, {}, &Dot::y);
+    EXPECT_EQ(AsPoint({left.x, top.y}), (Point{box->x, box->y})) << NameOf(id);
+    EXPECT_EQ(AsPoint({right.x, bottom.y}), (Point{box->x + box->width, box->y + box->height}))
+        << NameOf(id);
+  }
 }
 
 TEST(LetterShapeTest, OfEveryLetterRunsFromFirstToLastDotInStepsOfAboutAPixel) {

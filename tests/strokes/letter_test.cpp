@@ -28,19 +28,13 @@ Recorder Plain(const LetterId& id, double step) {
   return sheet;
 }
 
-Letter Recorded(const LetterId& id, double step) {
-  RunRecorder recorder(step);
-  WriteWholeTile(*FindLetterSet(id.set), id.tile, id.form, recorder);
-  return {id, step, recorder.TakeRuns()};
-}
-
 TEST(LetterTest, RecordedAtAnyStepHasTheDotsAndLeavesTheRegistersOfItsProgram) {
   for (const double step : {0.2, 1.0}) {
     for (const LetterId& id : EveryLetter()) {
       SCOPED_TRACE(NameOf(id));
       const Recorder plain = Plain(id, step);
       const Registers left;
-      const Letter letter = Recorded(id, step);
+      const Letter letter = RecordTile(id, step);
       EXPECT_EQ(Registers(), left);
       EXPECT_EQ(letter.Step(), step);
       Recorder again(step);
@@ -56,7 +50,7 @@ TEST(LetterTest, RecordedAtTheSlowestStepHasTheRunsOfItsProgram) {
     const LetterId id{.set = "engc", .tile = tile, .form = {}};
     const Recorder plain = Plain(id, kSlowest);
     const Registers left;
-    const Letter letter = Recorded(id, kSlowest);
+    const Letter letter = RecordTile(id, kSlowest);
     EXPECT_EQ(Registers(), left);
     ASSERT_EQ(letter.Runs().size(), plain.runs.size());
     for (std::size_t i = 0; i < plain.runs.size(); ++i) {
@@ -98,6 +92,11 @@ TEST(LetterTest, OfATileLeavesTheRegistersAsTheyAre) {
   EXPECT_EQ(LastY, 4321);
   EXPECT_EQ(LastX2, 4321);
   EXPECT_EQ(LastY2, 4321);
+}
+
+TEST(RecordTileTest, OfNoTileIsEmpty) {
+  EXPECT_TRUE(RecordTile({.set = "engx", .tile = 1, .form = {}}, 1).Runs().empty());
+  EXPECT_TRUE(RecordTile({.set = "engc", .tile = 27, .form = {}}, 1).Runs().empty());
 }
 
 TEST(LetterTest, OfNoTileIsEmpty) {

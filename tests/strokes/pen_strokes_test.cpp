@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "strokes/letter.h"
-#include "strokes/run_recorder.h"
 #include "tests/strokes/every_letter.h"
 
 namespace bramlee {
@@ -83,10 +82,8 @@ TEST(PenStrokesTest, AreTheSameAtEachSpeed) {
   for (const LetterId& id : EveryLetter()) {
     if (id.form.place > 1) continue;  // the same digit, moved
     for (const double step : kSteps) {
-      RunRecorder recorder(step);
-      WriteWholeTile(*FindLetterSet(id.set), id.tile, id.form, recorder);
-      const Letter letter(id, step, recorder.TakeRuns());
-      EXPECT_EQ(StrokesOf(letter), StrokesOf(LetterOf(id))) << NameOf(id) << " step " << step;
+      EXPECT_EQ(StrokesOf(RecordTile(id, step)), StrokesOf(LetterOf(id)))
+          << NameOf(id) << " step " << step;
     }
   }
 }

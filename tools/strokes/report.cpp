@@ -1,56 +1,36 @@
 #include "tools/strokes/report.h"
 
-#include <charconv>
-
 #include "engine/last_point.h"
+#include "strokes/letter.h"
+#include "tools/strokes/number_text.h"
 
 namespace bramlee {
 namespace {
-
-/// The shortest text that reads back as the same number.
-std::string Shortest(double number) {
-  char text[32];
-  return {text, std::to_chars(std::begin(text), std::end(text), number).ptr};
-}
 
 std::string List(std::span<const double> numbers) {
   std::string list;
   for (const double number : numbers) {
     if (!list.empty()) list += ',';
-    list += Shortest(number);
+    list += ShortestText(number);
   }
   return '[' + list + ']';
 }
 
-/// Counts the dots of each run and keeps nothing else of them.
-class Teller : public DrawingSurface {
- public:
-  explicit Teller(double step) : step_(step) {}
-
-  void PSet(float /*x*/, float /*y*/) override { ++dots_; }
-  double Step() const override { return step_; }
-  void BeginRun(Primitive primitive, std::span<const double> arguments) override {
-    if (!strokes_.empty()) strokes_ += ',';
-    strokes_ += std::string("{\"run\":\"") + PrimitiveName(primitive) +
-                "\",\"args\":" + List(arguments) + ",\"dots\":";
-    dots_ = 0;
+std::string Runs(const Letter& letter) {
+  std::string runs;
+  for (const Run& run : letter.Runs()) {
+    if (!runs.empty()) runs += ',';
+    runs += std::string("{\"run\":\"") + PrimitiveName(run.primitive) +
+            "\",\"args\":" + List(run.Arguments()) +
+            ",\"dots\":" + std::to_string(DotCount(run, letter.Step())) + '}';
   }
-  void EndRun() override { strokes_ += std::to_string(dots_) + '}'; }
-
-  const std::string& Strokes() const { return strokes_; }
-
- private:
-  double step_;
-  std::int64_t dots_ = 0;
-  std::string strokes_;
-};
+  return '[' + runs + ']';
+}
 
 }  // namespace
 
 std::string StrokesAsJson(const Request& request, int tile) {
-  Teller teller(request.step);
-  ClearLastPoint();
-  WriteWholeTile(*request.set, tile, request.form, teller);
+  const Letter letter = RecordTile(request.Tile(tile), request.step);
 
   std::string line = "{\"board\":\"" + std::string(request.set->name) + '"';
   const auto add = [&line](const char* name, const std::string& value) {
@@ -59,8 +39,8 @@ std::string StrokesAsJson(const Request& request, int tile) {
   add("tile", std::to_string(tile));
   add("alt", request.form.alternative ? "1" : "0");
   if (request.form.place != 0) add("place", std::to_string(request.form.place));
-  add("step", Shortest(request.step));
-  add("strokes", '[' + teller.Strokes() + ']');
+  add("step", ShortestText(request.step));
+  add("strokes", Runs(letter));
   const double last[] = {LastX, LastY, LastX2, LastY2};
   add("last", List(last));
   return line + "}\n";

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "letters/letter_sets.h"
+#include "strokes/pen_strokes.h"
 
 namespace bramlee {
 
@@ -14,10 +15,14 @@ struct Request {
   int firstTile = 1;
   int lastTile = 1;
   TileForm form;
-  double step = 0.01;
-  QString svg;       ///< the file for the letter as SVG; empty for none
-  QString png;       ///< the file for the letter as PNG; empty for none
-  double scale = 1;  ///< of the PNG: its pixels to a sheet pixel
+  double step = kUsualStep;
+  bool penStrokes = false;  ///< whether pen strokes are asked for, rather than runs
+  QString svg;              ///< the file for the letter as SVG; empty for none
+  QString png;              ///< the file for the letter as PNG; empty for none
+  double scale = 1;         ///< of the PNG: its pixels to a sheet pixel
+
+  /// A tile of the set, in the form that is asked for.
+  LetterId Tile(int tile) const { return {.set = set->name, .tile = tile, .form = form}; }
 };
 
 /// What the arguments come to: a text to print (help, version), an error of one line, or, when
