@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <map>
 
 #include "letters/letter_sets.h"
+#include "strokes/letter.h"
 #include "tests/golden_strokes.h"
 #include "tests/tools/run_tool.h"
 
@@ -135,6 +137,45 @@ TEST(Strokes, PlotOneDotAtAStepBeyondTheSheet) {
   for (const ToldStroke& stroke : tile.strokes) EXPECT_EQ(stroke.dots, 1);
 }
 
+TEST(PenStrokes, ArePrintedAsOneObject) {
+  const ToolRun run = Strokes("mat 1 --alt --place 5 --pen-strokes");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.error, "");
+  EXPECT_TRUE(
+      run.out.startsWith("{\"set\": \"mat\", \"tile\": 1, \"box\": [1225, 325, 0, 150], "
+                         "\"strokes\": [{\"points\": [[1225, 325], [1225, 326], "))
+      << run.out.left(200).constData();
+  EXPECT_TRUE(run.out.endsWith("[1225, 475]], \"length\": 150, \"closed\": false}]}\n"))
+      << run.out.right(100).constData();
+}
+
+TEST(PenStrokes, OfATileThatWritesNothingAreAnEmptyList) {
+  EXPECT_EQ(Strokes("hinv 14 --pen-strokes").out,
+            "{\"set\": \"hinv\", \"tile\": 14, \"box\": [0, 0, 0, 0], \"strokes\": []}\n");
+}
+
+TEST(PenStrokes, AreMovementsOfTheHandInWritingOrder) {
+  const QJsonObject b = QJsonDocument::fromJson(Strokes("engc 2 --pen-strokes").out).object();
+  const QJsonArray strokes = b.value(QLatin1String("strokes")).toArray();
+  const Letter& letter = LetterOf({.set = "engc", .tile = 2, .form = {}});
+  ASSERT_EQ(strokes.size(), static_cast<int>(letter.PenStrokes().size()));
+  ASSERT_LT(letter.PenStrokes().size(), letter.Runs().size());
+  for (int i = 0; i < strokes.size(); ++i) {
+    const StrokePath& path = letter.Shape().strokes.at(static_cast<std::size_t>(i));
+    const QJsonArray points = strokes.at(i)[QLatin1String("points")].toArray();
+    ASSERT_EQ(points.size(), static_cast<int>(path.points.size()));
+    EXPECT_NEAR(points.last()[0].toDouble(), path.points.back().x, 1e-3);
+    EXPECT_NEAR(points.last()[1].toDouble(), path.points.back().y, 1e-3);
+    EXPECT_NEAR(strokes.at(i)[QLatin1String("length")].toDouble(), path.length, 1e-3);
+    EXPECT_EQ(strokes.at(i)[QLatin1String("closed")].toBool(), path.closed);
+  }
+}
+
+TEST(PenStrokes, ArePrintedForEveryTileWhenNoneIsNamed) {
+  EXPECT_EQ(LinesOf(Strokes("engc --pen-strokes")).size(), 26);
+  EXPECT_EQ(LinesOf(Strokes("mat --place 2 --pen-strokes")).size(), 10);
+}
+
 class BadArguments : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(
     Lines, BadArguments,
@@ -150,7 +191,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "engc 1 --svg", "engc 1 --scale 2", "engc 1 --svg a.svg --scale 2",
                     "engc 1 --png a.png --scale 0", "engc 1 --png a.png --scale -2",
                     "engc 1 --png a.png --scale 99", "engc 1 --png a.png --scale x",
-                    "engc 1 --png a.png --scale nan"));
+                    "engc 1 --png a.png --scale nan", "engc 2 --pen-strokes --step 1",
+                    "engc 2 --pen-strokes --svg a.svg", "engc 2 --pen-strokes --png a.png"));
 
 TEST_P(BadArguments, AreRefusedInOneLineWithStatusTwo) {
   const ToolRun run = Strokes(GetParam());
@@ -183,8 +225,8 @@ TEST(Help, TellsBoardsAndOptionsAndEndsWell) {
   const ToolRun run = Strokes("--help");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.error, "");
-  for (const char* word : {"BOARD", "TILE", "--alt", "--place", "--step", "--svg", "--png",
-                           "--scale", "engc engs hinv hinc telv telc mat"}) {
+  for (const char* word : {"BOARD", "TILE", "--alt", "--place", "--step", "--pen-strokes", "--svg",
+                           "--png", "--scale", "engc engs hinv hinc telv telc mat"}) {
     EXPECT_TRUE(run.out.contains(word)) << word;
   }
   EXPECT_EQ(Strokes("-h").out, run.out);
@@ -209,7 +251,7 @@ TEST(ManPage, TellsEveryOptionOfTheHelp) {
     const QByteArray option = line.mid(at).split(' ').constFirst();
     EXPECT_TRUE(page.contains(option)) << option.constData();
   }
-  EXPECT_EQ(options, 8);
+  EXPECT_EQ(options, 9);
 }
 
 TEST(Output, ThatCannotBeWrittenEndsWithStatusOne) {

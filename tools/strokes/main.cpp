@@ -2,6 +2,8 @@
 #include <QCoreApplication>
 #include <cstdio>
 
+#include "strokes/letter.h"
+#include "tools/strokes/pen_strokes_report.h"
 #include "tools/strokes/pictures.h"
 #include "tools/strokes/report.h"
 #include "tools/strokes/request.h"
@@ -29,14 +31,16 @@ ExitStatus DrawPictures(const Request& request) {
   return second.isEmpty() ? kDone : Fail(kFailed, second);
 }
 
-ExitStatus Run(const QStringList& arguments) {
+ExitStatus Answer(const QStringList& arguments) {
   const Parsed parsed = ParseArguments(arguments);
   if (!parsed.error.isEmpty()) return Fail(kBadArguments, parsed.error);
   if (!parsed.text.isEmpty()) return Print(parsed.text.toStdString());
   const Request& request = parsed.request;
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   for (int tile = request.firstTile; tile <= request.lastTile; ++tile) {
-    const ExitStatus status = Print(StrokesAsJson(request, tile));
+    const ExitStatus status =
+        Print(request.penStrokes ? PenStrokesAsJson(LetterOf(request.Tile(tile)))
+                                 : StrokesAsJson(request, tile));
     if (status != kDone) return status;
   }
   return kDone;
@@ -47,5 +51,5 @@ ExitStatus Run(const QStringList& arguments) {
 
 int main(int argc, char** argv) {
   const QCoreApplication app(argc, argv);
-  return bramlee::Run(QCoreApplication::arguments());
+  return bramlee::Answer(QCoreApplication::arguments());
 }

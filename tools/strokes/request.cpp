@@ -45,6 +45,9 @@ struct Options {
       QStringLiteral("Pixels between the dots of a line, degrees between those of an arc. "
                      "Without it 0.01."),
       QStringLiteral("S")};
+  QCommandLineOption penStrokes{
+      QStringLiteral("pen-strokes"),
+      QStringLiteral("The movements of the hand as points, instead of the runs.")};
   QCommandLineOption svg{QStringLiteral("svg"),
                          QStringLiteral("Write the letter to FILE as an SVG picture."),
                          QStringLiteral("FILE")};
@@ -69,8 +72,8 @@ class Reader {
     parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."));
     parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."),
                                   QStringLiteral("[TILE]"));
-    parser_.addOptions({options_.alt, options_.place, options_.step, options_.svg, options_.png,
-                        options_.scale, help_, version_});
+    parser_.addOptions({options_.alt, options_.place, options_.step, options_.penStrokes,
+                        options_.svg, options_.png, options_.scale, help_, version_});
     parsed_ = parser_.parse(arguments);
     rest_ = parser_.positionalArguments();
   }
@@ -83,8 +86,9 @@ class Reader {
               .text = QStringLiteral("bramlee-strokes " BRAMLEE_VERSION "\n"),
               .error = {}};
     }
-    for (const auto part : {&Reader::ReadBoard, &Reader::ReadTile, &Reader::ReadForm,
-                            &Reader::ReadPlace, &Reader::ReadStep, &Reader::ReadPictures}) {
+    for (const auto part :
+         {&Reader::ReadBoard, &Reader::ReadTile, &Reader::ReadForm, &Reader::ReadPlace,
+          &Reader::ReadStep, &Reader::ReadPenStrokes, &Reader::ReadPictures}) {
       const QString error = (this->*part)();
       if (!error.isEmpty()) return {.request = {}, .text = {}, .error = error};
     }
@@ -150,6 +154,16 @@ class Reader {
           .arg(text);
     }
     request_.step = *step;
+    return {};
+  }
+
+  QString ReadPenStrokes() {
+    request_.penStrokes = parser_.isSet(options_.penStrokes);
+    if (!request_.penStrokes) return {};
+    for (const auto* other : {&options_.step, &options_.svg, &options_.png}) {
+      if (!parser_.isSet(*other)) continue;
+      return QStringLiteral("--pen-strokes: goes without --%1").arg(other->names().constFirst());
+    }
     return {};
   }
 

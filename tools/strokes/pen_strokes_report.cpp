@@ -1,0 +1,46 @@
+#include "tools/strokes/pen_strokes_report.h"
+
+#include <cmath>
+#include <span>
+
+#include "tools/strokes/number_text.h"
+
+namespace bramlee {
+namespace {
+
+std::string ToThousandth(double number) {
+  return ShortestText(std::round(number * 1000) / 1000 + 0.0);  // no -0
+}
+
+template <class Thing, class Text>
+std::string List(std::span<const Thing> things, Text text) {
+  std::string list;
+  for (const Thing& thing : things) {
+    if (!list.empty()) list += ", ";
+    list += text(thing);
+  }
+  return '[' + list + ']';
+}
+
+std::string PointAsJson(const Point& point) {
+  return '[' + ToThousandth(point.x) + ", " + ToThousandth(point.y) + ']';
+}
+
+std::string PathAsJson(const StrokePath& path) {
+  return "{\"points\": " + List<Point>(path.points, PointAsJson) +
+         ", \"length\": " + ToThousandth(path.length) +
+         ", \"closed\": " + (path.closed ? "true" : "false") + '}';
+}
+
+}  // namespace
+
+std::string PenStrokesAsJson(const Letter& letter) {
+  const Box& box = letter.Bounds();
+  const double sides[] = {box.x, box.y, box.width, box.height};
+  return "{\"set\": \"" + std::string(letter.Id().set) +
+         "\", \"tile\": " + std::to_string(letter.Id().tile) +
+         ", \"box\": " + List<double>(sides, ToThousandth) +
+         ", \"strokes\": " + List<StrokePath>(letter.Shape().strokes, PathAsJson) + "}\n";
+}
+
+}  // namespace bramlee
