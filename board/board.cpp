@@ -45,7 +45,8 @@ Board::Board(const BoardRecord& record)
       record_(record),
       letters_(*FindLetterSet(record.letterSet)),
       scroller_(new QScrollArea(this)),
-      sheet_(new Sheet) {
+      sheet_(new Sheet),
+      player_(page_, *sheet_) {
   scroller_->setFrameShape(QFrame::NoFrame);
   scroller_->setWidgetResizable(true);
   scroller_->setWidget(sheet_);

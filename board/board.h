@@ -8,9 +8,12 @@
 #include <cstdint>
 
 #include "board/board_record.h"
+#include "board/board_settings.h"
 #include "board/sheet.h"
 #include "letters/letter_sets.h"
 #include "ui/form.h"
+#include "writing/page.h"
+#include "writing/player.h"
 
 class QScrollArea;
 
@@ -67,9 +70,19 @@ class Board : public Form {
   // --- what the handlers and the boards' own parts share
   /// Whether that tile's click wipes the sheet first.
   bool IsGroupStart(int index) const;
+  /// Writes the record's letter by that program, as the sheet's step and colour are now: the letter
+  /// joins the page, and the pen runs to its end. Throws what the program or the sheet throws; what
+  /// is written by then stays.
+  void Write(WriteLetter program, StrokeRec& rec);
   /// Makes the sheet large enough for all that stands or is written on it, so that it scrolls
   /// where the window is smaller.
   void FitSheet();
+
+  /// What the user chose, as flags, boxes and menus keep it.
+  BoardSettings Settings() const;
+  /// Puts choices back into flags, boxes and menus. Rule and grid come back as marks, not on the
+  /// sheet.
+  void Apply(const BoardSettings& settings);
 
   /// The mark of a menu item, by its name.
   bool Checked(const QString& item) const { return Named<QAction>(item)->isChecked(); }
@@ -105,14 +118,10 @@ class Board : public Form {
   bool eventFilter(QObject* picture, QEvent* event) override;
 
  private:
-  struct Kept;
-
   void MakeControls();
   void MakeMenus();
   void RunFormLoad();
   void ResetToDesign();
-  Kept Keep() const;
-  void PutBack(const Kept& kept);
   void StartGroup();
   ColourWord GridColour() const;
   void DrawGridInItsColour();
@@ -125,6 +134,8 @@ class Board : public Form {
   const LetterSet& letters_;
   QScrollArea* scroller_;
   Sheet* sheet_;
+  Page page_;  ///< the letters on the sheet
+  Player player_;
   QRect reach_;
 };
 

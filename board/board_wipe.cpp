@@ -7,18 +7,6 @@
 
 namespace bramlee {
 
-/// What the user chose, across a wipe. 0 stands for no rule and no format.
-struct Board::Kept {
-  ColourWord gridColour;
-  ColourWord letterColour;
-  double step;
-  int rule;
-  bool grid;
-  QString drive;
-  bool play;
-  int format;
-};
-
 namespace {
 
 const QString kNo = QStringLiteral("0");
@@ -27,6 +15,7 @@ const QString kYes = QStringLiteral("1");
 }  // namespace
 
 void Board::ResetToDesign() {
+  page_.Clear();
   sheet_->Wipe();
   sheet_->SetBackColor(record_.backColor);
   sheet_->SetForeColor(kPenColour);
@@ -48,7 +37,7 @@ void Board::ResetToDesign() {
   record_.resetOwn(*this);
 }
 
-Board::Kept Board::Keep() const {
+BoardSettings Board::Settings() const {
   int rule = 1;
   while (rule <= kRules && FlagOf(RuleFlagName(rule)) == 0) ++rule;
   const bool play = Checked(QStringLiteral("mnuaud"));
@@ -62,31 +51,31 @@ Board::Kept Board::Keep() const {
           .format = play ? FirstChecked("mnufor", kFormats) : 0};
 }
 
-void Board::PutBack(const Kept& kept) {
-  bramlee::SetForeColor(Named<QLineEdit>(QStringLiteral("txtgridcolor")), kept.gridColour);
-  sheet_->SetForeColor(kept.letterColour);
-  SetText(QStringLiteral("txtspd"), NumberText(kept.step));
-  if (kept.rule != 0) {
-    SetText(RuleFlagName(kept.rule), kYes);
-    SetChecked(Indexed("mnurulled", kept.rule), true);
+void Board::Apply(const BoardSettings& settings) {
+  bramlee::SetForeColor(Named<QLineEdit>(QStringLiteral("txtgridcolor")), settings.gridColour);
+  sheet_->SetForeColor(settings.letterColour);
+  SetText(QStringLiteral("txtspd"), NumberText(settings.step));
+  if (settings.rule != 0) {
+    SetText(RuleFlagName(settings.rule), kYes);
+    SetChecked(Indexed("mnurulled", settings.rule), true);
   }
-  if (kept.grid) {
+  if (settings.grid) {
     SetText(GridFlagName(), kYes);
     SetChecked(QStringLiteral("mnugrid"), true);
   }
-  SetText(QStringLiteral("txtdrv"), kept.drive);
-  SetChecked(QStringLiteral("mnuaud"), kept.play);
-  if (kept.format != 0) SetChecked(Indexed("mnufor", kept.format), true);
+  SetText(QStringLiteral("txtdrv"), settings.drive);
+  SetChecked(QStringLiteral("mnuaud"), settings.play);
+  if (settings.format != 0) SetChecked(Indexed("mnufor", settings.format), true);
 }
 
 void Board::mnuclear1_Click() {
   Trap(
       QStringLiteral("brd:06"),
       [this](ErrInfo&) {
-        const Kept kept = Keep();
+        const BoardSettings kept = Settings();
         ResetToDesign();
         RunFormLoad();  // copies the drive of the home form, which the board's own then replaces
-        PutBack(kept);
+        Apply(kept);
       },
       ReportError);
 }

@@ -1,11 +1,17 @@
 // What a board writes on its sheet: rules, grid and letters.
+#include <QScopeGuard>
+
 #include "board/board.h"
 #include "board/cues.h"
 #include "files/trap.h"
+#include "strokes/letter.h"
 #include "ui/message_box.h"
 
 namespace bramlee {
 namespace {
+
+/// As many letters a page holds; a sheet that is never wiped begins a new one.
+constexpr std::size_t kManyLetters = 256;
 
 /// The pen in another colour, until this goes.
 class PenColour {
@@ -107,8 +113,25 @@ void WriteTile(Board& board, StrokeRec& rec) {
     if (record.strangeTile != nullptr) MsgBox(QString::fromUtf8(record.strangeTile));
     return;
   }
-  const Sheet::Writing writing(board.sheet());
-  record.program(board, rec)(rec, board.sheet());
+  board.Write(record.program(board, rec), rec);
+}
+
+void Board::Write(WriteLetter program, StrokeRec& rec) {
+  const Sheet::Writing writing(*sheet_);
+  const LetterId id{
+      .set = letters_.name,
+      .tile = rec.LetterNo,
+      .form = {.alternative = rec.AltFlag == 1, .place = rec.LoopNo}
+  };
+  if (page_.Letters().size() >= kManyLetters) page_.Clear();
+  sheet_->DropMarks();  // the way back leads through the last letter only
+  page_.Add({.letter = RecordLetter(id, program, rec, sheet_->Step()),
+             .colour = sheet_->ForeColor(),
+             .placing = {}});
+  // A letter that ends half-way is not taken up again by the next one.
+  auto unfinished = qScopeGuard([this] { page_.Clear(); });
+  player_.RunToEnd();
+  unfinished.dismiss();
 }
 
 void Board::mnudrawalt_Click() {

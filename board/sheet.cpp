@@ -33,6 +33,12 @@ void Sheet::EndRun() {
   if (writing_ == 0) update();
 }
 
+bool Sheet::RewindTo(SurfaceMark mark) {
+  const bool there = ink_.RewindTo(mark);
+  if (there && writing_ == 0) update();
+  return there;
+}
+
 void Sheet::SetStepBox(QLineEdit* txtspd) {
   stepBox_ = txtspd;
   connect(stepBox_, &QLineEdit::textChanged, this, &Sheet::TakeStep);

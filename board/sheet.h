@@ -8,11 +8,11 @@
 #include <limits>
 #include <optional>
 
-#include "ink/ink.h"
 #include "board/pace.h"
-#include "engine/drawing_surface.h"
+#include "ink/ink.h"
 #include "ui/controls.h"
 #include "ui/held_input.h"
+#include "writing/rewindable_surface.h"
 
 class QLineEdit;
 
@@ -21,7 +21,7 @@ namespace bramlee {
 /// A board's client area as a drawing surface, in logical pixels from its top left. Tiles stand
 /// on it as child widgets; strokes run behind them. What was written stays through resizes,
 /// scrolling and other pixel ratios, also where it lies outside of the window.
-class Sheet final : public QWidget, public DrawingSurface {
+class Sheet final : public QWidget, public RewindableSurface {
   Q_OBJECT
  public:
   explicit Sheet(QWidget* parent = nullptr);
@@ -35,6 +35,11 @@ class Sheet final : public QWidget, public DrawingSurface {
     ink_.BeginRun(primitive, arguments);
   }
   void EndRun() override;
+  void SetPen(ColourWord colour) override { ink_.SetPen(colour); }
+  SurfaceMark Mark() override { return ink_.Mark(); }
+  bool RewindTo(SurfaceMark mark) override;
+  /// Drops all marks: from now on there is no way back to what stands already.
+  void DropMarks() { ink_.DropMarks(); }
 
   /// The text box whose numeric value is the step; without one it is 0.01. From now on the box
   /// refuses a text that is no finite number of kSmallestStep or more: it goes back to the text
@@ -48,7 +53,7 @@ class Sheet final : public QWidget, public DrawingSurface {
   void SetBackColor(ColourWord colour);
   /// The colour of the dots to come, red at first.
   ColourWord ForeColor() const { return ink_.Colour(); }
-  void SetForeColor(ColourWord colour) { ink_.SetColour(colour); }
+  void SetForeColor(ColourWord colour) { SetPen(colour); }
 
   /// Takes every dot away.
   void Wipe();
@@ -57,7 +62,7 @@ class Sheet final : public QWidget, public DrawingSurface {
   const Ink& Dots() const { return ink_; }
 
   /// Strokes are written while one of these lives (they nest): no input, timer tick or close
-  /// reaches a form before the outermost one ends, see shell/held_input.h. On a window one sees,
+  /// reaches a form before the outermost one ends, see ui/held_input.h. On a window one sees,
   /// the pen keeps its pace and rests for what is left of it at the end of the outermost one; it
   /// hurries once somebody waits for the end.
   class Writing {

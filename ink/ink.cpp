@@ -84,14 +84,25 @@ void Ink::ForgetCovered() {
   forgetAt_ = std::max(kManyDots, 2 * dots_.size());
 }
 
-InkMark Ink::Mark() {
+/// Planes that find no room for a colour go: the journal has all that they showed.
+template <class Change>
+void Ink::ChangePlanes(Change change) noexcept {
+  if (!planes_) return;
+  try {
+    change(*planes_);
+  } catch (const std::bad_alloc&) {
+    planes_.reset();
+  }
+}
+
+SurfaceMark Ink::Mark() {
   Flush();
   marks_.push_back({++marksMade_, dots_.size(), colour_});
   return {marksMade_};
 }
 
-bool Ink::RewindTo(InkMark mark) {
-  const auto place = std::ranges::find(marks_, mark.serial, &MarkedPlace::serial);
+bool Ink::RewindTo(SurfaceMark mark) {
+  const auto place = std::ranges::find(marks_, mark.at, &MarkedPlace::serial);
   if (place == marks_.end()) return false;
   Flush();
   dots_.resize(place->dots);
@@ -105,18 +116,7 @@ bool Ink::RewindTo(InkMark mark) {
   return true;
 }
 
-/// Planes that find no room for a colour go: the journal has all that they showed.
-template <class Change>
-void Ink::ChangePlanes(Change change) noexcept {
-  if (!planes_) return;
-  try {
-    change(*planes_);
-  } catch (const std::bad_alloc&) {
-    planes_.reset();
-  }
-}
-
-void Ink::SetColour(ColourWord colour) noexcept {
+void Ink::SetPen(ColourWord colour) noexcept {
   Flush();
   colour_ = colour;
   ChangePlanes([colour](Planes& planes) { planes.SetColour(colour); });

@@ -7,15 +7,10 @@
 #include <optional>
 #include <vector>
 
-#include "engine/drawing_surface.h"
 #include "ink/planes.h"
+#include "writing/rewindable_surface.h"
 
 namespace bramlee {
-
-/// A place in an ink's journal. A plain value; it means nothing to another ink.
-struct InkMark {
-  std::uint64_t serial = 0;  ///< 0 is no mark's
-};
 
 /// Takes dots and shows them as smooth-edged discs of kDrawWidth at any pixel ratio.
 ///
@@ -24,7 +19,7 @@ struct InkMark {
 /// picture, or what a window shows, is stamped from it and can be made anew at any time, so the
 /// same dots give the same picture wherever and however fast they were written. It does not grow
 /// with letters that are written again: a dot is forgotten once a later one lies exactly on it.
-class Ink final : public DrawingSurface {
+class Ink final : public RewindableSurface {
  public:
   /// `step`: what Step() tells, greater than 0.
   explicit Ink(double step = 0.01) : step_(step) {}
@@ -52,18 +47,15 @@ class Ink final : public DrawingSurface {
   /// The colour of the dots to come; red at first. Never throws: a pen is put back as well where
   /// the memory has run out.
   ColourWord Colour() const { return colour_; }
-  void SetColour(ColourWord colour) noexcept;
+  void SetPen(ColourWord colour) noexcept override;
 
   /// Takes every dot away; no mark is left.
   void Wipe();
 
-  // --- marks: places in the journal that one can go back to
-  /// Marks what stands now. A run that is under way ends here.
-  InkMark Mark();
-  /// Takes away every dot that came after the mark, and the marks made after it; the pen has the
-  /// colour that it had then. Returns false, and takes nothing away, when the mark is not there
-  /// any more.
-  bool RewindTo(InkMark mark);
+  // --- marks: places in the journal that one can go back to, until a wipe
+  SurfaceMark Mark() override;
+  /// The pen has the colour of then.
+  bool RewindTo(SurfaceMark mark) override;
   /// Drops all marks, so that dots which later ones cover can be forgotten. A dot before a mark is
   /// kept as long as the mark stands, whatever is written over it.
   void DropMarks() { marks_.clear(); }

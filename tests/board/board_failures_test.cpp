@@ -59,6 +59,21 @@ TEST_F(BoardFailures, AGroupStartThatEndsHalfWayHasItsGridBeforeItsRule) {
   EXPECT_EQ(board.sheet().ForeColor(), 0x0000FFU);
 }
 
+TEST_F(BoardFailures, ALetterThatEndsHalfWayIsNotTakenUpAgain) {
+  Board& board = Open("fbrmengc02");
+  board.SetText(Q("txtspd"), Q("0.01"));
+  for (const int tile : {1, 2}) board.pic_Click(tile);
+  {
+    const ScarceMemory memory(kFor8192Dots);
+    EXPECT_NO_THROW(board.pic_Click(3));
+    EXPECT_EQ(memory.Refused(), 1);
+  }
+  ASSERT_EQ(ColourAt(board, 925, 150), kRed);  // the top of C
+  board.pic_Click(4);
+  EXPECT_EQ(ColourAt(board, 1025, 250), kRed);  // the stem of D
+  EXPECT_TRUE(IsBlank(board, 972, 335));        // the end of C
+}
+
 TEST_F(BoardFailures, TheNextClickWritesAsEver) {
   Board& board = Open("fbrmengc02");
   {

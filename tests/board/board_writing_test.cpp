@@ -55,6 +55,15 @@ TEST_F(BoardWriting, ARuleIsMarkedAndFlaggedAndDrawnInTheGridColour) {
   EXPECT_EQ(board.sheet().ForeColor(), 0xFFU);
 }
 
+TEST_F(BoardWriting, ManyLettersAreWrittenOnOneSheet) {
+  Board& board = Open("fbrmengc02");
+  const auto dots = [&board] { return board.sheet().Dots().KeptDots(); };
+  board.pic_Click(10);
+  const std::size_t once = dots();
+  for (int i = 1; i < 300; ++i) board.pic_Click(10);
+  EXPECT_EQ(dots(), 300 * once);
+}
+
 TEST_F(BoardWriting, AnotherRuleTakesTheMarkAndLeavesTheLines) {
   Board& board = Open("fbrmengc02");
   Pick(board, "mnurulled(2)");

@@ -99,9 +99,9 @@ TEST_F(SheetMemory, PaintingAFrameAsksForNone) {
 
 TEST_F(SheetMemory, GoingBackToAColourWithoutRoomGoesBackAndShowsItLater) {
   Ink ink(1);
-  ink.SetColour(kBlue);
-  const InkMark mark = ink.Mark();
-  ink.SetColour(0);
+  ink.SetPen(kBlue);
+  const SurfaceMark mark = ink.Mark();
+  ink.SetPen(0);
   LineRight(ink, 100, 100, 200);
   const QRectF area({}, kSize);
   ASSERT_TRUE(ink.Cover(area, 1));  // with no room for blue, in which no dot was written

@@ -23,7 +23,7 @@ using Strokes = std::function<void(DrawingSurface&)>;
 
 Ink Written(double step, ColourWord colour, const Strokes& strokes) {
   Ink ink(step);
-  ink.SetColour(colour);
+  ink.SetPen(colour);
   strokes(ink);
   return ink;
 }
@@ -110,7 +110,7 @@ TEST_P(InkAtRatio, ShouldKeepTheEdgeOfOneStrokeUnderTenThousandInOneClick) {
 TEST_P(InkAtRatio, ShouldKeepTheEdgeUnderTenThousandDotsOnOnePlace) {
   const Strokes dot = [](DrawingSurface& s) { s.PSet(420.4F, 80.7F); };
   Ink ink(0.01);
-  ink.SetColour(kBlack);
+  ink.SetPen(kBlack);
   ink.Cover(kArea, GetParam());
   for (int i = 0; i < 10000; ++i) dot(ink);
   ink.EndRun();
@@ -120,7 +120,7 @@ TEST_P(InkAtRatio, ShouldKeepTheEdgeUnderTenThousandDotsOnOnePlace) {
 TEST_P(InkAtRatio, ShouldKeepTheEdgeOfSlowStrokesUnderManyFasterOnes) {
   // Full circles, which end at the same place at every step.
   Ink ink(1);
-  ink.SetColour(kBlack);
+  ink.SetPen(kBlack);
   const auto circle = [](DrawingSurface& s) { ArcStroke(s, 1, 0, 0, 360, 420.6, 80.3, 25); };
   for (const double step : {0.01, 0.03, 0.08, 0.2, 0.004, 1.0}) {
     ink.SetStep(step);
@@ -135,9 +135,9 @@ TEST_P(InkAtRatio, ShouldShowTheSameLiveAndReplayed) {
   Ink later(0.01);
   for (Ink* ink : {&live, &later}) {
     Cross(*ink);
-    ink->SetColour(kYellow);
+    ink->SetPen(kYellow);
     LineRight(*ink, 390, 70, 450);
-    ink->SetColour(kRed);
+    ink->SetPen(kRed);
     LineDown(*ink, 430, 50, 110);
   }
   QImage shown(live.CoveredSize(), QImage::Format_RGB32);
@@ -158,7 +158,7 @@ TEST_P(InkAtRatio, ShouldTellEveryChangeByTheDirtyRectangles) {
   const auto showFrame = [&] { ink.Compose(frames, ink.TakeDirty(), Qt::white); };
   showFrame();
   for (const ColourWord colour : {kRed, kBlue, kRed}) {
-    ink.SetColour(colour);
+    ink.SetPen(colour);
     for (float x = 385; x < 450; x += 0.08F) {
       ink.PSet(x, 60 + 15 * std::sin(x / 7));
       if (static_cast<int>(x * 100) % 37 == 0) showFrame();
@@ -177,12 +177,12 @@ TEST_P(InkAtRatio, ShouldLeaveNothingOfTheFirstColourWhenWrittenAgainInAnother) 
   const QRectF area(400, 130, 800, 240);
   for (std::int16_t letter = 1; letter <= 26; ++letter) {
     Ink blueOnly(0.03);
-    blueOnly.SetColour(kBlue);
+    blueOnly.SetPen(kBlue);
     const QImage wanted = WrittenCapital(blueOnly, letter, area, GetParam());
     Ink ink(0.03);
-    ink.SetColour(kRed);
+    ink.SetPen(kRed);
     WrittenCapital(ink, letter, area, GetParam());
-    ink.SetColour(kBlue);
+    ink.SetPen(kBlue);
     EXPECT_EQ(WrittenCapital(ink, letter, area, GetParam()), wanted) << "capital " << letter;
   }
 }
@@ -191,9 +191,9 @@ TEST_P(InkAtRatio, ShouldCoverACrossedStrokeFullyAndLeaveTheRestOfIt) {
   const Strokes under = [](DrawingSurface& s) { SlantRight(s, 40, 390, 50, 105); };
   const Strokes over = [](DrawingSurface& s) { SlantLeft(s, 33, 440, 48, 108); };
   Ink ink(0.01);
-  ink.SetColour(kRed);
+  ink.SetPen(kRed);
   under(ink);
-  ink.SetColour(kBlue);
+  ink.SetPen(kBlue);
   over(ink);
   Recorder underDots(0.01);
   Recorder overDots(0.01);
@@ -227,7 +227,7 @@ INSTANTIATE_TEST_SUITE_P(Ink, InkAtRatio, ::testing::Values(1, 1.25, 1.5, 2),
 TEST(Ink, ShouldKeepWhatLiesOffTheCoveredPart) {
   Ink ink(0.01);
   ink.Cover(QRectF(0, 0, 200, 100), 1);
-  ink.SetColour(kBlack);
+  ink.SetPen(kBlack);
   Cross(ink);
   ink.Cover(kArea, 2);
   QImage shown(ink.CoveredSize(), QImage::Format_RGB32);
@@ -263,7 +263,7 @@ TEST(Ink, ShouldPassOverDotsThatChangeNothing) {
 void WriteForLong(Ink& ink) {
   StrokeRec rec;
   for (int i = 0; i < 600; ++i) {
-    ink.SetColour(i % 3 == 0 ? kBlack : kRed);
+    ink.SetPen(i % 3 == 0 ? kBlack : kRed);
     ink.SetStep(i % 2 == 0 ? 1 : 0.5);
     rec = FillStrokeRec(SheetKind::Capitals, static_cast<std::int16_t>(1 + i % 4));
     WriteCapital(rec, ink);
@@ -279,11 +279,11 @@ TEST(Ink, ShouldNotGrowWithLettersThatAreWrittenAgain) {
 TEST(Ink, ShouldShowAllColoursAsBeforeWhenItForgetsCoveredDots) {
   const QRectF area(400, 100, 800, 300);
   Ink ink(1);
-  ink.SetColour(kBlue);
+  ink.SetPen(kBlue);
   LineRight(ink, 410, 260, 1190);  // crossed by the letters, and left as it is between them
   ink.Cover(area, 1);
   WriteForLong(ink);
-  ink.SetColour(kYellow);
+  ink.SetPen(kYellow);
   LineDown(ink, 640, 120, 380);
   QImage shown(ink.CoveredSize(), QImage::Format_RGB32);
   ink.Compose(shown, shown.rect(), Qt::white);

@@ -24,7 +24,7 @@ TEST(InkMarks, TakeAwayWhatCameAfterThem) {
   WriteCapitalOn(ink, 1);
   const QImage before = PictureOf(ink);
   const std::size_t dots = ink.KeptDots();
-  const InkMark mark = ink.Mark();
+  const SurfaceMark mark = ink.Mark();
   WriteCapitalOn(ink, 2);
   ASSERT_NE(PictureOf(ink), before);
   EXPECT_TRUE(ink.RewindTo(mark));
@@ -34,9 +34,9 @@ TEST(InkMarks, TakeAwayWhatCameAfterThem) {
 
 TEST(InkMarks, BringBackTheColourOfTheirTime) {
   Ink ink(0.2);
-  ink.SetColour(kBlue);
-  const InkMark mark = ink.Mark();
-  ink.SetColour(kPenColour);
+  ink.SetPen(kBlue);
+  const SurfaceMark mark = ink.Mark();
+  ink.SetPen(kPenColour);
   WriteCapitalOn(ink, 1);
   ink.RewindTo(mark);
   EXPECT_EQ(ink.Colour(), kBlue);
@@ -44,11 +44,11 @@ TEST(InkMarks, BringBackTheColourOfTheirTime) {
 
 TEST(InkMarks, UncoverWhatWasWrittenOver) {
   Ink ink(0.2);
-  ink.SetColour(kBlue);
+  ink.SetPen(kBlue);
   WriteCapitalOn(ink, 2);
   const QImage before = PictureOf(ink, 2);
-  const InkMark mark = ink.Mark();
-  ink.SetColour(kPenColour);
+  const SurfaceMark mark = ink.Mark();
+  ink.SetPen(kPenColour);
   WriteCapitalOn(ink, 16);  // P, on the stem and the upper bowl of B in another column
   WriteCapitalOn(ink, 2);
   ink.RewindTo(mark);
@@ -57,7 +57,7 @@ TEST(InkMarks, UncoverWhatWasWrittenOver) {
 
 TEST(InkMarks, WriteTheSameDotsAgain) {
   Ink ink(0.2);
-  const InkMark mark = ink.Mark();
+  const SurfaceMark mark = ink.Mark();
   WriteCapitalOn(ink, 2);
   const QImage once = PictureOf(ink, 1.5);
   const std::size_t dots = ink.KeptDots();
@@ -72,7 +72,7 @@ TEST(InkMarks, StandInTheMiddleOfARun) {
   const double middle[] = {425, 150, 500};
   ink.BeginRun(Primitive::LineRight, middle);
   for (float x = 425; x < 450; x += 0.2F) ink.PSet(x, 150);
-  const InkMark mark = ink.Mark();
+  const SurfaceMark mark = ink.Mark();
   const QImage before = PictureOf(ink);
   for (float x = 450; x < 500; x += 0.2F) ink.PSet(x, 150);
   ink.EndRun();
@@ -82,9 +82,9 @@ TEST(InkMarks, StandInTheMiddleOfARun) {
 
 TEST(InkMarks, GoWithTheMarksBeforeThem) {
   Ink ink(0.2);
-  const InkMark first = ink.Mark();
+  const SurfaceMark first = ink.Mark();
   WriteCapitalOn(ink, 1);
-  const InkMark second = ink.Mark();
+  const SurfaceMark second = ink.Mark();
   WriteCapitalOn(ink, 2);
   EXPECT_TRUE(ink.RewindTo(first));
   EXPECT_FALSE(ink.RewindTo(second));
@@ -94,25 +94,25 @@ TEST(InkMarks, GoWithTheMarksBeforeThem) {
 
 TEST(InkMarks, AreGoneAfterAWipeAndOnceDropped) {
   Ink ink(0.2);
-  const InkMark wiped = ink.Mark();
+  const SurfaceMark wiped = ink.Mark();
   ink.Wipe();
   WriteCapitalOn(ink, 1);
   const std::size_t dots = ink.KeptDots();
   EXPECT_FALSE(ink.RewindTo(wiped));
-  const InkMark dropped = ink.Mark();
+  const SurfaceMark dropped = ink.Mark();
   ink.DropMarks();
   EXPECT_FALSE(ink.RewindTo(dropped));
-  EXPECT_FALSE(ink.RewindTo(InkMark{}));
+  EXPECT_FALSE(ink.RewindTo(SurfaceMark{}));
   EXPECT_EQ(ink.KeptDots(), dots);
 }
 
 TEST(InkMarks, ShowALivingWindowWhatAPictureShows) {
   Ink ink(0.2);
   ink.Cover(kArea, 1.5);
-  ink.SetColour(kBlue);
+  ink.SetPen(kBlue);
   WriteCapitalOn(ink, 1);
-  const InkMark mark = ink.Mark();
-  ink.SetColour(kPenColour);
+  const SurfaceMark mark = ink.Mark();
+  ink.SetPen(kPenColour);
   WriteCapitalOn(ink, 1);
   ink.TakeDirty();
   ink.RewindTo(mark);
@@ -130,15 +130,15 @@ void WriteOften(Ink& ink, std::int16_t letter) {
 
 TEST(InkMarks, KeepWhatWasCoveredMeanwhileForTheWayBack) {
   Ink ink(1);
-  ink.SetColour(kBlue);
+  ink.SetPen(kBlue);
   WriteCapitalOn(ink, 2);
   const QImage first = PictureOf(ink);
-  const InkMark one = ink.Mark();
-  ink.SetColour(kPenColour);
+  const SurfaceMark one = ink.Mark();
+  ink.SetPen(kPenColour);
   WriteOften(ink, 2);
   const QImage second = PictureOf(ink);
-  const InkMark two = ink.Mark();
-  ink.SetColour(kBlue);
+  const SurfaceMark two = ink.Mark();
+  ink.SetPen(kBlue);
   WriteOften(ink, 2);
   ink.RewindTo(two);
   EXPECT_EQ(PictureOf(ink), second);

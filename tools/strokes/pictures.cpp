@@ -99,7 +99,7 @@ QString WritePng(const Request& request) {
   QSaveFile file(request.png);
   if (!file.open(QIODevice::WriteOnly)) return CannotWrite(file);
   Ink ink(request.step);
-  ink.SetColour(kPenColour);
+  ink.SetPen(kPenColour);
   const Letter letter = LetterAsked(request);
   for (const Run& run : letter.Runs()) WriteRun(ink, run);
 

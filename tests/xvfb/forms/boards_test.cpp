@@ -83,7 +83,7 @@ class Boards : public AtTheStart, public ::testing::WithParamInterface<BoardCase
     for (int i = 1; i <= Board::kColours; ++i) {
       board.Pick(Indexed("mnucolor", i));
       EXPECT_EQ(board.Marks(), At("mnucolor", i) + " mnuspd(6)");
-      board.Expected().SetColour(kColours[i - 1]);
+      board.Expected().SetPen(kColours[i - 1]);
       Write(board, kTile);
     }
   }
@@ -94,7 +94,7 @@ class Boards : public AtTheStart, public ::testing::WithParamInterface<BoardCase
     const ColourWord letters = board.Expected().Colour();
     for (int i = 1; i <= Board::kColours; ++i) {
       board.Pick(Indexed("mnugcolor", i));
-      board.Expected().SetColour(kColours[i - 1]);
+      board.Expected().SetPen(kColours[i - 1]);
       std::string lines = " mnugrid mnurulled(5)";
       if (i <= Board::kRules) {
         board.Pick(Indexed("mnurulled", i));
@@ -108,7 +108,7 @@ class Boards : public AtTheStart, public ::testing::WithParamInterface<BoardCase
       EXPECT_EQ(board.Marks(), "mnucolor(6) " + At("mnugcolor", i) + lines + " mnuspd(6)");
       EXPECT_GT(board.SeeSheet(), kSomeInk);
     }
-    board.Expected().SetColour(letters);
+    board.Expected().SetPen(letters);
   }
 
   /// Takes grid and rule off the menu: they stay on the sheet.
@@ -163,7 +163,7 @@ class Boards : public AtTheStart, public ::testing::WithParamInterface<BoardCase
 
   static void Speak(OpenBoard& board) {
     board.Pick("mnucolor(1)");
-    board.Expected().SetColour(kColours[0]);
+    board.Expected().SetPen(kColours[0]);
     board.Pick("mnuaud");
     EXPECT_EQ(board.Marks(), "mnuaud mnucolor(1) mnufor(1)");
     if (GetParam().subject == kMaths) Write(board, 3);  // the first tile after it is silent
