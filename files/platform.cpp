@@ -12,9 +12,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <string>
+#include <system_error>
 #include <utility>
-
-#include "files/trap.h"
 
 namespace bramlee {
 namespace {
@@ -72,12 +72,51 @@ Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
 
 namespace {
 
-[[noreturn]] void Fail(const QString& what) {
-  throw TrappedError(what);
+/// Behind a file's name, while the new one is written.
+const QString kNew = QStringLiteral(".new");
+
+/// What the system's error number tells; `refused` where it says no more than that.
+FileTrouble TroubleOf(int error, FileTrouble refused) {
+  switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return FileTrouble::DiskFull;
+    case EROFS:
+      return FileTrouble::DiskReadOnly;
+    case EIO:
+      return FileTrouble::DiskFails;
+    case ENOENT:
+    case ENOTDIR:
+      return FileTrouble::FolderMissing;
+    case EACCES:
+    case EPERM:
+      return refused;
+    case EISDIR:
+      return FileTrouble::FolderInTheWay;
+    case ELOOP:
+    case ENXIO:
+      return FileTrouble::OtherInTheWay;
+    default:
+      return FileTrouble::Other;
+  }
 }
 
-void Check(bool done, const char* what) {
-  if (!done) Fail(QString::fromLatin1(what));
+QString NameOf(const QString& systemPath) {
+  return QFileInfo(systemPath).fileName();
+}
+
+[[noreturn]] void Fail(FileTrouble trouble, const QString& file, const char* what) {
+  throw FileError(trouble, file, QStringLiteral("%1: %2").arg(file, QString::fromLatin1(what)));
+}
+
+/// After a call to the system: throws what its error number tells.
+void Check(bool done, const char* what, const QString& file = {},
+           FileTrouble refused = FileTrouble::Other) {
+  if (done) return;
+  const int error = errno;
+  const std::string told = std::string(what) + ": " + std::generic_category().message(error);
+  Fail(TroubleOf(error, refused), file, told.c_str());
 }
 
 QString FolderOf(const QString& systemPath) {
@@ -91,7 +130,7 @@ QString EndOfLinks(QString systemPath) {
     if (!file.isSymLink()) return systemPath;
     systemPath = file.symLinkTarget();
   }
-  Fail(QStringLiteral("links that lead round in a circle"));
+  Fail(FileTrouble::OtherInTheWay, NameOf(systemPath), "links that lead round in a circle");
 }
 
 /// Takes the file for this program alone. False when another one holds it. A file system that
@@ -111,16 +150,32 @@ bool IsStillNamed(int file, const QByteArray& name) {
          opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-/// Opens the file that the new bytes go to and locks it. What a killed save left there is used
-/// again.
-Descriptor OpenAside(const QByteArray& name) {
+/// Takes away what a killed save left in the new file's place; its other names keep their bytes.
+/// Only who has locked the file of a name may give that name away, so no save under way loses it.
+void ClearTheWay(const QString& place) {
+  const QByteArray name = QFile::encodeName(place);
+  const Descriptor left(open(name.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (!left.IsOpen() && errno == ENOENT) return;
+  Check(left.IsOpen(), "this is in the way", NameOf(place), FileTrouble::FileReadOnly);
+  if (!TakeLock(left.number())) Fail(FileTrouble::FileHeld, {}, "another program saves");
+  if (!IsStillNamed(left.number(), name)) return;
+  Check(unlink(name.constData()) == 0, "this cannot be taken away", {},
+        FileTrouble::FolderReadOnly);
+}
+
+/// Makes the file that the new bytes go to and locks it.
+Descriptor OpenAside(const QString& place) {
+  const QByteArray name = QFile::encodeName(place);
+  constexpr int kFresh = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
   for (int i = 0; i < 3; ++i) {
-    Descriptor file(open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
-    Check(file.IsOpen(), "the folder takes no file");
-    Check(TakeLock(file.number()), "another program saves");
-    if (IsStillNamed(file.number(), name)) return file;  // else that save has just ended
+    ClearTheWay(place);
+    Descriptor file(open(name.constData(), kFresh, 0666));
+    if (!file.IsOpen() && errno == EEXIST) continue;  // another save was faster
+    Check(file.IsOpen(), "the folder takes no file", {}, FileTrouble::FolderReadOnly);
+    if (!TakeLock(file.number())) break;
+    if (IsStillNamed(file.number(), name)) return file;  // else it was taken for a killed save's
   }
-  Fail(QStringLiteral("other programs save"));
+  Fail(FileTrouble::FileHeld, {}, "other programs save");
 }
 
 void WriteAll(int file, qint64 offset, QByteArrayView bytes) {
@@ -162,16 +217,32 @@ FileBytes FileBytes::Open(const QString& systemPath) {
   return {systemPath, O_RDONLY};
 }
 
+namespace {
+
+/// For what cannot be opened. A file that is not there is none, if its folder is there.
+void CheckAbsent(const QString& systemPath, FileTrouble refused) {
+  const int error = errno;
+  if (error == ENOENT && LookAt(FolderOf(systemPath)) == Sight::Folder) return;
+  errno = error;
+  Check(false, "the file cannot be opened", NameOf(systemPath), refused);
+}
+
+}  // namespace
+
 // A pipe in the file's place must not make the program wait: hence O_NONBLOCK.
 FileBytes::FileBytes(const QString& systemPath, int flags)
     : file_(open(QFile::encodeName(systemPath).constData(), flags | O_NONBLOCK | O_CLOEXEC)) {
   if (!file_.IsOpen()) {
-    const bool absent = errno == ENOENT && LookAt(FolderOf(systemPath)) == Sight::Folder;
-    Check(absent, "the file cannot be opened");
+    const bool reads = flags == O_RDONLY;
+    CheckAbsent(systemPath, reads ? FileTrouble::FileUnreadable : FileTrouble::FileReadOnly);
     return;
   }
   struct stat seen {};
-  Check(fstat(file_.number(), &seen) == 0 && S_ISREG(seen.st_mode), "this is no ordinary file");
+  Check(fstat(file_.number(), &seen) == 0, "the file cannot be looked at");
+  if (!S_ISREG(seen.st_mode)) {
+    Fail(S_ISDIR(seen.st_mode) ? FileTrouble::FolderInTheWay : FileTrouble::OtherInTheWay,
+         NameOf(systemPath), "this is no ordinary file");
+  }
   size_ = seen.st_size;
 }
 
@@ -182,6 +253,7 @@ QByteArray FileBytes::Read(qint64 offset, qint64 count) const {
     const auto got = pread(file_.number(), bytes.data() + done,
                            static_cast<std::size_t>(bytes.size() - done), offset + done);
     if (got < 0 && errno == EINTR) continue;
+    if (got == 0) errno = EIO;  // it has become shorter meanwhile
     Check(got > 0, "the file cannot be read");
     done += got;
   }
@@ -189,26 +261,29 @@ QByteArray FileBytes::Read(qint64 offset, qint64 count) const {
 }
 
 FileReplacement::Aside::Aside(const QString& target)
-    : name_(QFile::encodeName(target + QStringLiteral(".new"))), file_(OpenAside(name_)) {}
+    : name_(QFile::encodeName(target + kNew)), file_(OpenAside(target + kNew)) {}
 
 FileReplacement::Aside::~Aside() {
-  if (file_.IsOpen()) unlink(name_.constData());
+  if (file_.IsOpen() && IsStillNamed(file_.number(), name_)) unlink(name_.constData());
 }
 
 void FileReplacement::Aside::MoveTo(const QString& target) {
+  // Where a file system has no locks another program may have put its own there.
+  if (!IsStillNamed(file_.number(), name_)) Fail(FileTrouble::FileHeld, {}, "another saves");
   Check(std::rename(name_.constData(), QFile::encodeName(target).constData()) == 0,
-        "the new file does not take the old one's place");
+        "the new file does not take the old one's place", {}, FileTrouble::FolderReadOnly);
   file_ = Descriptor();
 }
 
 FileReplacement::FileReplacement(const QString& systemPath)
     : target_(EndOfLinks(systemPath)), aside_(target_), old_(target_, O_RDWR) {
-  Check(!old_.IsThere() || TakeLock(old_.file_.number()), "another program holds the file");
+  if (old_.IsThere() && !TakeLock(old_.file_.number())) {
+    Fail(FileTrouble::FileHeld, NameOf(target_), "another program holds the file");
+  }
 }
 
 void FileReplacement::Commit(const QMap<qint64, QByteArray>& pieces) {
   const int file = aside_.file();
-  Check(ftruncate(file, 0) == 0, "what an earlier save left cannot be emptied");
   if (old_.IsThere()) CopyMode(old_.file_.number(), file);
   CopyAll(old_, file);
   for (auto piece = pieces.cbegin(); piece != pieces.cend(); ++piece) {

@@ -6,6 +6,8 @@
 #include <QMap>
 #include <QString>
 
+#include "files/trap.h"
+
 namespace bramlee {
 
 /// The folder that is the root of the drive of that letter; it need not be there. On a system
@@ -28,6 +30,35 @@ enum class Sight {
 /// Links are followed.
 Sight LookAt(const QString& systemPath);
 
+/// What keeps a file from being read or replaced.
+enum class FileTrouble {
+  Other,           ///< none of these: the error's text is all that is known
+  DiskFull,        ///< or the user's share of it
+  DiskReadOnly,    ///< the whole of it
+  DiskFails,       ///< it reads or writes no more
+  FolderMissing,   ///< that the file should be in
+  FolderReadOnly,  ///< that one
+  FileReadOnly,
+  FileUnreadable,  ///< this user may not look into it
+  FileHeld,        ///< by another program that saves it
+  FolderInTheWay,  ///< a folder of the file's name
+  OtherInTheWay,   ///< a pipe, a link or the like of that name
+};
+
+/// A file that could not be read or replaced.
+class FileError : public TrappedError {
+ public:
+  FileError(FileTrouble trouble, const QString& file, const QString& what)
+      : TrappedError(what), trouble_(trouble), file_(file) {}
+  FileTrouble trouble() const { return trouble_; }
+  /// The name in its folder of the file that it is about; empty where it is about none alone.
+  QString file() const { return file_; }
+
+ private:
+  FileTrouble trouble_;
+  QString file_;
+};
+
 /// A handle of the system, closed with its owner.
 class Descriptor {
  public:
@@ -46,13 +77,13 @@ class Descriptor {
 class FileBytes {
  public:
   /// Opens the file for reading. A name that is not there is an empty file, which is not made;
-  /// its folder has to be there. Throws TrappedError for what cannot be opened and for what is
-  /// no ordinary file.
+  /// its folder has to be there. Throws FileError for what cannot be opened and for what is no
+  /// ordinary file.
   static FileBytes Open(const QString& systemPath);
 
   bool IsThere() const { return file_.IsOpen(); }
   qint64 Size() const { return size_; }
-  /// At most `count` bytes from `offset` on, fewer at the end. Throws TrappedError.
+  /// At most `count` bytes from `offset` on, fewer at the end. Throws FileError.
   QByteArray Read(qint64 offset, qint64 count) const;
 
  private:
@@ -67,8 +98,9 @@ class FileBytes {
 /// can replace it. A link stays a link, what it leads to is replaced.
 class FileReplacement {
  public:
-  /// Throws TrappedError, with nothing changed, when the folder is missing or read-only, when
-  /// the file is no ordinary file, is read-only or is held by another program.
+  /// Throws FileError, with nothing changed, when the folder is missing or read-only, when the
+  /// file is no ordinary file, is read-only or is held by another program, and when anything but
+  /// a file has the name that the new one takes meanwhile, "<file>.new".
   explicit FileReplacement(const QString& systemPath);
 
   /// The file as it was. A name that was not there is an empty file.
@@ -76,8 +108,8 @@ class FileReplacement {
 
   /// Puts a new file in the old one's place: its bytes with `pieces` laid over them, by their
   /// offsets; a gap is filled with zeros. The file's mode is kept. Whenever the machine stops,
-  /// the name stands for the old file or for the whole new one. Once only. Throws TrappedError,
-  /// and the old file stands.
+  /// the name stands for the old file or for the whole new one. Once only. Throws FileError, and
+  /// the old file stands.
   void Commit(const QMap<qint64, QByteArray>& pieces);
 
  private:

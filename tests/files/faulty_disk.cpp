@@ -29,6 +29,11 @@ auto Made(const char* name, Call call) -> decltype(call()) {
   Disk& disk = TheDisk();
   if (!disk.planned) return call();
   disk.calls.emplace_back(name);
+  if (disk.plan.meanwhile) {
+    disk.planned = false;
+    disk.plan.meanwhile(static_cast<int>(disk.calls.size()));
+    disk.planned = true;
+  }
   const bool now = static_cast<int>(disk.calls.size()) == disk.plan.at;
   if (now && disk.plan.kill) raise(SIGKILL);
   if (now && disk.plan.error != 0) {
@@ -85,7 +90,6 @@ int __real_fcntl(int file, int command, ...);
 int __real_flock(int file, int operation);
 int __real_stat(const char* path, struct stat* seen);
 int __real_fstat(int file, struct stat* seen);
-int __real_ftruncate(int file, off_t length);
 int __real_fchmod(int file, mode_t mode);
 int __real_fchown(int file, uid_t user, gid_t group);
 int __real_fsync(int file);
@@ -100,7 +104,6 @@ int __wrap_fcntl(int file, int command, ...);
 int __wrap_flock(int file, int operation);
 int __wrap_stat(const char* path, struct stat* seen);
 int __wrap_fstat(int file, struct stat* seen);
-int __wrap_ftruncate(int file, off_t length);
 int __wrap_fchmod(int file, mode_t mode);
 int __wrap_fchown(int file, uid_t user, gid_t group);
 int __wrap_fsync(int file);
@@ -136,10 +139,6 @@ int __wrap_stat(const char* path, struct stat* seen) {
 
 int __wrap_fstat(int file, struct stat* seen) {
   return bramlee::Made("fstat", [=] { return __real_fstat(file, seen); });
-}
-
-int __wrap_ftruncate(int file, off_t length) {
-  return bramlee::Made("ftruncate", [=] { return __real_ftruncate(file, length); });
 }
 
 int __wrap_fchmod(int file, mode_t mode) {

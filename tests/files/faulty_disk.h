@@ -16,6 +16,8 @@ struct DiskPlan {
   bool killAfter = false;  ///< the program is killed after the call
   bool interrupt = false;  ///< every reading and writing call is interrupted once
   bool byHalves = false;   ///< every read and write does half its work
+  /// What other programs do before the call of that number. Its own calls are not counted.
+  std::function<void(int call)> meanwhile = {};
 };
 
 /// The names of the calls made while that plan was followed.
