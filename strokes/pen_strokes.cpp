@@ -1,11 +1,45 @@
 #include "strokes/pen_strokes.h"
 
-#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 
 namespace bramlee {
 namespace {
+
+enum class Form : std::uint8_t { Either, Usual, Alternative };
+
+/// A run before which the hand does otherwise than the distance tells.
+struct Exception {
+  std::string_view set;
+  int tile;
+  Form form;
+  std::size_t run;  ///< from 0
+  bool goesOn;      ///< with the stroke of the run before
+};
+
+// clang-format off
+constexpr Exception kExceptions[] = {
+    {"hinv", 9,  Form::Usual,       7, true},   // the sign's ring goes on into its slant, as on tile 10
+    {"hinv", 9,  Form::Alternative, 5, true},   // the same
+    {"telv", 2,  Form::Either,      1, true},   // the ring goes on into the bowl, as on tile 1
+    {"telc", 2,  Form::Either,      1, true},   // the ring goes on into the bow, as on tile 19, its small form
+    {"telc", 2,  Form::Either,      2, true},   // the bow goes back into the loop, as on tile 19
+    {"telc", 13, Form::Either,      2, true},   // the bow goes on into the cup, as on tile 30, its small form
+    {"telc", 29, Form::Either,      6, false},  // the tick and the bar below it are two, as on tile 12, its large form
+    {"telc", 72, Form::Either,      4, true},   // the bow goes on upwards, as on tile 71
+};
+// clang-format on
+
+/// What the table says of a run, if anything.
+std::optional<bool> GoesOnByTable(const LetterId& id, std::size_t run) {
+  const Form form = id.form.alternative ? Form::Alternative : Form::Usual;
+  for (const Exception& each : kExceptions) {
+    const bool same = each.set == id.set && each.tile == id.tile && each.run == run;
+    if (same && (each.form == Form::Either || each.form == form)) return each.goesOn;
+  }
+  return std::nullopt;
+}
 
 /// Where a run's pen touches down and where it leaves.
 struct Ends {
@@ -27,18 +61,19 @@ std::optional<Ends> EndsOf(const Run& run) {
   return ends;
 }
 
-bool GoesOn(const Ends& before, const Ends& next) {
+bool AreNear(const Ends& before, const Ends& next) {
   return std::hypot(next.beginX - before.endX, next.beginY - before.endY) <= kJoinReach;
 }
 
 }  // namespace
 
-std::vector<PenStroke> JoinedRuns(const LetterId& /*id*/, std::span<const Run> runs) {
+std::vector<PenStroke> JoinedRuns(const LetterId& id, std::span<const Run> runs) {
   std::vector<PenStroke> strokes;
   std::optional<Ends> before;
   for (std::size_t i = 0; i < runs.size(); ++i) {
     const std::optional<Ends> ends = EndsOf(runs[i]);
-    const bool goesOn = !ends || (before && GoesOn(*before, *ends));
+    const bool isNear = !ends || (before && AreNear(*before, *ends));
+    const bool goesOn = GoesOnByTable(id, i).value_or(isNear);
     if (strokes.empty() || !goesOn) strokes.push_back({.firstRun = i, .runs = 0});
     ++strokes.back().runs;
     if (ends) before = ends;

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <string>
 #include <vector>
 
 #include "strokes/letter.h"
@@ -63,6 +63,27 @@ TEST(PenStrokesTest, OfBAreItsStemAndItsBowls) {
   ASSERT_EQ(b.PenStrokes().front(), (PenStroke{0, 1}));
   EXPECT_EQ(b.Runs()[0].primitive, Primitive::LineDown);
   EXPECT_GT(b.PenStrokes()[1].runs, 1U);
+}
+
+TEST(PenStrokesTest, DifferFromTheRuleWhereTheHandDoesOtherwise) {
+  std::vector<std::string> letters;
+  for (const LetterId& id : EveryLetter()) {
+    const Letter& letter = LetterOf(id);
+    const Strokes byDistance = JoinedRuns({}, letter.Runs());
+    if (byDistance == StrokesOf(letter)) continue;
+    letters.push_back(NameOf(id) + ": " + std::to_string(byDistance.size()) + " to " +
+                      std::to_string(letter.PenStrokes().size()));
+  }
+  EXPECT_EQ(letters,
+            (std::vector<std::string>{
+                "hinv 9 place 0: 5 to 4", "hinv 9 alternative place 0: 5 to 4",
+                "telv 2 place 0: 2 to 1", "telc 2 place 0: 4 to 2", "telc 13 place 0: 4 to 3",
+                "telc 29 place 0: 2 to 3", "telc 72 place 0: 2 to 1"}));
+}
+
+TEST(PenStrokesTest, OfATileWithOneFormAreThoseOfThatFormHoweverItIsAskedFor) {
+  const LetterId other{.set = "telc", .tile = 2, .form = {.alternative = true}};
+  EXPECT_EQ(StrokesOf(LetterOf(other)), StrokesOf(LetterOf({"telc", 2, {}})));
 }
 
 TEST(PenStrokesTest, HoldEveryRunOnceInOrder) {
