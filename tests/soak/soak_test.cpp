@@ -197,7 +197,7 @@ int FromEnvironment(const char* name, int otherwise) {
   return given > 0 ? given : otherwise;
 }
 
-TEST(Afternoon, EndsWithoutAFaultAndInNoMoreMemory) {
+TEST(SweepOfAnAfternoon, EndsWithoutAFaultAndInNoMoreMemory) {
   QTemporaryDir drives;
   qputenv("BRAMLEE_DRIVES", drives.path().toLocal8Bit());
   ASSERT_TRUE(QDir(drives.path()).mkpath(QStringLiteral("c/bramlee/dba")));

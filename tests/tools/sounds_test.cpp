@@ -255,7 +255,9 @@ TEST_F(SoundsMaker, SpeaksWhatIsJoinedBelowByItsSoundAndName) {
   EXPECT_NE(said(74), said(46)) << "the two r have names of their own";
 }
 
-TEST_F(SoundsMaker, EveryLettersFilePlaysAtOnceAndEvenlyLoud) {
+using SweepOfTheSoundsMaker = SoundsMaker;
+
+TEST_F(SweepOfTheSoundsMaker, EveryLettersFilePlaysAtOnceAndEvenlyLoud) {
   ASSERT_EQ(Make("--quiet --sets engc,engs,hinv,hinc,telv,telc,mat").status, 0);
   const QStringList files = Files();
   EXPECT_EQ(files.size(), 3 * 320);

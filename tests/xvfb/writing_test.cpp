@@ -13,8 +13,8 @@
 namespace bramlee {
 namespace {
 
-/// A letter of this step would take many minutes: it ends when the pen hurries, not before.
-const QString kEndless = QStringLiteral("0.00001");
+/// A letter of this step would take minutes: it ends when the pen hurries, not before.
+const QString kEndless = QStringLiteral("0.00004");
 
 /// The capitals board as watched_board.cpp runs it.
 class WatchedBoard : public Program {

@@ -267,7 +267,7 @@ TEST_P(Boards, ShouldDoWhatEachItemOfTheirMenuSays) {
   OpenForm("fbrmhom1");
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Boards, ::testing::ValuesIn(kBoards),
+INSTANTIATE_TEST_SUITE_P(SweepOfEach, Boards, ::testing::ValuesIn(kBoards),
                          [](const auto& tried) { return std::string(tried.param.form); });
 
 class SetsAndLines : public AtTheStart {};
