@@ -1,6 +1,7 @@
 // The program.
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 
 #include "board/board.h"
 #include "card/card.h"
@@ -11,6 +12,13 @@
 #include "ui/form_ids.h"
 #include "ui/forms.h"
 #include "ui/message_box.h"
+
+namespace {
+
+/// After so long the first window stands, and no letter can have been asked for yet.
+constexpr int kFirstWindowMs = 500;
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -24,6 +32,7 @@ int main(int argc, char** argv) {
   bramlee::RegisterBoards();
   bramlee::RegisterMaths();
   bramlee::ShowForm(bramlee::kStartForm);
+  QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();
   bramlee::DestroyForms();
   return status;

@@ -1,5 +1,8 @@
 #include "media/media.h"
 
+#include <QCoreApplication>
+#include <QProcess>
+
 #include "media/player_form.h"
 #include "media/sound_engine.h"
 #include "ui/form_ids.h"
@@ -9,6 +12,18 @@ namespace bramlee {
 
 void RegisterMedia() {
   RegisterForm(kPlayerForm, [] { return new PlayerForm; });
+}
+
+void ScanSoundLibrary() {
+  auto* scan = new QProcess(QCoreApplication::instance());
+  QObject::connect(scan, &QProcess::finished, scan, &QObject::deleteLater);
+  QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, scan, [scan] {
+    scan->kill();
+    scan->waitForFinished();
+  });
+  scan->setStandardOutputFile(QProcess::nullDevice());
+  scan->setStandardErrorFile(QProcess::nullDevice());
+  scan->start(QCoreApplication::applicationDirPath() + QStringLiteral("/bramlee-sound-scan"), {});
 }
 
 void WarmUpPlayer() {

@@ -76,12 +76,18 @@ bool IsNear(const QRect& a, const QRect& b) {
          std::abs(a.top() - b.top()) <= kNear && std::abs(a.bottom() - b.bottom()) <= kNear;
 }
 
-/// All files below a folder, by their names from there.
+/// What the sound library knows of its plug-ins lies there.
+constexpr char kSoundLibrary[] = "home/.cache/gstreamer-1.0/";
+
+/// All files below a folder but the sound library's, by their names from there.
 QStringList FilesBelow(const QString& folder) {
   QStringList files;
   QDirIterator walk(folder, QDir::Files | QDir::Hidden | QDir::System,
                     QDirIterator::Subdirectories);
-  while (walk.hasNext()) files.append(QDir(folder).relativeFilePath(walk.next()));
+  while (walk.hasNext()) {
+    const QString file = QDir(folder).relativeFilePath(walk.next());
+    if (!file.startsWith(QLatin1StringView(kSoundLibrary))) files.append(file);
+  }
   files.sort();
   return files;
 }
@@ -196,6 +202,20 @@ TEST_F(Road, ClosingTheFrameEndsTheProgram) {
   desktop.AskToClose(desktop.WindowTitled(kFrame));
   EXPECT_EQ(program->WaitForEnd(), 0);
   EXPECT_EQ(FilesBelow(In("")), QStringList{});
+}
+
+TEST_F(Road, TheSoundLibraryIsReadyBeforeAnyClickAndNotInTheProgram) {
+  const Desktop desktop;
+  const auto program = StartOn(desktop);
+  const QDir library(In(kSoundLibrary));
+  ASSERT_TRUE(Eventually([&] {
+    return !library.entryList({QStringLiteral("registry.*.bin")}, QDir::Files).isEmpty();
+  }));
+  QFile loaded(QStringLiteral("/proc/%1/maps").arg(program->ProcessId()));
+  ASSERT_TRUE(loaded.open(QIODevice::ReadOnly));
+  const QByteArray libraries = loaded.readAll();
+  EXPECT_TRUE(libraries.contains("libQt6Multimedia"));
+  EXPECT_FALSE(libraries.contains("libgstreamer"));
 }
 
 TEST_F(Road, NoEdgeOfTheFrameLiesOffTheScreen) {
