@@ -1,10 +1,13 @@
 #include "ui/controls.h"
 
+#include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 namespace bramlee {
 
@@ -103,8 +106,41 @@ Combo::Combo(QWidget* parent) : QComboBox(parent) {
   connect(this, &QComboBox::activated, this, &Combo::Picked);
 }
 
+namespace {
+
+bool IsReturn(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+}  // namespace
+
+void Combo::showPopup() {
+  view()->installEventFilter(this);  // before any that the open list has
+  QComboBox::showPopup();
+}
+
+bool Combo::eventFilter(QObject* watched, QEvent* event) {
+  const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+  if (watched == view() && isKey && IsReturn(*static_cast<QKeyEvent*>(event))) {
+    return FilterReturn(*static_cast<QKeyEvent*>(event));
+  }
+  return QComboBox::eventFilter(watched, event);
+}
+
+/// The open list picks as soon as it is asked whether Return is a shortcut, and closes. A pick that
+/// takes long would get the key itself a second time, in the box's text: the list picks by that.
+bool Combo::FilterReturn(QKeyEvent& event) {
+  if (std::exchange(listMayPick_, false)) return false;
+  event.accept();
+  if (event.type() == QEvent::ShortcutOverride || event.isAutoRepeat()) return true;
+  listMayPick_ = true;
+  QKeyEvent pick(QEvent::ShortcutOverride, event.key(), event.modifiers());
+  QCoreApplication::sendEvent(view(), &pick);
+  return true;
+}
+
 void Combo::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+  if (IsReturn(*event)) {
     if (!event->isAutoRepeat()) Q_EMIT Entered();
     event->accept();
     return;

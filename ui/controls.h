@@ -68,8 +68,15 @@ class Combo : public QComboBox {
   void Entered();
 
  protected:
+  void showPopup() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  bool FilterReturn(QKeyEvent& event);
+
+  bool listMayPick_ = false;
 };
 
 }  // namespace bramlee

@@ -10,7 +10,10 @@ namespace {
 
 class MathsAtTheKeyboard : public ::testing::Test {
  protected:
-  MathsAtTheKeyboard() { program_.WaitFor(QStringLiteral("ready")); }
+  explicit MathsAtTheKeyboard(const QStringList& step = {})
+      : program_(desktop_, QStringLiteral(BRAMLEE_PROGRAMS "/watched_maths"), step) {
+    program_.WaitFor(QStringLiteral("ready"));
+  }
 
   /// Keys one after the other, named as xdotool names them.
   void Keys(const QStringList& keys) const {
@@ -48,6 +51,21 @@ class MathsAtTheKeyboard : public ::testing::Test {
     Type(b);
     Keys({QStringLiteral("Tab"), QStringLiteral("Return")});
   }
+  void OpenList() {
+    desktop_.Key(QStringLiteral("alt+Down"));
+    program_.WaitFor(QStringLiteral("list open"));
+  }
+  /// Marks the item that has the numbers spoken.
+  void Speak() {
+    Keys({QStringLiteral("alt+a"), QStringLiteral("p")});
+    program_.WaitFor(QStringLiteral("picked mnuaud"));
+  }
+  /// All numbers written by now, a blank between them.
+  std::string Written() {
+    QStringList numbers = program_.Lines().filter(QStringLiteral("number written "));
+    for (QString& number : numbers) number = number.section(u' ', 2);
+    return numbers.join(u' ').toStdString();
+  }
   std::string NextResult() { return Next("result "); }
   std::string NextMessage() { return Next("message "); }
   std::string Next(const char* what) {
@@ -80,7 +98,13 @@ class MathsAtTheKeyboard : public ::testing::Test {
 
  private:
   Desktop desktop_;
-  Program program_{desktop_, QStringLiteral(BRAMLEE_PROGRAMS "/watched_maths"), {}};
+  Program program_;
+};
+
+/// With the pen as slow as it is at first: a key goes up long before its number is written.
+class MathsByASlowPen : public MathsAtTheKeyboard {
+ protected:
+  MathsByASlowPen() : MathsAtTheKeyboard({QStringLiteral("0.01")}) {}
 };
 
 /// Where a tile's ink lies, from the sheet's corner, in pixels.
@@ -154,6 +178,36 @@ TEST_F(MathsAtTheKeyboard, ATable) {
   const std::string table = NextResult();
   EXPECT_TRUE(table.starts_with("7 X 1 = 7|7 X 2 = 14|")) << table;
   EXPECT_TRUE(table.ends_with("|7 X 20 = 140|")) << table;
+}
+
+TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListRunsOnce) {
+  desktop().Click(Told("number box "));
+  for (const char* pick : {"Return", "KP_Enter"}) {
+    OpenList();
+    Keys({QStringLiteral("Down"), QString::fromLatin1(pick)});
+    program().WaitFor(QStringLiteral("number written"));
+  }
+  // Keys come in order: what a pick left waiting runs before this one.
+  Type("9");
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("number written 29"));
+  EXPECT_EQ(Written(), "1 2 29");
+}
+
+TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListIsSpokenOnce) {
+  Speak();
+  desktop().Click(Told("number box "));
+  OpenList();
+  Keys({QStringLiteral("Down"), QStringLiteral("Return")});
+  EXPECT_NE(NextMessage().find("Not Found"), std::string::npos);  // as nothing lies on the drive
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("number written"));
+  Type("9");
+  desktop().Key(QStringLiteral("Return"));
+  EXPECT_NE(NextMessage().find("mat-19"), std::string::npos);
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("number written"));
+  EXPECT_EQ(Written(), "1 19");
 }
 
 TEST_F(MathsAtTheKeyboard, TypedFifteenShowsTheFiveAlone) {

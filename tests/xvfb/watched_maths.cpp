@@ -1,5 +1,6 @@
 // The maths board in a program that tells, line by line, what its user gets to see: where the
-// cursor is, results, marks, messages.
+// cursor is, results, marks, messages, numbers. Its argument is the pen's step, 1 without one.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QMessageBox>
@@ -19,7 +20,7 @@ void Say(const QString& line) {
   std::fflush(stdout);
 }
 
-/// Tells of messages as they come up.
+/// Tells of messages and lists as they come up.
 class Watch : public QObject {
  public:
   using QObject::QObject;
@@ -30,17 +31,21 @@ class Watch : public QObject {
     if (box != nullptr && event->type() == QEvent::WindowActivate) {
       Say(QStringLiteral("message ") + box->text());
     }
+    if (qobject_cast<const QAbstractItemView*>(receiver) != nullptr &&
+        event->type() == QEvent::FocusIn) {
+      Say(QStringLiteral("list open"));
+    }
     return false;
   }
 };
 
 class WatchedMaths {
  public:
-  WatchedMaths() {
+  explicit WatchedMaths(const QString& step) {
     RegisterMaths();
     ShowForm(QStringLiteral("fbrmmat01"));
     board_ = static_cast<Board*>(LoadedForm(QStringLiteral("fbrmmat01")));
-    board_->SetText(QStringLiteral("txtspd"), QStringLiteral("1"));
+    board_->SetText(QStringLiteral("txtspd"), step);
     auto* result = board_->Named<ResultBox>(QStringLiteral("txtval(20)"));
     QObject::connect(result, &QPlainTextEdit::textChanged, board_, [result] {
       Say(QStringLiteral("result ") +
@@ -61,8 +66,10 @@ class WatchedMaths {
                        [item] { Say(QStringLiteral("picked ") + item->objectName()); });
     }
     // Connected after the board's own handler, so this comes when that has returned.
-    QObject::connect(board_->Named<Combo>(QStringLiteral("cmb(0)")), &Combo::Entered, board_,
-                     [] { Say(QStringLiteral("number written")); });
+    const auto* box = board_->Named<Combo>(QStringLiteral("cmb(0)"));
+    const auto written = [box] { Say(QStringLiteral("number written ") + box->currentText()); };
+    QObject::connect(box, &Combo::Entered, board_, written);
+    QObject::connect(box, &Combo::Picked, board_, written);
     settling_.start(20);
     QObject::connect(&settling_, &QTimer::timeout, board_, [this] { SayWhenReady(); });
   }
@@ -94,6 +101,6 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   qApp->installEventFilter(new bramlee::Watch(qApp));
-  const bramlee::WatchedMaths maths;
+  const bramlee::WatchedMaths maths(QApplication::arguments().value(1, QStringLiteral("1")));
   return QApplication::exec();
 }
