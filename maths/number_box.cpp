@@ -57,6 +57,7 @@ void MakeNumberBox(Board& board) {
   QFont font = box->font();
   font.setPixelSize(kLetterPixels);
   box->setFont(font);
+  box->RefuseHeldKeys();  // they would go on writing long after they are let go
   box->setAccessibleName(QStringLiteral("Number to write"));
   SetBackColor(box, 0xFFFFFF);
   SetForeColor(box, kBlack);

@@ -145,6 +145,7 @@ void Combo::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  if (refusesHeldKeys_ && event->isAutoRepeat()) return event->accept();
   QComboBox::keyPressEvent(event);
 }
 

@@ -61,6 +61,8 @@ class Combo : public QComboBox {
   Q_OBJECT
  public:
   explicit Combo(QWidget* parent = nullptr);
+  /// From now on an arrow key that is held picks one entry, not one after the other.
+  void RefuseHeldKeys() { refusesHeldKeys_ = true; }
  Q_SIGNALS:
   /// An entry was picked from the list or by the arrow keys.
   void Picked(int index);
@@ -77,6 +79,7 @@ class Combo : public QComboBox {
   bool FilterReturn(QKeyEvent& event);
 
   bool listMayPick_ = false;
+  bool refusesHeldKeys_ = false;
 };
 
 }  // namespace bramlee

@@ -14,6 +14,8 @@
 #include <deque>
 #include <utility>
 
+#include "ui/key_repeats.h"
+
 QT_BEGIN_NAMESPACE
 // A key that is only sent to a window never triggers a shortcut; this way in does. QtGui exports
 // it for the headers of Qt's own test library.
@@ -155,6 +157,10 @@ class HeldInput : public QObject {
 
  protected:
   bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (IsUnmarkedRepeat(receiver, event)) {
+      SendMarkedAsRepeat(receiver, *static_cast<QKeyEvent*>(event));
+      return true;
+    }
     if (!Holds() || IsAdmitted(receiver, event)) return false;
     if (event->type() == QEvent::InputMethod) {
       waiting_.push_back(HeldText(receiver, *static_cast<QInputMethodEvent*>(event)));
@@ -181,6 +187,12 @@ class HeldInput : public QObject {
 
   /// Whether what comes now has to wait: also behind what waits already.
   bool Holds() const { return pumping_ || (Waiting() && !delivering_ && HandlerHasReturned()); }
+
+  bool IsUnmarkedRepeat(const QObject* receiver, const QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (!isKey || !receiver->isWindowType()) return false;
+    return repeats_.IsUnmarked(*static_cast<const QKeyEvent*>(event));
+  }
 
   bool IsAdmitted(const QWidget* widget) const {
     return std::any_of(
@@ -293,6 +305,7 @@ class HeldInput : public QObject {
   /// Whose the mouse is while a button is down.
   enum class MouseOf : std::uint8_t { Nobody, Admitted, Waiting };
 
+  KeyRepeats repeats_;
   QList<QPointer<QWidget>> admitted_;
   MouseOf mouseOf_ = MouseOf::Nobody;
   int depth_ = 0;

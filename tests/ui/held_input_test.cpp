@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
@@ -140,6 +141,43 @@ TEST_F(HeldInputTest, ForgetsAnAdmittedWidgetThatIsGone) {
   const HoldInput hold;
   Meanwhile([this] { ClickAt(MiddleOf(tile)); });
   EXPECT_EQ(tileClicks, 0);
+}
+
+/// Notes the presses of keys that come to a window: new ones and repeats.
+class KeysNoted : public QObject {
+ public:
+  std::string keys;
+
+ protected:
+  bool eventFilter(QObject* /*window*/, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) {
+      keys += static_cast<QKeyEvent*>(event)->isAutoRepeat() ? " repeat" : " new";
+    }
+    return false;
+  }
+};
+
+TEST_F(HeldInputTest, MarksTheKeysThatRepeatThoughQtDoesNot) {
+  KeysNoted noted;
+  bool free = false;  // of what another test has left
+  WhenFree(&window_, [&free] { free = true; });
+  ASSERT_TRUE(QTest::qWaitFor([&free] { return free; }));
+  window_.windowHandle()->installEventFilter(&noted);
+  const auto send = [this](QEvent::Type type, quint32 scanCode, quint64 time) {
+    QKeyEvent event(type, Qt::Key_Down, Qt::NoModifier, scanCode, 0, 0);
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(window_.windowHandle(), &event);
+  };
+  send(QEvent::KeyPress, 116, 100);
+  send(QEvent::KeyRelease, 116, 600);  // the server's repeat
+  send(QEvent::KeyPress, 116, 600);
+  send(QEvent::KeyRelease, 116, 640);
+  send(QEvent::KeyPress, 111, 640);  // another key
+  send(QEvent::KeyRelease, 111, 700);
+  send(QEvent::KeyPress, 111, 701);  // pressed anew
+  send(QEvent::KeyRelease, 0, 800);
+  send(QEvent::KeyPress, 0, 800);  // no key of a keyboard
+  EXPECT_EQ(noted.keys, " new repeat new new new");
 }
 
 }  // namespace

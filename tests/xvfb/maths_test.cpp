@@ -210,6 +210,17 @@ TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListIsSpokenOnce) {
   EXPECT_EQ(Written(), "1 19");
 }
 
+TEST_F(MathsByASlowPen, AnArrowKeyThatIsHeldPicksOneNumber) {
+  desktop().Click(Told("number box "));
+  desktop().Xdotool({QStringLiteral("keydown"), QStringLiteral("Down")});
+  for (int times = 0; times < 5; ++times) program().WaitFor(QStringLiteral("key repeated"));
+  desktop().Xdotool({QStringLiteral("keyup"), QStringLiteral("Down")});
+  Type("7");
+  desktop().Key(QStringLiteral("Return"));
+  program().WaitFor(QStringLiteral("number written 07"));
+  EXPECT_EQ(Written(), "0 07");
+}
+
 TEST_F(MathsAtTheKeyboard, TypedFifteenShowsTheFiveAlone) {
   desktop().Click(Told("number box "));
   Type("15");

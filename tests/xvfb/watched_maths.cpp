@@ -1,10 +1,13 @@
 // The maths board in a program that tells, line by line, what its user gets to see: where the
-// cursor is, results, marks, messages, numbers. Its argument is the pen's step, 1 without one.
+// cursor is, results, marks, messages, numbers; and keys that repeat as they are held. Its argument
+// is the pen's step, 1 without one.
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QTimer>
+#include <QWindow>
 #include <cstdio>
 
 #include "board/board.h"
@@ -20,7 +23,7 @@ void Say(const QString& line) {
   std::fflush(stdout);
 }
 
-/// Tells of messages and lists as they come up.
+/// Tells of messages and lists as they come up, and of a held key as it comes to a window.
 class Watch : public QObject {
  public:
   using QObject::QObject;
@@ -34,6 +37,10 @@ class Watch : public QObject {
     if (qobject_cast<const QAbstractItemView*>(receiver) != nullptr &&
         event->type() == QEvent::FocusIn) {
       Say(QStringLiteral("list open"));
+    }
+    if (receiver->isWindowType() && event->type() == QEvent::KeyPress &&
+        static_cast<const QKeyEvent*>(event)->isAutoRepeat()) {
+      Say(QStringLiteral("key repeated"));
     }
     return false;
   }
