@@ -64,6 +64,13 @@ TEST(LetterShapeTest, GoesStraightOnToARunThatBeginsAtADistance) {
   EXPECT_NEAR(letter.Length(), 30, 0.02);
 }
 
+TEST(LetterShapeTest, EndsWhereThePenLeavesAlsoAfterARunThatIsShorterThanAPixel) {
+  const Letter letter = LetterOfRuns({Line(10, 20), Line(20.2, 20.3)});
+  const auto& points = letter.Shape().strokes.at(0).points;
+  EXPECT_EQ(points.size(), 11U);
+  EXPECT_NEAR(points.back().x, 20.3, 0.011);
+}
+
 TEST(LetterShapeTest, OfARingIsClosed) {
   const StrokePath& ring = LetterOfRuns({Arc(90, 450, 2)}).Shape().strokes.at(0);
   EXPECT_TRUE(ring.closed);

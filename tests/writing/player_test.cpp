@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -56,6 +57,14 @@ TEST_F(PlayerTest, WritesAsManyDotsAsItIsAskedFor) {
   EXPECT_EQ(Dots(), 13U);
   EXPECT_EQ(player_.Write(100), 7);
   EXPECT_EQ(player_.Write(100), 0);
+}
+
+TEST_F(PlayerTest, BeginsNoStrokeAndNoRunWithoutADotToWrite) {
+  player_.WriteStroke(0);
+  EXPECT_TRUE(player_.BetweenStrokes());
+  player_.Write(17);  // to the end of the second run
+  EXPECT_EQ(surface_.Runs().size(), 2U);
+  EXPECT_FALSE(player_.BetweenStrokes());
 }
 
 TEST_F(PlayerTest, WritesNothingWhilePaused) {
@@ -257,6 +266,16 @@ TEST_F(PlayerTest, WritesAPlacedLetterScaledAndMoved) {
   EXPECT_EQ(surface_.Runs()[0], (bramlee::Run{
                                     Primitive::LineRight, {0, 5, 10}
   }));
+}
+
+TEST_F(PlayerTest, LeavesTheDotsOfALetterThatIsNotPlacedToTheLastBit) {
+  page_.Clear();
+  page_.Add({
+      .letter = {{},                                      1, {{Primitive::LineRight, {0, -0.0, 1}}}},
+        .colour = kRed, .placing = {                                      }
+  });
+  player_.RunToEnd();
+  EXPECT_TRUE(std::signbit(surface_.dots.at(0).dot.y));
 }
 
 TEST_F(PlayerTest, LeavesTheRegistersAlone) {
