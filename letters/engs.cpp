@@ -253,7 +253,7 @@ void WriteZ(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X2, r.Y4, r.X3);
 }
 
-constexpr Letter kLetters[] = {
+constexpr LetterRoutine kLetters[] = {
     WriteA, WriteB, WriteC, WriteD, WriteE, WriteF, WriteG, WriteH, WriteI,
     WriteJ, WriteK, WriteL, WriteM, WriteN, WriteO, WriteP, WriteQ, WriteR,
     WriteS, WriteT, WriteU, WriteV, WriteW, WriteX, WriteY, WriteZ,

@@ -10,12 +10,12 @@ namespace bramlee {
 
 /// The routines of one tile.
 struct Forms {
-  Letter usual = nullptr;
-  Letter alternative = nullptr;  ///< null: the tile has one form, whatever is wanted
+  LetterRoutine usual = nullptr;
+  LetterRoutine alternative = nullptr;  ///< null: the tile has one form, whatever is wanted
 };
 
 /// The routine for the form that the record asks for.
-inline Letter Wanted(const Forms& forms, const StrokeRec& r) {
+inline LetterRoutine Wanted(const Forms& forms, const StrokeRec& r) {
   return r.AltFlag != 0 && forms.alternative != nullptr ? forms.alternative : forms.usual;
 }
 

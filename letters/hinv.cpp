@@ -345,7 +345,7 @@ std::span<const int> HindiVowelsOfTwoForms() {
 void WriteHindiVowel(StrokeRec& rec, DrawingSurface& sheet) {
   if (rec.LetterNo < 1 || rec.LetterNo > std::ssize(kTiles)) return;
   const Tile& tile = kTiles[rec.LetterNo - 1];
-  const Letter write = Wanted(tile.write, rec);
+  const LetterRoutine write = Wanted(tile.write, rec);
   if (write == nullptr) return;
   rec.X1 = ColumnOf(rec, tile.column) + tile.across * rec.CellW;
   rec.Y1 = rec.Row2;

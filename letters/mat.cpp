@@ -257,7 +257,7 @@ constexpr Digit kDigits[] = {
 static_assert(std::size(kDigits) == kDigitTiles);
 
 // From tile 11 on.
-constexpr Letter kSigns[] = {
+constexpr LetterRoutine kSigns[] = {
     WritePlus, WriteMinus, WriteTimes, WriteDividedBy, WritePercent, WriteEquals, WriteQuestion,
 };
 static_assert(kDigitTiles + std::size(kSigns) == 17);

@@ -47,7 +47,7 @@ EndPoint Pen::SlantUpRight(double angle, double x, double y, double limitY) {
   return {LastX2, LastY2};
 }
 
-void WriteFrom(std::span<const Letter> letters, StrokeRec& rec, DrawingSurface& sheet) {
+void WriteFrom(std::span<const LetterRoutine> letters, StrokeRec& rec, DrawingSurface& sheet) {
   if (rec.LetterNo < 1 || rec.LetterNo > std::ssize(letters)) return;
   Pen pen{rec, sheet};
   letters[static_cast<std::size_t>(rec.LetterNo - 1)](rec, pen);

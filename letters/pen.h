@@ -36,10 +36,10 @@ struct Pen {
 };
 
 /// One letter: lays its anchors over the record and writes its strokes.
-using Letter = void (*)(StrokeRec& r, Pen& pen);
+using LetterRoutine = void (*)(StrokeRec& r, Pen& pen);
 
 /// Writes letter rec.LetterNo of a set, the first one being 1. A number outside the set writes
 /// nothing.
-void WriteFrom(std::span<const Letter> letters, StrokeRec& rec, DrawingSurface& sheet);
+void WriteFrom(std::span<const LetterRoutine> letters, StrokeRec& rec, DrawingSurface& sheet);
 
 }  // namespace bramlee

@@ -11,7 +11,7 @@ namespace bramlee {
 /// A tile and the routine that writes its letter.
 struct TeluguTile {
   int tile;
-  Letter write;
+  LetterRoutine write;
 };
 
 /// The vowels' signs, in telv_signs.cpp.
