@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QPainter>
 #include <QRectF>
@@ -27,12 +28,31 @@ std::span<const Subject> Subjects();
 void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRectF& place,
                 double width);
 
-/// Printed text in a font that has the script, as large as `place` allows, `alignment` in it.
+/// The colour of print beside a letter.
+inline constexpr QColor kPrintColour(0x37, 0x47, 0x4F);
+
+/// The font that has the text's script, so large that all ink of the text fits `room` but for
+/// parts of a pixel; its lines are at most 0.69 of the room's height.
+QFont PrintedFont(const QString& text, QSizeF room);
+
+/// Printed text with all its ink within `place`: at its left, right or middle as `alignment`
+/// says, and in the middle of its height as far as the ink lets it.
 void DrawPrinted(QPainter& painter, const QString& text, const QRectF& place,
                  Qt::Alignment alignment, const QColor& colour);
 
+/// Where the tile's letter stands in print on a card: along its upper edge.
+QRectF CornerPlace(const QRectF& card);
+/// The tile's letter in print in the upper right corner of that card.
+void DrawCornerSign(QPainter& painter, const Subject& subject, int tile, const QRectF& card);
+
 /// An empty picture of that size and colour.
 QImage Blank(QSize size, const QColor& ground);
+
+/// How many letters the subject's chart shows, as a book would: of the Hindi consonants the whole
+/// ones.
+int ChartTiles(const Subject& subject);
+/// The card of that tile on the chart, in the chart's pixels.
+QRectF ChartCard(const Subject& subject, int tile);
 
 // The pictures, one routine each.
 QImage TilePicture(const Subject& subject, int tile);

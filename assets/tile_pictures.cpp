@@ -1,10 +1,8 @@
 // Tiles, buttons and signs.
-#include <QFontMetricsF>
 #include <array>
 
 #include "assets/letter_path.h"
 #include "assets/pictures.h"
-#include "letters/letter_names.h"
 #include "letters/letter_sets.h"
 
 namespace bramlee {
@@ -98,26 +96,6 @@ void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRect
   painter.restore();
 }
 
-void DrawPrinted(QPainter& painter, const QString& text, const QRectF& place,
-                 Qt::Alignment alignment, const QColor& colour) {
-  QFont font;
-  // The font that has the script, named first, so that no other is asked for its shaping.
-  const QChar::Script script = text.isEmpty() ? QChar::Script_Latin : text[0].script();
-  font.setFamily(script == QChar::Script_Devanagari ? QStringLiteral("Lohit Devanagari")
-                 : script == QChar::Script_Telugu   ? QStringLiteral("Lohit Telugu")
-                                                    : QStringLiteral("DejaVu Sans"));
-  font.setPixelSize(static_cast<int>(place.height() * 0.62));
-  const double width = QFontMetricsF(font).horizontalAdvance(text);
-  if (width > place.width()) {
-    font.setPixelSize(static_cast<int>(font.pixelSize() * place.width() / width));
-  }
-  painter.save();
-  painter.setFont(font);
-  painter.setPen(colour);
-  painter.drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, text);
-  painter.restore();
-}
-
 QImage TilePicture(const Subject& subject, int tile) {
   QImage image = Blank(subject.tile, subject.ground);
   QPainter painter(&image);
@@ -128,11 +106,7 @@ QImage TilePicture(const Subject& subject, int tile) {
   QRectF place = whole.adjusted(height * 0.12, height * 0.1, -height * 0.12, -height * 0.1);
   if (corner) place.setTop(height * 0.28);
   DrawLetter(painter, subject, tile, place, height * 0.075);
-  if (corner) {
-    const QRectF print(height * 0.03, 0, whole.width() - height * 0.06, height * 0.3);
-    DrawPrinted(painter, QString::fromStdString(PrintedLetter(subject.letterSet, tile)), print,
-                Qt::AlignRight | Qt::AlignVCenter, QColor(0x37474F));
-  }
+  if (corner) DrawCornerSign(painter, subject, tile, whole);
   return image;
 }
 
@@ -142,7 +116,7 @@ QImage LetteringPicture() {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के"),
-              QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignCenter, QColor(0x1565C0));
+              QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignHCenter, QColor(0x1565C0));
   return image;
 }
 
@@ -154,8 +128,8 @@ QImage SetButtonPicture(int set) {
   const QRectF whole(image.rect());
   DrawLetter(painter, subject, kHindiSetTiles * (set - 1) + 1, whole.adjusted(90, 25, -20, -25),
              15);
-  DrawPrinted(painter, QString::number(set), whole.adjusted(14, 0, -200, 0),
-              Qt::AlignLeft | Qt::AlignVCenter, QColor(0x37474F));
+  DrawPrinted(painter, QString::number(set), whole.adjusted(14, 0, -200, 0), Qt::AlignLeft,
+              kPrintColour);
   return image;
 }
 
@@ -185,7 +159,7 @@ QImage TableButtonPicture() {
   constexpr std::array kRows = {"2 x 1 = 2", "2 x 2 = 4", "2 x 3 = 6"};
   QRectF row(0, 12, 320, 68);
   for (const char* text : kRows) {
-    DrawPrinted(painter, QString::fromLatin1(text), row, Qt::AlignCenter, subject.ink);
+    DrawPrinted(painter, QString::fromLatin1(text), row, Qt::AlignHCenter, subject.ink);
     row.translate(0, 64);
   }
   return image;
