@@ -141,7 +141,7 @@ QImage DrawSheet(std::span<const LetterId> letters) {
 }
 
 bool DrawSet(const LetterSet& set, const QString& folder) {
-  constexpr std::size_t kOnASheet = kColumns * kRows;
+  constexpr std::size_t kOnASheet = std::size_t{kColumns} * kRows;
   const std::vector<LetterId> letters = LettersOf(set);
   for (std::size_t first = 0, number = 1; first < letters.size(); first += kOnASheet, ++number) {
     const std::size_t count = std::min(kOnASheet, letters.size() - first);
