@@ -1,4 +1,4 @@
-// What the engine asks of whatever is drawn on: the sheet of a board, a picture, a recorder.
+// What letters are drawn on: the sheet of a board, a picture, a recorder.
 #pragma once
 
 #include <cstdint>
@@ -34,18 +34,18 @@ class DrawingSurface {
   /// dots of an arc (degrees). Read once on entry of each primitive; greater than 0.
   virtual double Step() const = 0;
 
-  /// Whether the surface wants the dots. One that does not is told of the runs alone; where they
-  /// end and what they leave in the last-point registers is the same.
+  /// Whether the surface wants the dots. One that does not gets BeginRun and EndRun alone; where
+  /// the runs end and what they leave in the last-point registers is the same.
   virtual bool WantsDots() const { return true; }
 
-  /// The colour of the dots to come, in whatever way the surface tells colours. Primitives do not
-  /// set it; who writes in several colours does.
+  /// Sets the colour of the dots to come; the surface defines what the figure means. Primitives
+  /// leave the colour alone: the caller sets it.
   virtual void SetPen(std::uint32_t /*colour*/) {}
 
-  /// Tells that a primitive begins, with its arguments in its own order (see primitives.h).
+  /// Called when a primitive begins, with its arguments in its own order (see primitives.h).
   virtual void BeginRun(Primitive /*primitive*/, std::span<const double> /*arguments*/) {}
 
-  /// Tells that the primitive begun last has plotted its last dot.
+  /// Called when the primitive begun last has plotted its last dot.
   virtual void EndRun() {}
 };
 

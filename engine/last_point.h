@@ -10,7 +10,7 @@ extern double LastX2, LastY2;  ///< SlantRight, SlantUpRight: last dot within 10
 /// Puts all four to 0, as at the start of the program.
 void ClearLastPoint();
 
-/// Puts the registers back as they were when this began, when this goes.
+/// Keeps the registers at its construction and puts them back at its destruction.
 class KeepLastPoint {
  public:
   KeepLastPoint() = default;

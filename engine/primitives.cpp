@@ -5,15 +5,15 @@
 namespace bramlee {
 namespace {
 
-/// Tells the surface about a run from its first dot to its last.
-class ToldRun {
+/// Frames a run: BeginRun before its first dot, EndRun after its last.
+class FramedRun {
  public:
-  ToldRun(DrawingSurface& sheet, const Run& run) : sheet_(sheet) {
+  FramedRun(DrawingSurface& sheet, const Run& run) : sheet_(sheet) {
     sheet_.BeginRun(run.primitive, run.Arguments());
   }
-  ~ToldRun() { sheet_.EndRun(); }
-  ToldRun(const ToldRun&) = delete;
-  ToldRun& operator=(const ToldRun&) = delete;
+  ~FramedRun() { sheet_.EndRun(); }
+  FramedRun(const FramedRun&) = delete;
+  FramedRun& operator=(const FramedRun&) = delete;
 
  private:
   DrawingSurface& sheet_;
@@ -27,7 +27,7 @@ std::int16_t Write(DrawingSurface& sheet, Primitive primitive,
 }  // namespace
 
 std::int16_t WriteRun(DrawingSurface& sheet, const Run& run) {
-  const ToldRun told(sheet, run);
+  const FramedRun framed(sheet, run);
   RunCursor cursor(run, sheet.Step());
   if (sheet.WantsDots()) {
     cursor.Plot(sheet);

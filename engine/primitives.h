@@ -1,6 +1,6 @@
-// The eight runs of the pen. Each is a counted loop that plots one dot a turn: the dot loop is
-// the animation, so nothing here waits, and nothing is fitted: the step is added after each
-// turn, and the accumulated sum decides whether a last dot is plotted.
+// The eight runs of the pen. Each is a counted loop that plots one dot a turn. The loop itself is
+// the animation: the surface sets the pace, nothing here waits. Ends are not fitted: the step is
+// added after each turn, and the accumulated sum decides whether a last dot is plotted.
 //
 // A run whose ends lie the wrong way round plots nothing. No argument is checked. All return 0.
 #pragma once
@@ -35,8 +35,7 @@ std::int16_t SlantRight(DrawingSurface& sheet, double angle, double x, double y,
 /// Up and to the right, at most kSlantReach along the slope. Sets LastX2, LastY2.
 std::int16_t SlantUpRight(DrawingSurface& sheet, double angle, double x, double y, double limitY);
 
-/// Any of them, by its run: tells the surface that it begins and ends, plots its dots, leaves the
-/// registers.
+/// Any of them, by its run: calls BeginRun, plots the dots, calls EndRun and sets the registers.
 std::int16_t WriteRun(DrawingSurface& sheet, const Run& run);
 
 }  // namespace bramlee

@@ -44,7 +44,7 @@ class RunCursor {
  public:
   static constexpr std::int64_t kAll = std::numeric_limits<std::int64_t>::max();
 
-  /// Before the first dot of nothing.
+  /// At the end of a run without dots.
   RunCursor() = default;
   /// Before the run's first dot. `step` as DrawingSurface::Step().
   RunCursor(const Run& run, double step);
@@ -52,7 +52,7 @@ class RunCursor {
   /// Whether no dot is left.
   bool AtEnd() const { return over_ || !Within(counter_); }
 
-  /// Hands the next dots to `take(double x, double y)`, at most `most`; returns how many. A dot
+  /// Calls `take(double x, double y)` for the next dots, at most `most`; returns how many. A dot
   /// for which `take` throws is still the next one.
   template <class Take>
   std::int64_t Advance(std::int64_t most, Take take);
@@ -60,11 +60,11 @@ class RunCursor {
   /// Plots the next dots, at most `most`; returns how many.
   std::int64_t Plot(DrawingSurface& sheet, std::int64_t most = kAll);
 
-  /// Passes over the next dots, at most `most`, without working out more of them than what
-  /// decides the end and the registers; returns how many.
+  /// Skips the next dots, at most `most`, and computes of them only what decides the end and the
+  /// registers; returns how many.
   std::int64_t Skip(std::int64_t most = kAll);
 
-  /// Leaves in the last-point registers what the run leaves there, had it ended here.
+  /// Sets the last-point registers as the run would if it ended here.
   void LeaveLastPoint() const;
 
  private:
@@ -86,7 +86,7 @@ class RunCursor {
     return {radius_ * std::cos(t) + x_, y_ - radius_ * std::sin(t)};
   }
   Place OnSlant(double i) const { return {x_ + i * acrossBy_, y_ + i * downBy_}; }
-  /// Whether a dot so low or high still moves the registers.
+  /// Whether a dot at that Y still moves the registers.
   bool MovesLastPoint(double y) const {
     return upward_ ? y >= y_ - kRegisterReach : y <= y_ + kRegisterReach;
   }
@@ -105,7 +105,7 @@ class RunCursor {
   double counter_ = 1;
   double to_ = 0;
   double step_ = 1;
-  double x_ = 0;  ///< centre of an arc, begin of a slant
+  double x_ = 0;  ///< centre of an arc, start of a slant
   double y_ = 0;  ///< the same; a level line's Y or an upright one's X
   double radius_ = 0;
   double acrossBy_ = 0;  ///< how far right a slant goes in a pixel

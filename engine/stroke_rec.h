@@ -6,8 +6,8 @@
 
 namespace bramlee {
 
-/// One letter's record. A click makes a fresh one, all zeros, fills it by FillStrokeRec and hands
-/// it to the letter, which may rewrite anything but the cell tables; it dies with the click.
+/// One letter's record. A click makes a fresh one by FillStrokeRec and passes it to the letter,
+/// which may rewrite anything but the cell tables; it ends with the click.
 /// Coordinates, sizes and radii are sheet pixels, angles degrees.
 struct StrokeRec {
   std::int16_t LetterNo{};  ///< number of the tile, 1-based
@@ -26,7 +26,7 @@ struct StrokeRec {
   double R1{}, R2{}, R3{}, R4{}, R5{};       ///< radii
   double StartAngle{};                       ///< an arc's first angle; a slant's angle
   double EndAngle{};                         ///< an arc's last angle
-  std::int16_t StepFlag{};                   ///< handed to ArcStroke, which does not read it
+  std::int16_t StepFlag{};                   ///< an argument of ArcStroke, which does not read it
   std::int16_t SweepDir{};                   ///< +1 anticlockwise, -1 clockwise
   std::int16_t LastResult{};                 ///< what the last primitive returned: 0
   double CellW{}, CellH{};                   ///< size of a cell

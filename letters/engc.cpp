@@ -6,7 +6,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters share: whoever changes one changes all letters that name it.
+// Parts that several letters share: a change to one changes every letter that uses it.
 
 /// The stem and upper bowl of B, P and R. The stem stands at X2 in the cell at `column`, the bowl's
 /// half circle begins at X7.

@@ -7,7 +7,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters share: whoever changes one changes all letters that name it.
+// Parts that several letters share: a change to one changes every letter that uses it.
 
 /// The tall stem of b and h, at X2 in the cell at `column`.
 void WriteAscender(double column, StrokeRec& r, Pen& pen) {

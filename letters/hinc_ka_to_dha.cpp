@@ -7,7 +7,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters or forms share: whoever changes one changes all that name it.
+// Parts that several letters or forms share: a change to one changes all that use it.
 
 /// The whole of क, its right bow from the stem to the angle `end`.
 void WriteKaTo(double end, StrokeRec& r, Pen& pen) {
@@ -42,7 +42,7 @@ void WriteBarOverHook(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X1 - 63.825, r.Y1, r.X1 + 31.9125);
 }
 
-/// The short stem and the round of ट, ठ and ढ, to the angle `end`; gives the end of the round.
+/// The short stem and the round of ट, ठ and ढ, to the angle `end`; returns the end of the round.
 EndPoint WriteStemAndRound(double end, StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1, r.Y1, r.Y1 + 30);
   return pen.Arc(90, end, +1, r.X1, r.Y1 + 86.25, 56.25);
@@ -67,7 +67,7 @@ void WriteTaTo(double end, StrokeRec& r, Pen& pen) {
   pen.SlantRight(30, bow.x, bow.y, bow.y + 45);
 }
 
-/// The stem and bow of द; gives the end of the bow.
+/// The stem and bow of द; returns the end of the bow.
 EndPoint WriteDaBow(StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1, r.Y1, r.Y1 + 30);
   pen.LineLeft(r.X1 - 28.5, r.Y1 + 30, r.X1);

@@ -7,7 +7,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters or forms share: whoever changes one changes all that name it.
+// Parts that several letters or forms share: a change to one changes all that use it.
 
 /// The short stem and the bowl of प, फ and ष, to the angle `end`.
 void WriteStemAndBowl(double end, StrokeRec& r, Pen& pen) {
@@ -27,7 +27,7 @@ void WriteRaBody(StrokeRec& r, Pen& pen) {
   pen.SlantRight(40, curl.x, curl.y, r.Y1 + kHindiStem);
 }
 
-/// ळ but for its bar; gives the place where its two rings meet.
+/// ळ without its bar; returns the place where its two rings meet.
 EndPoint WriteLlaRings(StrokeRec& r, Pen& pen) {
   const EndPoint ring = pen.Arc(0, 360, +1, r.X1 + 81.5, r.Y1 + 72, 45);
   pen.Arc(180, -180, -1, ring.x + 45, r.Y1 + 72, 45);
@@ -35,7 +35,7 @@ EndPoint WriteLlaRings(StrokeRec& r, Pen& pen) {
   return ring;
 }
 
-/// क्ष but for its tail; gives the end of its bow.
+/// क्ष without its tail; returns the end of its bow.
 EndPoint WriteKshaBow(StrokeRec& r, Pen& pen) {
   pen.LineLeft(r.X1 + 25, r.Y1 + 49.5, r.X1 + 112.5);
   const EndPoint ring = pen.Arc(270, -90, -1, r.X1 + 25, r.Y1 + 19.5, 30);
@@ -100,7 +100,7 @@ void WriteRa(StrokeRec& r, Pen& pen) {
   WriteRaBody(r, pen);
 }
 
-// The half form of र has nothing of the whole letter.
+// The half form of र shares no stroke with the whole letter.
 
 void WriteHalfRa(StrokeRec& r, Pen& pen) {
   pen.SlantLeft(50, r.Col2 + 0.45 * r.CellW, r.Row3 + 0.1 * r.CellH, r.Row3 + 0.5 * r.CellH);

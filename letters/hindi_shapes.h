@@ -1,5 +1,5 @@
-// Strokes that letters of several Hindi sources share: whoever changes one changes all letters that
-// name it.
+// Strokes that letters of several Hindi sources share: a change to one changes every letter that
+// uses it.
 #pragma once
 
 #include "letters/pen.h"

@@ -13,9 +13,9 @@ namespace {
 /// Stems and bodies are this high.
 constexpr double kHeight = 150;
 
-// Parts that several letters share: whoever changes one changes all letters that name it.
+// Parts that several letters share: a change to one changes every letter that uses it.
 
-/// अ but for its bar; gives the place of its stem.
+/// अ without its bar; returns the place of its stem.
 EndPoint WriteABody(const StrokeRec& r, Pen& pen) {
   pen.Arc(150, -90, -1, r.X1 + 30, r.Y1 + 30, 30);
   pen.Arc(90, -170, -1, r.X1 + 30, r.Y1 + 105, 45);
@@ -24,7 +24,7 @@ EndPoint WriteABody(const StrokeRec& r, Pen& pen) {
   return stem;
 }
 
-/// The whole of अ; gives the place of its stem.
+/// The whole of अ; returns the place of its stem.
 EndPoint WriteWholeA(const StrokeRec& r, Pen& pen) {
   const EndPoint stem = WriteABody(r, pen);
   pen.LineRight(stem.x - 36, r.Y1, stem.x + 36);
@@ -38,7 +38,7 @@ void WriteWholeAa(const StrokeRec& r, Pen& pen) {
   pen.LineRight(stem.x - 36, r.Y1, stem.x + 81);
 }
 
-/// The alternative form of अ but for its bar; gives the waist between its two bows.
+/// The alternative form of अ without its bar; returns the waist between its two bows.
 EndPoint WriteRoundA(const StrokeRec& r, Pen& pen) {
   const EndPoint waist = pen.Arc(150, -90, -1, r.X1 + 37.5, r.Y1 + 37.5, 37.5);
   pen.Arc(90, -170, -1, r.X1 + 37.5, r.Y1 + 112.5, 37.5);
@@ -84,13 +84,13 @@ void WriteStrokeOfAi(const StrokeRec& r, Pen& pen) {
   pen.SlantRight(55, r.X1 + 95, r.Y1 - 37.5, r.Y1);
 }
 
-/// The sign of e; gives the place where it meets the bar.
+/// The sign of e; returns the place where it meets the bar.
 EndPoint WriteESign(const StrokeRec& r, Pen& pen) {
   pen.Arc(70, -290, -1, r.X1 + 110, r.Y1 - 27, 7.5);
   return pen.SlantRight(45, r.X1 + 114.5, r.Y1 - 33, r.Y1);
 }
 
-/// The sign of ai: that of e and a stroke above it; gives the place where it meets the bar.
+/// The sign of ai: that of e and a stroke above it; returns the place where it meets the bar.
 EndPoint WriteAiSign(const StrokeRec& r, Pen& pen) {
   WriteESign(r, pen);
   pen.Arc(45, -290, -1, r.X1 + 112.5, r.Y1 - 55.5, 7.5);

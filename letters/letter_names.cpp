@@ -44,7 +44,7 @@ constexpr Named kHindiVowels[] = {
     {"mark below", "्"},
 };
 
-// The last four bear what their strokes show.
+// The last four are printed as their strokes show them.
 constexpr Named kHindiConsonants[] = {
     {"ka", "क"}, {"kha", "ख"}, {"ga", "ग"}, {"gha", "घ"},
     {"nga", "ङ"}, {"cha", "च"}, {"chha", "छ"}, {"ja", "ज"},

@@ -1,4 +1,4 @@
-// The letter sets as data: what tells one set's letters from another's.
+// The letter sets as data: what differs from set to set.
 #pragma once
 
 #include <span>
@@ -11,7 +11,7 @@ namespace bramlee {
 
 /// Lays a letter's anchors over the record and writes its strokes. The record is fresh from
 /// FillStrokeRec, with LetterNo the tile and AltFlag the wanted form; what a set reads besides
-/// is told with its routine. A tile outside the set writes nothing.
+/// is said with its routine. A tile outside the set writes nothing.
 using WriteLetter = void (*)(StrokeRec& rec, DrawingSurface& sheet);
 
 /// One letter set.
@@ -21,7 +21,7 @@ struct LetterSet {
   int tiles;                         ///< tiles are 1 to this
   std::span<const int> secondForms;  ///< tiles that have an alternative form too
   WriteLetter write;
-  int footTilesFrom = 0;  ///< tiles from here on bear the foot stroke too; 0 for none
+  int footTilesFrom = 0;  ///< tiles from here on get the foot stroke too; 0 for none
   int digits = 0;         ///< tiles 1 to this can stand in a typed number
 };
 
@@ -60,7 +60,7 @@ const LetterSet* FindLetterSet(std::string_view name);
 /// Whether the tile has an alternative form beside its usual one.
 bool HasSecondForm(const LetterSet& set, int tile);
 
-// One routine a set, each in the source that bears the set's name.
+// One routine a set, each in the source that is named after the set.
 void WriteCapital(StrokeRec& rec, DrawingSurface& sheet);
 void WriteSmallLetter(StrokeRec& rec, DrawingSurface& sheet);
 void WriteHindiVowel(StrokeRec& rec, DrawingSurface& sheet);

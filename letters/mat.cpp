@@ -9,7 +9,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several digits or forms share: whoever changes one changes all that name it.
+// Parts that several digits or forms share: a change to one changes all that use it.
 
 /// The frame that the 1, 2, 3 and 5 stand in.
 void LayFrame(StrokeRec& r) {
@@ -38,7 +38,7 @@ void LayFour(StrokeRec& r) {
   r.WY3 = 2 * r.CellH + r.WY1;
 }
 
-/// The ring of the 9, of radius R4 about (X1, CY1); gives the place where its stem begins.
+/// The ring of the 9, of radius R4 about (X1, CY1); returns the place where its stem begins.
 EndPoint WriteRingOfNine(StrokeRec& r, Pen& pen) {
   r.WY1 = r.CellH * 0.32 + r.Y1;
   r.CY1 = r.CellH * 0.2 + r.WY1;

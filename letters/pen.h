@@ -10,14 +10,14 @@
 namespace bramlee {
 
 /// Where a stroke left the last-point registers: the end of an arc, or of a slant as far as it
-/// moves them. Kept by the letters that join a later stroke on.
+/// moves them. Letters keep it where a later stroke joins on.
 struct EndPoint {
   double x;
   double y;
 };
 
-/// Writes strokes with one letter's record. What each stroke means, and its argument order, is
-/// told in engine/primitives.h; each leaves its result in the record's LastResult.
+/// Writes strokes with one letter's record. engine/primitives.h says what each stroke means and in
+/// which order its arguments stand; each leaves its result in the record's LastResult.
 struct Pen {
   StrokeRec& rec;
   DrawingSurface& sheet;

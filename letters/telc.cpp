@@ -9,7 +9,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters share: whoever changes one changes all letters that name it. `column`
+// Parts that several letters share: a change to one changes every letter that uses it. `column`
 // is the left edge of the letter's own column, which X1 becomes.
 
 /// The letter ka, and the beginning of kssa.
@@ -47,7 +47,7 @@ void WriteChaAt(double column, StrokeRec& r, Pen& pen) {
   HeadTick(pen, r.WX1, r.Row2, 52.5);
 }
 
-/// One of the ways in which dda is written, and the beginning of the same way of ddha; gives the
+/// One of the ways in which dda is written, and the beginning of the same way of ddha; returns the
 /// place between its bowls. The loop at its right ends at the angle `loopEnd`; 0 is no loop.
 EndPoint WriteDdaAt(double column, int loopEnd, StrokeRec& r, Pen& pen) {
   r.WX1 = column + 153.25;

@@ -1,13 +1,13 @@
 // The forms in which Telugu consonants hang below another consonant, tiles 18 to 34: those of ka to
 // nna. The rest are in telc_below_ta_to_rra.cpp. They stand around and under Row4 (475), most of
-// them half as large as the letter itself, and bear no HeadTick.
+// them half as large as the letter itself, and have no HeadTick.
 #include "letters/telugu_shapes.h"
 #include "letters/telugu_tiles.h"
 
 namespace bramlee {
 namespace {
 
-// Parts that several forms share: whoever changes one changes all forms that name it. `column` is
+// Parts that several forms share: a change to one changes every form that uses it. `column` is
 // the left edge of the form's own column.
 
 /// The loop and bowls that nga, ja and dza begin with. X1 is the middle of the left loop and X2 of
@@ -38,7 +38,7 @@ void WriteChaAt(double column, StrokeRec& r, Pen& pen) {
   pen.Arc(0, 90, +1, r.X1 + 139.8, r.Row4 + 45.15, 60);
 }
 
-/// The form of dda about its middle, and the beginning of that of ddha; gives the place between
+/// The form of dda about its middle, and the beginning of that of ddha; returns the place between
 /// its bowls.
 EndPoint WriteDdaAt(double middle, StrokeRec& r, Pen& pen) {
   r.X1 = middle;

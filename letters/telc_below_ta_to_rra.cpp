@@ -6,10 +6,10 @@
 namespace bramlee {
 namespace {
 
-// Parts that several forms share: whoever changes one changes all forms that name it. `column` is
+// Parts that several forms share: a change to one changes every form that uses it. `column` is
 // the left edge of the form's own column.
 
-/// The form of da, and the beginning of those of tha and dha; gives the place between its bowls.
+/// The form of da, and the beginning of those of tha and dha; returns the place between its bowls.
 EndPoint WriteDaAt(double column, StrokeRec& r, Pen& pen) {
   r.X1 = column;
   pen.Arc(90, 185, +1, r.X1 + 120.625, r.Row4 + 38.125, 35);
@@ -19,12 +19,12 @@ EndPoint WriteDaAt(double column, StrokeRec& r, Pen& pen) {
   return bowl;
 }
 
-/// The ring of pa, pha and ha about (X1, Y1); gives the place where it closes.
+/// The ring of pa, pha and ha about (X1, Y1); returns the place where it closes.
 EndPoint WriteRing(StrokeRec& r, Pen& pen) {
   return pen.Arc(0, 360, +1, r.X1, r.Y1, 18.75);
 }
 
-/// The bowl that pa and its kin have beside their ring.
+/// The bowl of pa, pha, sa and ha beside the ring.
 void WriteBowl(StrokeRec& r, Pen& pen) {
   pen.Arc(190, 346, +1, r.X1 + 37.5, r.Y1, 18.75);
 }
@@ -34,7 +34,7 @@ void WriteBack(StrokeRec& r, Pen& pen) {
   pen.Arc(332, 435, +1, r.X1 + 3.75, r.Y1 - 24, 60);
 }
 
-/// The form of pa, and the beginning of that of pha; gives the place where the ring closes.
+/// The form of pa, and the beginning of that of pha; returns the place where the ring closes.
 EndPoint WritePaAt(double column, StrokeRec& r, Pen& pen) {
   r.X1 = column + 157.5;
   r.Y1 = r.Row4 + 37.5;
@@ -44,7 +44,7 @@ EndPoint WritePaAt(double column, StrokeRec& r, Pen& pen) {
   return ring;
 }
 
-/// The form of ba, and the beginning of that of bha; gives the place between its bowls.
+/// The form of ba, and the beginning of that of bha; returns the place between its bowls.
 EndPoint WriteBaAt(double column, StrokeRec& r, Pen& pen) {
   r.X1 = column;
   pen.Arc(180, -90, -1, r.X1 + 191.875, r.Row4 + 3.75, 18.75);

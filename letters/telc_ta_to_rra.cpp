@@ -6,7 +6,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters share: whoever changes one changes all letters that name it. `column`
+// Parts that several letters share: a change to one changes every letter that uses it. `column`
 // is the left edge of the letter's own column, which X1 becomes.
 
 /// The letter da, and the beginning of tha and dha.
@@ -40,25 +40,25 @@ void WriteBowlWithTick(StrokeRec& r, Pen& pen) {
   TickTwice(pen, r.X1 + 125, r.Row2, 52.5);
 }
 
-/// The ring of pa, pha, ssa and ha; gives the place where it closes.
+/// The ring of pa, pha, ssa and ha; returns the place where it closes.
 EndPoint WriteRing(StrokeRec& r, Pen& pen) {
   return pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
 }
 
-/// The bowl that pa and its kin have beside their ring, and its back; gives the end of the bowl.
+/// The bowl of pa, pha, ssa, sa and ha beside the ring, and its back; returns the end of the bowl.
 EndPoint WriteBowlAndBack(StrokeRec& r, Pen& pen) {
   const EndPoint bowl = pen.Arc(190, 346, +1, r.X1 + 120, r.Row3 + 37.5, 37.5);
   pen.Arc(332, 420, +1, r.X1 + 78, r.Row3 + 4, 89.25);
   return bowl;
 }
 
-/// The tick of pa and its kin.
+/// The tick of pa, pha, ssa, sa and ha.
 void WriteTickOfPa(StrokeRec& r, Pen& pen) {
   r.WX1 = r.X1 + 100;
   HeadTick(pen, r.WX1, r.Row2 - 10, 56.25);
 }
 
-/// The letter pa, and the beginning of pha; gives the place where the ring closes.
+/// The letter pa, and the beginning of pha; returns the place where the ring closes.
 EndPoint WritePaAt(double column, StrokeRec& r, Pen& pen) {
   r.X1 = column;
   const EndPoint ring = WriteRing(r, pen);
@@ -67,7 +67,7 @@ EndPoint WritePaAt(double column, StrokeRec& r, Pen& pen) {
   return ring;
 }
 
-/// The letter ba, and the beginning of bha; gives the place between its bowls.
+/// The letter ba, and the beginning of bha; returns the place between its bowls.
 EndPoint WriteBaAt(double column, StrokeRec& r, Pen& pen) {
   r.X1 = column;
   pen.Arc(180, -90, -1, r.X1 + 62.5, r.Row2 + 37.5, 37.5);

@@ -1,4 +1,4 @@
-// Shapes that Telugu letters share: whoever changes one changes all letters that name it. A shape
+// Shapes that Telugu letters share: a change to one changes every letter that uses it. A shape
 // takes its place by reference where it leaves something for its caller there; x, y and r are sheet
 // pixels.
 #pragma once
@@ -22,8 +22,8 @@ void HeadTick(Pen& pen, double& x, double y, double r, TickArms arms = kConsonan
 /// A bar to the right from `x`, 4.5 r long, and a ring of radius r below its end.
 void SideHook(Pen& pen, double x, double y, double r);
 
-/// A ring of radius r above the right of `x`, then a bar to the left, both at the place handed
-/// in. `x` becomes the bar's left end, 2 r lower.
+/// A ring of radius r above the right of `x`, then a bar to the left, both at the place that `x`
+/// has on entry. `x` becomes the bar's left end, 2 r lower.
 void FootHook(Pen& pen, double& x, double y, double r);
 
 /// Two bars, one over the other, joined by a half circle of radius r, with a ring at the upper's

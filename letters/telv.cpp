@@ -9,7 +9,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several letters share: whoever changes one changes all letters that name it. `column`
+// Parts that several letters share: a change to one changes every letter that uses it. `column`
 // is the left edge of the letter's own column, which X1 becomes.
 
 /// The arch and bowls of u and uu.

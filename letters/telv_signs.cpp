@@ -7,7 +7,7 @@
 namespace bramlee {
 namespace {
 
-// Parts that several signs share: whoever changes one changes all signs that name it. `column` is
+// Parts that several signs share: a change to one changes every sign that uses it. `column` is
 // the left edge of the sign's own column, which X1 becomes.
 
 /// The first way in which the signs of i and ii are written, at X1.
@@ -201,7 +201,7 @@ void WriteVirama(StrokeRec& r, Pen& pen) {
 }
 
 constexpr TeluguTile kSigns[] = {
-    {15, WriteHeadTick     }, // the tick of the a that a consonant bears
+    {15, WriteHeadTick     }, // the tick of the a that belongs to every consonant
     {16, WriteSignAa       }, // ా
     {17, WriteSignI        }, // ి
     {18, WriteSignIi       }, // ీ

@@ -39,7 +39,7 @@ TEST_F(ArcStrokeTest, WithTheOtherSweepPlotsNothingAndZeroesTheRegisters) {
   EXPECT_EQ(LastX2, kUntouched);
 }
 
-TEST_F(ArcStrokeTest, ThatDoesNotRunClockwiseZeroesTheRegistersToo) {
+TEST_F(ArcStrokeTest, WithoutDotsClockwiseZeroesTheRegistersToo) {
   Recorder sheet(1);
   ArcStroke(sheet, -1, 0, -90, 90, 100, 100, 50);
   EXPECT_TRUE(sheet.dots.empty());
@@ -47,7 +47,7 @@ TEST_F(ArcStrokeTest, ThatDoesNotRunClockwiseZeroesTheRegistersToo) {
   EXPECT_EQ(LastY, 0);
 }
 
-TEST_F(ArcStrokeTest, AfterOneThatDidNotRunAJoinStartsAtTheSheetsCorner) {
+TEST_F(ArcStrokeTest, WithoutDotsLetsAJoinStartAtTheSheetsCorner) {
   Recorder sheet(1);
   ArcStroke(sheet, +1, 0, 90, -90, 100, 100, 50);
   LineRight(sheet, LastX, LastY, LastX + 3);
@@ -207,7 +207,7 @@ void RunEachOnce(DrawingSurface& sheet) {
   EXPECT_EQ(SlantUpRight(sheet, 40, 500, 150, 100), 0);
 }
 
-TEST_F(AnyStrokeTest, TellsTheSurfaceItsArgumentsInItsOwnOrder) {
+TEST_F(AnyStrokeTest, PassesItsArgumentsToTheSurfaceInItsOwnOrder) {
   Recorder sheet(1);
   RunEachOnce(sheet);
   const std::vector<std::pair<std::string, std::vector<double>>> wanted = {
@@ -256,7 +256,7 @@ TEST_F(AnyStrokeTest, AddsTheStepAndNeverMultipliesIt) {
   EXPECT_NEAR(LastX, 725 + 50 * std::cos(89.99 * kRadians), 1e-6);
 }
 
-/// Tells another step every time it is asked.
+/// Returns another step at every call.
 class FicklePace : public Recorder {
  public:
   FicklePace() : Recorder(0) {}
@@ -274,7 +274,7 @@ TEST_F(AnyStrokeTest, ReadsTheStepOnceOnEntry) {
   EXPECT_EQ(sheet.runs[1].dots, 11);  // 10 to 30 by the second answer, 2
 }
 
-/// Writes down what it is told, in order.
+/// Notes the calls that it gets, in order.
 class Diary : public DrawingSurface {
  public:
   void PSet(float /*x*/, float /*y*/) override { text += '.'; }

@@ -1,4 +1,4 @@
-// What the English letters owe to the registers, and what those that share a part differ in.
+// Which strokes of English letters follow the registers, and how letters with a shared part differ.
 #include <gtest/gtest.h>
 
 #include <cmath>

@@ -157,7 +157,7 @@ TEST(HindiConsonants, LoseTheirStemInTheSecondSet) {
   }
 }
 
-TEST(HindiConsonants, OfTheSecondSetKeepABarAtTimes) {
+TEST(HindiConsonants, OfTheSecondSetSometimesKeepABar) {
   struct Bar {
     int letter;
     double x;

@@ -9,7 +9,7 @@
 namespace bramlee {
 namespace {
 
-TEST(LetterNames, TellEveryTileOfASetApart) {
+TEST(LetterNames, DifferForEveryTileOfASet) {
   for (const LetterSet& set : LetterSets()) {
     std::set<std::string> names;
     for (int tile = 1; tile <= set.tiles; ++tile) names.insert(LetterName(set.name, tile));
@@ -34,14 +34,14 @@ TEST(PrintedLetter, ShowsHalfFormsAndFootStrokesAsPrintedInBooks) {
   EXPECT_EQ(LetterName("hinc", 38), "half ka (क\u094D\u200D)");
 }
 
-TEST(PrintedLetter, BearsWhatTheStrokesOfTheLastFourShow) {
+TEST(PrintedLetter, IsWhatTheStrokesOfTheLastFourShow) {
   EXPECT_EQ(PrintedLetter("hinc", 34), "ळ");
   EXPECT_EQ(PrintedLetter("hinc", 35), "क्ष");
   EXPECT_EQ(PrintedLetter("hinc", 36), "त्र");
   EXPECT_EQ(PrintedLetter("hinc", 37), "ज्ञ");
 }
 
-TEST(PrintedLetter, KnowsTheTeluguTilesThatStandOutOfOrder) {
+TEST(PrintedLetter, FollowsTheTeluguTilesThatStandOutOfOrder) {
   EXPECT_EQ(PrintedLetter("telv", 31), "ఌ");
   EXPECT_EQ(PrintedLetter("telv", 15), "");
   EXPECT_EQ(LetterName("telv", 15), "head tick");

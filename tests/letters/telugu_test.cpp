@@ -1,4 +1,4 @@
-// What the golden strokes do not tell of the Telugu letters.
+// What the golden strokes do not show of the Telugu letters.
 #include <gtest/gtest.h>
 
 #include <algorithm>
