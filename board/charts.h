@@ -5,7 +5,7 @@
 
 namespace bramlee {
 
-/// What one chart differs in from the others.
+/// How one chart differs from the others.
 struct ChartRecord {
   const char* form;     ///< the form's name
   const char* title;    ///< the window's caption
@@ -16,8 +16,8 @@ struct ChartRecord {
   bool formClicks = false;  ///< whether a click beside the picture shows the board too
 };
 
-/// A chart. Nothing in the program opens one; it stands ready for whoever names its form. On an
-/// error its handlers end without a word.
+/// A chart. No screen of the program opens one; ShowForm with its name does. Its handlers ignore
+/// errors.
 class Chart : public Form {
  public:
   /// The record is used as long as the chart lives.
@@ -50,7 +50,7 @@ struct TeluguConsonantsChart : Chart {
   TeluguConsonantsChart();
 };
 
-/// Makes the charts known by their forms' names.
+/// Registers the charts under their forms' names.
 void RegisterCharts();
 
 }  // namespace bramlee

@@ -64,7 +64,7 @@ const BoardRecord kCapitalsBoard{
     .gridExtent = kCapitalsExtent,
     .ruleExtent = kCapitalsExtent,
     .ruleLines = RuleLines::FirstToLast,
-    .rulesComeBack = false,  // the walk over the rules never finds one on this board
+    .rulesComeBack = false,  // on this board a group start never draws the rule again
     .groupStarts = kGroupStarts,
     .strangeTile = "My Mom is Calling.I am going for CHACOLATE",
     .layOut = LayOut,

@@ -47,8 +47,8 @@ void Prepare(Board& board, StrokeRec& rec) {
   rec.AltFlag = RoundToInteger(board.FlagOf(QStringLiteral("txtalt")));
 }
 
-/// Lays the line over the first cell of the sheet. Its place is reckoned like a letter's, in
-/// sheet pixels.
+/// Lays the line over the first cell of the sheet. Its place is computed like a letter's, in sheet
+/// pixels.
 void ShowLine(Board& board, const StrokeRec& rec) {
   PictureBox* line = board.Tile(kLine);
   Place(line, {.left = kTwipsPerPixel * (rec.Col1 + 0.1 * rec.CellH),
@@ -63,7 +63,7 @@ void Write(Board& board, StrokeRec& rec) {
   WriteTile(board, rec);
 }
 
-/// A pick takes away the mark that is there; only a pick without one sets a speed.
+/// While a speed is marked, a pick only removes that mark; the next one sets a speed.
 void PickSpeed(Board& board, int index) {
   const int marked = board.FirstChecked("mnuspd", Board::kSpeeds);
   if (marked != 0) return board.SetChecked(Indexed("mnuspd", marked), false);

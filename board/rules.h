@@ -34,7 +34,7 @@ enum class RuleLines : std::uint8_t {
 void DrawGrid(DrawingSurface& sheet, const SheetExtent& extent);
 
 /// The lines of rule `number`, 1 to 5; any other number draws nothing. With
-/// RuleLines::FirstToLast the number serves as the loop's counter and comes back changed.
+/// RuleLines::FirstToLast the number is the loop's counter, so it is changed on return.
 void DrawRules(DrawingSurface& sheet, const SheetExtent& extent, RuleLines lines,
                std::int16_t& number);
 

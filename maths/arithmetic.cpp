@@ -13,7 +13,7 @@ constexpr int kTableRows = 20;
 /// A table is read by children: 0.1 X 3 has to read 0.3, not 0.30000000000000004.
 constexpr int kTableDigits = 15;
 
-double Reckon(int sign, double a, double b) {
+double Compute(int sign, double a, double b) {
   switch (sign) {
     case kPlus:
       return b + a;
@@ -38,7 +38,7 @@ QString TableNumber(double number) {
 }  // namespace
 
 std::optional<double> RowResult(int sign, double a, double b) {
-  const double result = Reckon(sign, a, b);
+  const double result = Compute(sign, a, b);
   if (!std::isfinite(result)) return std::nullopt;
   return result;
 }

@@ -1,4 +1,4 @@
-// What the drills and the tables reckon.
+// The arithmetic of the drills and the tables.
 #pragma once
 
 #include <QString>
@@ -13,16 +13,15 @@ inline constexpr int kTimes = 13;
 inline constexpr int kDividedBy = 14;
 inline constexpr int kPerCent = 15;
 
-/// The result of a drill's row; kPerCent is `b` per cent of `a`. None where there is no number to
-/// show: 0 / 0, a result too large for a double, another sign. No failure is raised.
+/// The result of a drill's row; kPerCent is `b` per cent of `a`. Empty where there is no number to
+/// show: 0 / 0, a result too large for a double, another sign. Never throws.
 std::optional<double> RowResult(int sign, double a, double b);
 
-/// Whether the row asks for a number divided by nothing: only that is called infinity, 0 / 0 is
-/// not.
+/// Whether the row divides a number other than 0 by 0.
 bool IsInfinite(int sign, double a, double b);
 
 /// The twenty rows of the table of `n`, as "7 X 3 = 21", each with a carriage return and a line
-/// feed behind it; numbers to 15 significant digits. None if a product is too large for a double.
+/// feed behind it; numbers to 15 significant digits. Empty if a product is too large for a double.
 std::optional<QString> TableText(double n);
 
 }  // namespace bramlee

@@ -1,5 +1,5 @@
 // The drills: one row of two numbers, a sign between them and the result, which a click on the
-// equals picture reckons. The sign in force is stored nowhere: it is the first that can be seen.
+// equals picture computes. No variable keeps the sign in force: it is the first visible picture.
 #pragma once
 
 #include "board/board.h"
@@ -15,8 +15,8 @@ void MakeDrillRow(Board& board);
 void MakeDrillMenu(Board& board, QMenu* menu);
 
 /// The click on picequal: writes the row's result into txtval(20). An operand that is no number
-/// turns red, is told of and counts as 0; a number divided by nothing is told of. Where there is no
-/// result, or no sign can be seen, the box keeps its text. On an error it ends quietly.
+/// turns red, shows "Enter Number" and counts as 0; a number divided by 0 shows "Infinity". Without
+/// a result, or without a visible sign, the box keeps its text. Ends quietly on an error.
 void CalcResult(Board& board);
 
 }  // namespace bramlee

@@ -3,7 +3,7 @@
 
 namespace bramlee {
 
-/// Makes the board known by its form's name, fbrmmat01.
+/// Registers the board under its form's name, fbrmmat01.
 void RegisterMaths();
 
 }  // namespace bramlee

@@ -73,7 +73,7 @@ void MakeOwn(Board& board) {
   MakeMathsMenu(board);
 }
 
-/// The place of a typed digit does not outlive a wipe; the drill that is on does.
+/// A wipe clears the place of a typed digit; a drill stays on.
 void ForgetPlace(Board& board) {
   board.SetText(QStringLiteral("txtalt3"), QStringLiteral("0"));
   board.SetText(QStringLiteral("txtaltno"), QStringLiteral("0"));
@@ -94,7 +94,7 @@ void ReadFlags(Board& board, StrokeRec& rec) {
   rec.LoopNo = RoundToInteger(board.FlagOf(QStringLiteral("txtaltno")));
 }
 
-/// A tile speaks whether or not Play is on, but for the one after txtaud was set.
+/// A tile speaks whether Play is on or off; txtaud silences the next one.
 void CueUnlessSilenced(Board& board, const StrokeRec& rec) {
   if (board.FlagOf(QStringLiteral("txtaud")) == 0) {
     CueBoardNo = board.record().cueBoardNo;
@@ -109,7 +109,7 @@ WriteLetter ProgramByPlace(const Board& board, const StrokeRec& rec) {
   return typed ? WriteTypedDigit : WriteNumberTile;
 }
 
-/// The tiles wipe where they would by a click; nothing else does.
+/// Wipes only where a tile's own click wipes.
 void DrawAll(Board& board) {
   if (board.FlagOf(QStringLiteral("txtalt")) == 1) return board.mnuclear1_Click();
   for (int tile = 1; tile <= kTiles; ++tile) board.pic_Click(tile);

@@ -1,5 +1,5 @@
-// What the number board, the drills and the tables share: one of them is on at a time, or so the
-// menu "&Maths" says by its marks.
+// What the number board, the drills and the tables share. The menu "&Maths" marks one of them at a
+// time.
 #pragma once
 
 #include "board/board.h"
@@ -21,7 +21,7 @@ void HideDigitTiles(Board& board);
 /// Shows them all, the number box's left edge on that of the plus sign's tile.
 void ShowDigitTiles(Board& board);
 
-/// The menu item "&Numbers": back to the number board. A row that is up stays beside the tiles.
+/// The menu item "&Numbers": shows the number tiles. A drill's row that is shown stays beside them.
 void mnunum_Click(Board& board);
 
 // The controls that drills and tables share: cmb(16) and txtval(20). MakeDrillRow makes them.

@@ -13,8 +13,8 @@ constexpr ColourWord kRed = 0xFF;
 constexpr int kLastEntry = 100;
 constexpr qsizetype kLongestWritten = 4;
 
-/// Low enough to leave the signs beneath it, whose pictures stand in the middle of their tiles,
-/// whole. In twips.
+/// In twips. Low, so that it covers none of the signs' pictures, which stand in the middle of the
+/// tiles beneath it.
 constexpr double kHeight = 450;
 constexpr int kLetterPixels = 20;
 
@@ -22,7 +22,7 @@ Combo* NumberBox(const Board& board) {
   return board.Named<Combo>(QStringLiteral("cmb(0)"));
 }
 
-/// The tile that bears the digit.
+/// The tile that writes the digit.
 int TileOf(QChar digit) {
   return digit == u'0' ? kDigitTiles : digit.digitValue();
 }
@@ -32,8 +32,8 @@ void SpeakWhole(Board& board, const QString& text) {
   PlayCue(RoundToInteger(Val(text)), CueBoardNo);
 }
 
-/// Each digit is a click of its tile, told its place. A tile that wipes forgets the place with
-/// the wipe and writes where it would by itself.
+/// Clicks the tile of each digit, with the digit's place in txtaltno. A tile that begins a group
+/// wipes, which clears the place, and so writes in its own.
 void WriteDigits(Board& board, const QString& text) {
   const Sheet::Writing writing(board.sheet());
   for (int place = 1; place <= text.size(); ++place) {

@@ -12,10 +12,10 @@ void MakeNumberBox(Board& board);
 /// three and a half digit tiles. After the tiles.
 void LayOutNumberBox(Board& board);
 
-/// A number was picked or its Return pressed: speaks it, if Play is on, and writes it if it has
-/// at most 4 characters. Text that is no number turns red. A character that is no digit keeps its
-/// place free. A number that does not fit the 16 bits of a sound's number ends it quietly, as any
-/// error does.
+/// A number was picked or Return pressed in the box: speaks it, if Play is on, and writes it if it
+/// has at most 4 characters. Text that is no number turns red. A character that is no digit leaves
+/// its place free. Ends quietly on an error, such as a number that does not fit the 16 bits of a
+/// sound's number.
 void NumberBox_Click(Board& board);
 
 }  // namespace bramlee

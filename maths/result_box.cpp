@@ -25,7 +25,7 @@ ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
 
 void ResultBox::SetText(const QString& text) {
   text_ = text;
-  // The empty line behind a table's last row counts too: it would ask for a scroll bar.
+  // The empty line behind a table's last row counts too: without room for it a scroll bar shows.
   setFont(FittingFont(static_cast<int>(text.count(u'\n')) + 1));
   setPlainText(text);
 }

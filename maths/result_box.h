@@ -15,8 +15,8 @@ class ResultBox : public QPlainTextEdit {
 
   /// The text as it was given, its carriage returns too, which the lines shown do not keep.
   QString Text() const { return text_; }
-  /// Shows that text. Its letters are as large as lets all lines be seen in the box's height of
-  /// now, from 30 down to 14 pixels; where those are too large as well it scrolls.
+  /// Shows that text in the largest letters, from 30 down to 14 pixels, in which all lines fit the
+  /// box's present height. Where even the smallest do not fit, the box scrolls.
   void SetText(const QString& text);
 
  private:

@@ -12,9 +12,9 @@ void MakeTablePicture(Board& board);
 /// the tiles' place, or, when it was marked, hides them and shows the tiles.
 void MakeTableMenu(Board& board, QMenu* menu);
 
-/// The click on pict: the table of the number in cmb(16), of 0 for a text that is none, into
-/// txtval(20), which grows to 7600 twips to show it. Where a product is too large for a double the
-/// box keeps its text and is 2000 twips high.
+/// The click on pict: writes the table of the number in cmb(16) into txtval(20), which grows to
+/// 7600 twips to show it. A text that is no number counts as 0. Where a product is too large for a
+/// double the box keeps its text and is 2000 twips high.
 void pict_Click(Board& board);
 
 }  // namespace bramlee

@@ -1,4 +1,4 @@
-// Drawings that end half-way, or are not seen: here the memory for them runs out.
+// Drawings that end half-way, or stay unseen, since memory runs out.
 #include "tests/board/board_fixture.h"
 #include "tests/board/scarce_memory.h"
 
@@ -74,7 +74,7 @@ TEST_F(BoardFailures, ALetterThatEndsHalfWayIsNotTakenUpAgain) {
   EXPECT_TRUE(IsBlank(board, 972, 335));        // the end of C
 }
 
-TEST_F(BoardFailures, TheNextClickWritesAsEver) {
+TEST_F(BoardFailures, TheNextClickWritesAsBefore) {
   Board& board = Open("fbrmengc02");
   {
     const ScarceMemory memory(kFor8192Dots);

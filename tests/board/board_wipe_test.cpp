@@ -130,7 +130,7 @@ TEST_F(Wipe, ShowsTheTitleAndLetsItBlinkAgain) {
   EXPECT_TRUE(board.Named<QTimer>(Q("Timer1"))->isActive());
 }
 
-TEST_F(Wipe, AnUncheckedGridStaysUntilItAndDoesNotReturn) {
+TEST_F(Wipe, RemovesForGoodAGridThatLostItsMark) {
   Board& board = Open("fbrmengc02");
   Pick(board, "mnugrid");
   Pick(board, "mnugrid");

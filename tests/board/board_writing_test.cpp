@@ -179,7 +179,7 @@ TEST_F(BoardWriting, OnlyAGroupsFirstTileWipes) {
   EXPECT_EQ(ColourAt(board, 425, 200), kRed);  // E
 }
 
-TEST_F(BoardWriting, TileTwoAloneWipesNothingAndTileOneTakesItAway) {
+TEST_F(BoardWriting, TileTwoWipesNothingAndTileOneWipesTheSheet) {
   Board& board = Open("fbrmtelv01");
   board.Tile(2)->click();
   EXPECT_EQ(ColourAt(board, 407, 325), kRed);
@@ -223,7 +223,7 @@ TEST_F(BoardWriting, ACueIsAskedForOnlyWhilePlayIsOnAndWithTheBoardsNumber) {
   }
 }
 
-TEST_F(BoardWriting, AnUnknownTileIsAnsweredByTheBoardsMessageAndWipesNothing) {
+TEST_F(BoardWriting, AnUnknownTileShowsTheBoardsMessageAndWipesNothing) {
   const struct {
     const char* form;
     const char* message;

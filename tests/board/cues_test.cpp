@@ -33,13 +33,13 @@ class Cues : public BoardTest {
     LoadForm(Q("fbrmhom1"))->SetText(Q("txtdrv"), Q(drive));
   }
 
-  /// A file that counts as a sound which is there.
+  /// A file in a sound's place.
   void Record(const char* file) const {
     QDir().mkpath(QFileInfo(On(file)).path());
     WriteBytes(On(file), "x");
   }
 
-  /// The address that the player was handed, empty if it is not even loaded.
+  /// The player's URL, empty if it is not loaded.
   static std::string Handed() {
     const Form* form = LoadedForm(Q("f1207vid"));
     return form == nullptr
@@ -184,7 +184,7 @@ TEST_F(Cues, OtherBoardsReadTheirOwnMenus) {
   EXPECT_EQ(LoadedForm(Q("fbrmengc02")), nullptr);
 }
 
-TEST_F(Cues, AFileThatIsThereIsHandedToThePlayer) {
+TEST_F(Cues, AFileThatIsThereIsPassedToThePlayer) {
   Record("c/bramlee/aud/hin/hinv/hinv-3.wma");
   Open("fbrmhinv01");
   EXPECT_EQ(PlayCue(3, 3), 0);
@@ -192,7 +192,7 @@ TEST_F(Cues, AFileThatIsThereIsHandedToThePlayer) {
   EXPECT_TRUE(boxes.isEmpty());
 }
 
-TEST_F(Cues, ADiscsTrackIsHandedOnLikeAnyOtherFile) {
+TEST_F(Cues, ADiscsTrackIsPassedOnLikeAnyOtherFile) {
   Record("c/bramlee/aud/hin/hinv/hinv-3.cda");
   Pick(Open("fbrmhinv01"), "mnufor(4)");
   EXPECT_EQ(PlayCue(3, 3), 0);
@@ -200,7 +200,7 @@ TEST_F(Cues, ADiscsTrackIsHandedOnLikeAnyOtherFile) {
   EXPECT_TRUE(boxes.isEmpty());
 }
 
-TEST_F(Cues, AFileNotThereIsToldOnceAndThePlayerNotEvenLoaded) {
+TEST_F(Cues, AMissingFileShowsOneMessageAndLoadsNoPlayer) {
   ChooseDrive("X:");
   EXPECT_EQ(PlayCue(1, 1), 0);
   ASSERT_EQ(boxes.size(), 1);
@@ -218,7 +218,7 @@ TEST_F(Cues, AnUnknownSetHasAnEmptyPath) {
   EXPECT_EQ(LoadedForm(Q("f1207vid")), nullptr);
 }
 
-TEST_F(Cues, ALetterThatIsNoneFailsWithoutAWord) {
+TEST_F(Cues, AnUnknownLetterFailsAndShowsNothing) {
   for (const std::int16_t set : Numbers{1, 2}) {
     for (const std::int16_t letter : Numbers{0, 27}) {
       EXPECT_EQ(PlayCue(letter, set), 1);
@@ -231,7 +231,7 @@ TEST_F(Cues, ALetterThatIsNoneFailsWithoutAWord) {
   EXPECT_EQ(LoadedForm(Q("f1207vid")), nullptr);
 }
 
-TEST_F(Cues, ASetWhoseBoardIsNotThereFailsWithoutAWord) {
+TEST_F(Cues, ASetWithoutABoardFailsAndShowsNothing) {
   EXPECT_EQ(PlayCue(1, 7), 1);
   EXPECT_TRUE(boxes.isEmpty());
 }

@@ -124,7 +124,7 @@ TEST_F(BoardWriting, DrawAllEndsWithSoundOffOnEveryBoard) {
   }
 }
 
-TEST_F(BoardWriting, AHandlerThatFailsEndsWithoutAWordAndDrawAllGoesOn) {
+TEST_F(BoardWriting, AHandlerThatFailsShowsNothingAndDrawAllGoesOn) {
   BoardRecord record = Noting(kCapitalsBoard);
   record.write = [](Board&, StrokeRec& rec) {
     if (rec.LetterNo == 2) throw std::runtime_error("no ink");

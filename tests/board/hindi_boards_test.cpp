@@ -74,7 +74,7 @@ TEST_F(HindiVowels, AWipeKeepsTheModeAndItsTiles) {
   EXPECT_EQ(Shown(board, 36), kVowelForms);
 }
 
-TEST_F(HindiVowels, EachLetterIsToldTheFormOfTheMode) {
+TEST_F(HindiVowels, EachClickAsksForTheFormOfTheMode) {
   Board& board = Open("fbrmhinv01");
   for (const int tile : {1, 10, 28}) EXPECT_EQ(AltFlagOf(board, tile), 0) << tile;
   Pick(board, "mnudrawalt");
@@ -152,7 +152,7 @@ TEST_F(HindiVowels, TheLineGoesWithTheForm) {
   EXPECT_FALSE(LineIsShown(Open("fbrmhinv01")));
 }
 
-TEST_F(HindiVowels, AClickOnTheLineGivesTheMessageAfterItsCueAndWipesNothing) {
+TEST_F(HindiVowels, AClickOnTheLineShowsTheMessageAfterItsCueAndWipesNothing) {
   Board& board = Open("fbrmhinv01");
   board.pic_Click(15);
   board.pic_Click(14);
@@ -229,13 +229,13 @@ TEST_F(HindiConsonants, AnotherSetInTheAlternativeModeShowsItsSecondForms) {
   EXPECT_EQ(Shown(board, 111), (std::vector<int>{53, 64}));
 }
 
-TEST_F(HindiConsonants, OnlyTheListedTilesAreToldTheMode) {
+TEST_F(HindiConsonants, OnlyTheTilesWithTwoFormsFollowTheMode) {
   Board& board = Open("fbrmhinc01");
   Pick(board, "mnudrawalt");
-  const std::vector<int> told{3, 7, 18, 35, 53, 64};
+  const std::vector<int> ofTwoForms{3, 7, 18, 35, 53, 64};
   for (int tile = 1; tile <= 111; ++tile) {
-    const bool listed = std::find(told.begin(), told.end(), tile) != told.end();
-    EXPECT_EQ(AltFlagOf(board, tile), listed ? 1 : 0) << tile;
+    const bool two = std::find(ofTwoForms.begin(), ofTwoForms.end(), tile) != ofTwoForms.end();
+    EXPECT_EQ(AltFlagOf(board, tile), two ? 1 : 0) << tile;
   }
 }
 

@@ -7,7 +7,8 @@
 
 namespace bramlee {
 
-/// While this lives nobody gets `bytes` or more at once, or as many zeroed bytes.
+/// While this lives, a request for `bytes` or more at once fails, and so does one for as many
+/// zeroed bytes.
 class ScarceMemory {
  public:
   static constexpr std::size_t kAny = SIZE_MAX;  ///< as many as are asked for

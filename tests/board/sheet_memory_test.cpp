@@ -23,11 +23,11 @@ class SheetMemory : public ::testing::Test {
     LineRight(sheet, 100, 100, 200);
     sheet.grab();
   }
-  /// What one sees of a part of it.
+  /// What a part of it shows.
   QImage Shown(const QRect& part = QRect({}, kSize)) {
     return sheet.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
   }
-  /// What its dots tell of it.
+  /// What its dots give for that part.
   QImage Dots() const { return sheet.Dots().Picture(QRect({}, kSize), 1, ColourOf(kGround)); }
 
   Sheet sheet;
@@ -90,7 +90,7 @@ TEST_F(SheetMemory, ASheetThatNeverHadRoomShowsItsGround) {
   EXPECT_GE(memory.Refused(), 1);
 }
 
-TEST_F(SheetMemory, PaintingAFrameAsksForNone) {
+TEST_F(SheetMemory, PaintingAFrameAllocatesNothing) {
   LineRight(sheet, 100, 200, 200);
   const ScarceMemory memory(1, 1);
   EXPECT_EQ(Shown().pixelColor(150, 200), QColor(Qt::red));

@@ -44,7 +44,7 @@ void ExpectShowsItsDots(Sheet& sheet) {
   EXPECT_EQ(shown, sheet.Dots().Picture(sheet.rect(), 1, ColourOf(kGround)));
 }
 
-TEST(Sheet, ShouldShowWhatIsWritten) {
+TEST(Sheet, ShowsWhatIsWritten) {
   Scrolled scrolled({1366, 700});
   {
     const Sheet::Writing writing(*scrolled.sheet);
@@ -55,7 +55,7 @@ TEST(Sheet, ShouldShowWhatIsWritten) {
   ExpectShowsItsDots(*scrolled.sheet);
 }
 
-TEST(Sheet, ShouldShowARunOutsideOfAnyWriting) {
+TEST(Sheet, ShowsARunOutsideOfAnyWriting) {
   Scrolled scrolled({1366, 700});
   ExpectShowsItsDots(*scrolled.sheet);
   LineRight(*scrolled.sheet, 400, 100, 500);
@@ -73,7 +73,7 @@ class PaintedRegion : public QObject {
   QRegion region;
 };
 
-TEST(Sheet, ShouldShowNewDotsThoughSomethingElseWasUncovered) {
+TEST(Sheet, ShowsNewDotsThoughSomethingElseWasUncovered) {
   Scrolled scrolled({1366, 700});
   const Sheet::Writing writing(*scrolled.sheet);  // as while a message stands between two letters
   LineRight(*scrolled.sheet, 400, 100, 500);
@@ -83,7 +83,7 @@ TEST(Sheet, ShouldShowNewDotsThoughSomethingElseWasUncovered) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return painted.region.contains(QPoint(450, 100)); }));
 }
 
-TEST(Sheet, ShouldKeepWhatLiesOutsideOfASmallWindow) {
+TEST(Sheet, KeepsWhatLiesOutsideOfASmallWindow) {
   Scrolled small({200, 100});
   WriteLetterOn(*small.sheet, 4);
   small.window.resize(1366, 700);
@@ -94,7 +94,7 @@ TEST(Sheet, ShouldKeepWhatLiesOutsideOfASmallWindow) {
   EXPECT_EQ(QColor(Qt::red), large.sheet->grab().toImage().pixelColor(1025, 200));
 }
 
-TEST(Sheet, ShouldKeepWhatWasWrittenThroughSizesDuringAndAfterALetter) {
+TEST(Sheet, KeepsWhatWasWrittenThroughSizesDuringAndAfterALetter) {
   Scrolled scrolled({1366, 700});
   scrolled.sheet->setMinimumSize(10, 10);
   Ink whole(0.01);
@@ -115,7 +115,7 @@ TEST(Sheet, ShouldKeepWhatWasWrittenThroughSizesDuringAndAfterALetter) {
             whole.Picture(QRectF(400, 100, 800, 300), 1, Qt::white));
 }
 
-TEST(Sheet, ShouldWipeEveryDotAndKeepItsPen) {
+TEST(Sheet, WipesEveryDotAndKeepsItsPen) {
   Scrolled scrolled({1366, 700});
   scrolled.sheet->SetForeColor(kBlue);
   WriteLetterOn(*scrolled.sheet, 1);
@@ -128,7 +128,7 @@ TEST(Sheet, ShouldWipeEveryDotAndKeepItsPen) {
   EXPECT_EQ(shown, empty);
 }
 
-TEST(Sheet, ShouldShowAnotherGroundAtOnce) {
+TEST(Sheet, ShowsAnotherGroundAtOnce) {
   Scrolled scrolled({1366, 700});
   WriteLetterOn(*scrolled.sheet, 1);
   scrolled.sheet->grab();
@@ -138,7 +138,7 @@ TEST(Sheet, ShouldShowAnotherGroundAtOnce) {
             scrolled.sheet->Dots().Picture(scrolled.sheet->rect(), 1, QColor(224, 224, 224)));
 }
 
-TEST(Sheet, ShouldStandBehindItsTiles) {
+TEST(Sheet, StandsBehindItsTiles) {
   Scrolled scrolled({1366, 700});
   auto* tile = new QWidget(scrolled.sheet);
   tile->setAutoFillBackground(true);
@@ -153,7 +153,7 @@ TEST(Sheet, ShouldStandBehindItsTiles) {
   EXPECT_EQ(shown.pixelColor(450, 100), QColor(Qt::green));
 }
 
-TEST(Sheet, ShouldWriteAtTheStepOfItsBox) {
+TEST(Sheet, WritesAtTheStepOfItsBox) {
   QLineEdit box(QStringLiteral("0.2"));
   Sheet sheet;
   EXPECT_EQ(sheet.Step(), 0.01);
@@ -165,7 +165,7 @@ TEST(Sheet, ShouldWriteAtTheStepOfItsBox) {
 
 class RefusedStep : public ::testing::TestWithParam<const char*> {};
 
-TEST_P(RefusedStep, ShouldPutTheTextBackThatWasThere) {
+TEST_P(RefusedStep, PutsTheTextBackThatWasThere) {
   QLineEdit box(QStringLiteral("0.03"));
   Sheet sheet;
   sheet.SetStepBox(&box);
@@ -174,7 +174,7 @@ TEST_P(RefusedStep, ShouldPutTheTextBackThatWasThere) {
   EXPECT_EQ(sheet.Step(), 0.03);
 }
 
-TEST_P(RefusedStep, ShouldBecomeAHundredthWhenItIsTheFirst) {
+TEST_P(RefusedStep, BecomesAHundredthWhenItIsTheFirst) {
   QLineEdit box(QString::fromLatin1(GetParam()));
   Sheet sheet;
   sheet.SetStepBox(&box);

@@ -31,7 +31,7 @@ TEST(RowResult, ZeroHasNoSign) {
   EXPECT_EQ(NumberText(*RowResult(kDividedBy, 0, -5)).toStdString(), "0");
 }
 
-TEST(RowResult, IsNoneWhereThereIsNoNumber) {
+TEST(RowResult, IsEmptyWhereThereIsNoNumber) {
   EXPECT_FALSE(RowResult(kDividedBy, 0, 0));
   EXPECT_FALSE(RowResult(kPlus, kHuge, kHuge));
   EXPECT_FALSE(RowResult(kMinus, -kHuge, kHuge));
@@ -42,7 +42,7 @@ TEST(RowResult, IsNoneWhereThereIsNoNumber) {
   EXPECT_FALSE(RowResult(16, 1, 1));
 }
 
-TEST(RowResult, OnlyANumberDividedByNothingIsInfinite) {
+TEST(RowResult, OnlyANumberDividedByZeroIsInfinite) {
   EXPECT_TRUE(IsInfinite(kDividedBy, 5, 0));
   EXPECT_TRUE(IsInfinite(kDividedBy, -5, -0.0));
   EXPECT_FALSE(IsInfinite(kDividedBy, 0, 0));
@@ -68,7 +68,7 @@ TEST(Table, OfAHundredEndsWithTwoThousand) {
   EXPECT_EQ(Rows(100)[19].toStdString(), "100 X 20 = 2000");
 }
 
-TEST(Table, OfNothingIsNothing) {
+TEST(Table, OfZeroIsZeros) {
   EXPECT_EQ(Rows(0)[0].toStdString(), "0 X 1 = 0");
   EXPECT_EQ(Rows(0)[19].toStdString(), "0 X 20 = 0");
   EXPECT_EQ(Rows(-0.0)[4].toStdString(), "0 X 5 = 0");
@@ -91,7 +91,7 @@ TEST(Table, WritesSmallNumbersWithoutExponent) {
   EXPECT_EQ(Rows(5e13)[19].toStdString(), "50000000000000 X 20 = 1e+15");
 }
 
-TEST(Table, IsNoneWhenAProductIsTooLarge) {
+TEST(Table, IsEmptyWhenAProductIsTooLarge) {
   EXPECT_FALSE(TableText(1e308));
   EXPECT_TRUE(TableText(kHuge / 20));
 }

@@ -24,7 +24,7 @@ TEST_F(MathsCues, DrawAllClicksAllTilesInOrderAndSpeaks) {
   EXPECT_EQ(messages, cues);
 }
 
-TEST_F(MathsCues, TileSpeaksByItsFlagAlone) {
+TEST_F(MathsCues, TileSpeaksUnlessItsFlagSilencesIt) {
   ClickTile(2);
   EXPECT_EQ(messages, QStringList{CueOf(2)}) << "with Play off";
   EXPECT_EQ(CueBoardNo, 7);
@@ -48,7 +48,7 @@ TEST_F(MathsCues, CueFollowsTheFormat) {
   EXPECT_EQ(messages, QStringList{QStringLiteral(R"(Q:\bramlee\aud\mat\mat-10.mp3 Not Found: )")});
 }
 
-TEST_F(MathsCues, StrangeTileIsPassedOver) {
+TEST_F(MathsCues, UnknownTileWritesNothing) {
   for (const int tile : {0, 18}) {
     messages.clear();
     board->pic_Click(tile);

@@ -4,7 +4,7 @@
 namespace bramlee {
 namespace {
 
-TEST_F(Drills, ListsAndTextsAtTheStart) {
+TEST_F(Drills, ListsAndTextsStartAsDesigned) {
   auto* a = Find<QComboBox>("cmb(16)");
   auto* b = Find<QComboBox>("cmb(18)");
   EXPECT_EQ(a->count(), 28);
@@ -27,7 +27,7 @@ TEST_F(Drills, ListsAndTextsAtTheStart) {
   EXPECT_FALSE(Shown("pict"));
 }
 
-TEST_F(Drills, MenuReadsAsItShould) {
+TEST_F(Drills, MenuListsNumbersTablesAndTheFiveDrills) {
   QStringList captions;
   for (const QAction* item : Find<QMenu>("mnutables")->actions()) captions.append(item->text());
   EXPECT_EQ(captions.join(u','),
@@ -136,7 +136,7 @@ TEST_F(Drills, SignThatCountsIsTheOneSeen) {
 }
 
 TEST_F(Drills, OperandsAndResultOutliveADrillAndItsWipe) {
-  Reckon("mnuadd", "12", "abc");
+  Compute("mnuadd", "12", "abc");
   EXPECT_EQ(Result(), QStringLiteral("12"));
   Pick("mnuclear1");
   EXPECT_TRUE(RowShown());

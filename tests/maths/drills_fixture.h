@@ -1,4 +1,4 @@
-// A hand for the drills, and what stands in their row.
+// Operates the drills and reads their row.
 #pragma once
 
 #include "tests/maths/maths_fixture.h"
@@ -11,7 +11,7 @@ inline constexpr ColourWord kRed = 0xFF;
 class Drills : public MathsTest {
  protected:
   /// The row of that drill, its operands typed, its equals picture clicked.
-  QString Reckon(const char* drill, const char* a, const char* b) {
+  QString Compute(const char* drill, const char* a, const char* b) {
     if (!Checked(drill)) Pick(drill);
     Type("cmb(16)", a);
     Type("cmb(18)", b);

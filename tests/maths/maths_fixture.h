@@ -1,4 +1,4 @@
-// The maths board in a real form, and a hand for its controls.
+// The maths board in a real form, and what operates its controls.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -29,7 +29,7 @@ class NumberBox : public MathsTest {
   }
 };
 
-TEST_F(NumberBox, ListsNoughtToAHundredAndStartsEmpty) {
+TEST_F(NumberBox, ListsZeroToAHundredAndStartsEmpty) {
   auto* box = Find<QComboBox>("cmb(0)");
   ASSERT_EQ(box->count(), 101);
   EXPECT_EQ(box->itemText(0), QStringLiteral("0"));
@@ -86,7 +86,7 @@ TEST_F(NumberBox, WritesEachDigitInItsPlace) {
   EXPECT_EQ(TextOf("txtaud"), QStringLiteral("0"));
 }
 
-TEST_F(NumberBox, PlaceOfAOneIsItsOwnSinceItWipes) {
+TEST_F(NumberBox, OneStandsInItsOwnPlaceSinceItWipes) {
   TypeAndEnter("cmb(0)", "1234");
   EXPECT_TRUE(InkAt(kStemOf1, kMiddle));
   EXPECT_TRUE(InkBetween(kColumn2 + 10, kColumn3 - 10));
@@ -183,7 +183,7 @@ TEST_F(NumberBox, LastPlaceIsThatOfTheLastDigit) {
   EXPECT_EQ(TextOf("txtaltno"), QStringLiteral("2"));
 }
 
-TEST_F(NumberBox, NoughtIsTheTenthTile) {
+TEST_F(NumberBox, ZeroIsTheTenthTile) {
   TypeAndEnter("cmb(0)", "0");
   EXPECT_TRUE(InkAt(225, 330)) << "the top of the 0 in column 1";
 }

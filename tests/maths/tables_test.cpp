@@ -53,7 +53,7 @@ TEST_F(Tables, SecondPickBringsTheTilesBack) {
   EXPECT_FALSE(MenuShown("mnudraw"));
 }
 
-TEST_F(Tables, DefaultIsTheTableOfNothing) {
+TEST_F(Tables, DefaultIsTheTableOfZero) {
   Pick("mnutbl");
   Click("pict");
   const QStringList rows = Result().split(QStringLiteral("\r\n"));
@@ -63,7 +63,7 @@ TEST_F(Tables, DefaultIsTheTableOfNothing) {
   EXPECT_EQ(rows[20], QString());
 }
 
-TEST_F(Tables, OfTypedNumbers) {
+TEST_F(Tables, FollowATypedNumber) {
   Pick("mnutbl");
   EXPECT_EQ(RowsOf("7")[19], QStringLiteral("7 X 20 = 140"));
   EXPECT_EQ(RowsOf("100")[19], QStringLiteral("100 X 20 = 2000"));
@@ -73,7 +73,7 @@ TEST_F(Tables, OfTypedNumbers) {
   EXPECT_EQ(RowsOf(" 8 ")[0], QStringLiteral("8 X 1 = 8"));
 }
 
-TEST_F(Tables, TextThatIsNoNumberCountsAsNothingWithoutAWord) {
+TEST_F(Tables, TextThatIsNoNumberCountsAsZeroAndShowsNoMessage) {
   Pick("mnutbl");
   messages.clear();
   EXPECT_EQ(RowsOf("abc")[4], QStringLiteral("0 X 5 = 0"));
@@ -120,7 +120,7 @@ TEST_F(Tables, AllRowsCanBeSeenAtOnce) {
   EXPECT_GE(box->font().pixelSize(), 16);
 }
 
-TEST_F(Tables, FromADrillItsRestStays) {
+TEST_F(Tables, KeepTheRestOfADrillThatWasOn) {
   Pick("mnusub");
   Pick("mnutbl");
   EXPECT_TRUE(TableShown());
@@ -135,7 +135,7 @@ TEST_F(Tables, FromADrillItsRestStays) {
   }
 }
 
-TEST_F(Tables, ToADrillThePictureAndTheHeightStay) {
+TEST_F(Tables, KeepPictureAndHeightWhenADrillIsPicked) {
   Pick("mnutbl");
   Click("pict");
   Pick("mnuadd");
