@@ -114,14 +114,14 @@ TEST_F(FirstStart, TheProgramRunsWhileTheSoundsAreMade) {
   EXPECT_EQ(Read("made").count('\n'), 1);
 }
 
-TEST_F(FirstStart, IsTheOnlyOneThatSaysAndMakesAnything) {
+TEST_F(FirstStart, IsTheOnlyStartThatPrintsAndMakesAnything) {
   Start();
   AwaitSounds();
   EXPECT_EQ(Start().text, "program one two\n");
   EXPECT_EQ(Read("made").count('\n'), 1);
 }
 
-TEST_F(FirstStart, SoundsThatCouldNotAllBeMadeAreTakenUpAtTheNextOne) {
+TEST_F(FirstStart, MissingSoundsAreMadeAtTheNextStart) {
   const QByteArray made = QFile::encodeName(In("made"));
   Maker("[ $(wc -l <" + made + ") -gt 1 ]");  // fails the first time
   Start();
@@ -148,7 +148,7 @@ TEST_F(FirstStart, LeavesWhatIsThereAloneWhateverItsCase) {
   EXPECT_EQ(Read("made"), "--quiet " + QFile::encodeName(In("drives/C")) + '\n');
 }
 
-TEST_F(FirstStart, OfNamesThatDifferInCaseTakesThoseThatTheProgramFinds) {
+TEST_F(FirstStart, TakesTheNamesThatTheProgramFindsWhereSomeDifferInCase) {
   for (const char* folder :
        {"BRAMLEE/aud", "bramlee/AUD", "bramlee/Aud", "bramlee/DBA", "bramlee/dba", "Bramlee"}) {
     QDir().mkpath(In("drives/c/") + QString::fromLatin1(folder));
@@ -179,7 +179,7 @@ TEST_F(FirstStart, MakesNoSoundsWhenTheyAreNotWanted) {
   EXPECT_TRUE(IsThere("drives/c/bramlee/dba"));
 }
 
-TEST_F(FirstStart, ADriveThatIsGoneIsToldAndTheProgramRuns) {
+TEST_F(FirstStart, AMissingDriveIsReportedAndTheProgramRuns) {
   QDir().mkpath(In("drives"));
   QFile::link(In("unplugged"), In("drives/c"));
   const Told gone = Start();
@@ -193,7 +193,7 @@ TEST_F(FirstStart, ADriveThatIsGoneIsToldAndTheProgramRuns) {
   EXPECT_FALSE(IsThere("unplugged"));
 }
 
-TEST_F(FirstStart, AFileInAFoldersPlaceIsLeftAloneAndTold) {
+TEST_F(FirstStart, AFileInAFoldersPlaceIsLeftAloneAndReported) {
   QDir().mkpath(In("drives/c/bramlee"));
   Write("drives/c/bramlee/aud", "mine");
   const Told told = Start();

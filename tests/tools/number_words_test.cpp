@@ -41,7 +41,7 @@ TEST(NumberWordsOf, NoTwoNumbersAreAlike) {
   EXPECT_EQ(all.size(), kLargestSpelled + 1);
 }
 
-TEST(NumberWordsOf, OtherNumbersHaveNone) {
+TEST(NumberWordsOf, OtherNumbersHaveNoWords) {
   EXPECT_TRUE(NumberWords(-1).isEmpty());
   EXPECT_TRUE(NumberWords(10000).isEmpty());
 }

@@ -63,7 +63,7 @@ class SoundsMaker : public ::testing::Test {
     return files;
   }
 
-  /// File and phonemes, as --phonemes tells them.
+  /// File and phonemes, as --phonemes prints them.
   static std::map<QString, QString> Phonemes(const char* sets) {
     const ToolRun run =
         Sounds({QStringLiteral("--phonemes"), QStringLiteral("--sets"), QString::fromLatin1(sets)});
@@ -273,7 +273,7 @@ TEST_F(SweepOfTheSoundsMaker, EveryLettersFilePlaysAtOnceAndEvenlyLoud) {
   }
 }
 
-TEST_F(SoundsMaker, NumbersAreMadeInTheFormatAsked) {
+TEST_F(SoundsMaker, MakesNumbersInTheFormatThatIsAskedFor) {
   ASSERT_EQ(Make("--quiet --sets matc --numbers 98-101").status, 0);
   EXPECT_EQ(
       Files(),
@@ -294,7 +294,7 @@ TEST_F(SoundsMaker, NumbersAreMadeInTheFormatAsked) {
   EXPECT_GT(sound.SpokenMs(), 2000);
 }
 
-TEST_F(SoundsMaker, RecordingsOfOnesOwnStay) {
+TEST_F(SoundsMaker, KeepsRecordingsOfOnesOwn) {
   Put("engc/eng-a.wav", "my own voice");
   Put("engc/eng-b.wav", "");
   ASSERT_EQ(Make("--quiet --sets engc --formats wav").status, 0);
@@ -306,7 +306,7 @@ TEST_F(SoundsMaker, RecordingsOfOnesOwnStay) {
   EXPECT_EQ(Files().size(), 26);
 }
 
-TEST_F(SoundsMaker, NamesMatchWithoutRegardToCase) {
+TEST_F(SoundsMaker, MatchesNamesWithoutRegardToCase) {
   ASSERT_TRUE(QDir().mkpath(drive.filePath(QStringLiteral("BRAMLEE/Aud/ENGC"))));
   QFile own(drive.filePath(QStringLiteral("BRAMLEE/Aud/ENGC/Eng-A.WAV")));
   ASSERT_TRUE(own.open(QIODevice::WriteOnly));
@@ -343,7 +343,7 @@ TEST_F(SoundsMaker, WritesWhereTheProgramLooksWhenNamesDifferInCaseOnly) {
   qunsetenv("BRAMLEE_DRIVES");
 }
 
-TEST_F(SoundsMaker, StoppedItLeavesWholeFilesAndIsTakenUpAgain) {
+TEST_F(SoundsMaker, LeavesWholeFilesWhenStoppedAndGoesOnNextTime) {
   QProcess maker;
   maker.start(QStringLiteral(BRAMLEE_BINARY_DIR "/tools/bramlee-sounds"),
               {QStringLiteral("--quiet"), QStringLiteral("--sets"), QStringLiteral("matc"),
@@ -368,7 +368,7 @@ TEST_F(SoundsMaker, StoppedItLeavesWholeFilesAndIsTakenUpAgain) {
             QStringList{QStringLiteral("mat")});
 }
 
-TEST_F(SoundsMaker, TwoAtOnceDoNotDoTheWorkTwice) {
+TEST_F(SoundsMaker, DoesTheWorkOnceWhenTwoRun) {
   QProcess first;
   first.start(QStringLiteral(BRAMLEE_BINARY_DIR "/tools/bramlee-sounds"),
               {QStringLiteral("--quiet"), QStringLiteral("--sets"), QStringLiteral("matc"),
@@ -385,21 +385,21 @@ TEST_F(SoundsMaker, TwoAtOnceDoNotDoTheWorkTwice) {
   EXPECT_EQ(Files().size(), 100);
 }
 
-TEST_F(SoundsMaker, TellsItsProgress) {
+TEST_F(SoundsMaker, PrintsItsProgress) {
   const ToolRun run = Make("--sets mat --formats wav");
   EXPECT_EQ(run.status, 0);
   EXPECT_TRUE(run.error.endsWith("bramlee-sounds: 17 of 17\n")) << run.error.toStdString();
   EXPECT_EQ(Make("--quiet --sets mat --formats wav").error, "");
 }
 
-TEST_F(SoundsMaker, WhatCannotBeMadeIsTold) {
+TEST_F(SoundsMaker, ReportsInOneLineWhatItCannotMake) {
   Put("mat", "a file where a folder is wanted");
   const ToolRun run = Make("--quiet --sets mat --formats wav");
   EXPECT_EQ(run.status, 1);
   EXPECT_TRUE(run.ErrorIsOneLine()) << run.error.toStdString();
 }
 
-TEST_F(SoundsMaker, OwnTablesAreSpoken) {
+TEST_F(SoundsMaker, SpeaksOwnTables) {
   const QTemporaryDir tables;
   QFile table(tables.filePath(QStringLiteral("mat.tsv")));
   ASSERT_TRUE(table.open(QIODevice::WriteOnly));
@@ -411,7 +411,7 @@ TEST_F(SoundsMaker, OwnTablesAreSpoken) {
   EXPECT_EQ(Files(), QStringList{QStringLiteral("mat/mat-11.wav")});
 }
 
-TEST_F(SoundsMaker, AVoiceThatIsNotThereCostsNoOtherSound) {
+TEST_F(SoundsMaker, MakesTheOtherSoundsWhenAVoiceIsMissing) {
   const QTemporaryDir tables;
   QFile table(tables.filePath(QStringLiteral("mat.tsv")));
   ASSERT_TRUE(table.open(QIODevice::WriteOnly));
@@ -424,7 +424,7 @@ TEST_F(SoundsMaker, AVoiceThatIsNotThereCostsNoOtherSound) {
   EXPECT_EQ(Files().size(), 3);
 }
 
-TEST(SoundsMakerArguments, BadOnesAreRefusedInALine) {
+TEST(SoundsMakerArguments, AreRefusedInOneLineWhenWrong) {
   const QString here = QDir::tempPath();
   for (const QStringList& arguments : {
            QStringList{                            },
@@ -448,7 +448,7 @@ TEST(SoundsMakerArguments, BadOnesAreRefusedInALine) {
   }
 }
 
-TEST(SoundsMakerArguments, HelpAndVersionAreTold) {
+TEST(SoundsMakerArguments, PrintHelpAndVersion) {
   const ToolRun help = Sounds({QStringLiteral("--help")});
   EXPECT_EQ(help.status, 0);
   for (const char* option : {"--sets", "--formats", "--numbers", "--number-formats", "--tables",

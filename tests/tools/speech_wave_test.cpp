@@ -66,12 +66,12 @@ TEST(MakeCueOf, EndsAreSoft) {
   EXPECT_GT(cue.samples[kAhead + kRate / 100], 3000);
 }
 
-TEST(MakeCueOf, SilenceComesBackEmpty) {
+TEST(MakeCueOf, SilenceGivesNoSamples) {
   EXPECT_TRUE(MakeCue(Tone(100, 300, 50)).samples.empty());
   EXPECT_TRUE(MakeCue({.rate = kRate, .samples = {}}).samples.empty());
 }
 
-TEST(WaveFile, WrittenIsReadBack) {
+TEST(WaveFile, IsReadAsItWasWritten) {
   const SpeechWave wave = Tone(5000, 20, 5);
   const auto read = ReadWave(WriteWave(wave));
   ASSERT_TRUE(read.has_value());
@@ -79,7 +79,7 @@ TEST(WaveFile, WrittenIsReadBack) {
   EXPECT_EQ(read->samples, wave.samples);
 }
 
-TEST(WaveFile, FurtherPartsArePassedOver) {
+TEST(WaveFile, FurtherPartsAreIgnored) {
   QByteArray file = WriteWave(Tone(5000, 20, 0));
   file.insert(36, QByteArray("LIST\3\0\0\0abc\0", 12));
   EXPECT_TRUE(ReadWave(file).has_value());
@@ -95,7 +95,7 @@ TEST(WaveFile, CutAnywhereIsReadAsFarAsItGoesOrNotAtAll) {
   }
 }
 
-TEST(WaveFile, OtherKindsAreNone) {
+TEST(WaveFile, OtherKindsAreRefused) {
   EXPECT_FALSE(ReadWave("no wave at all, not even near it, nothing of the kind").has_value());
   QByteArray stereo = WriteWave(Tone(5000, 20, 0));
   stereo[22] = 2;

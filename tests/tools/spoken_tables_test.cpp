@@ -138,7 +138,7 @@ TEST_F(OwnTable, LinesHaveTheVoiceAndSpeedAboveThem) {
   EXPECT_EQ(rows[1].text, QStringLiteral("[[b'i:]]"));
 }
 
-TEST_F(OwnTable, AMistakeIsToldWithItsLine) {
+TEST_F(OwnTable, AMistakeIsReportedWithItsLine) {
   const QByteArray head = "voice\ten-gb\nspeed\t100\n";
   EXPECT_EQ(Error(head + "a\tA"), ":3: three cells parted by tabs are wanted");
   EXPECT_EQ(Error(head + "a A ay"), ":3: three cells parted by tabs are wanted");
@@ -150,7 +150,7 @@ TEST_F(OwnTable, AMistakeIsToldWithItsLine) {
   EXPECT_EQ(Error("voice\t-x\n"), ":1: no name of a voice");
 }
 
-TEST_F(OwnTable, AMissingOneIsTold) {
+TEST_F(OwnTable, AMissingTableIsReported) {
   QString error;
   EXPECT_TRUE(ReadSpokenTable(Set("engc"), folder.path(), error).isEmpty());
   EXPECT_TRUE(error.contains(QStringLiteral("engc.tsv")));

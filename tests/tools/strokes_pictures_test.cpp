@@ -186,7 +186,7 @@ TEST(Picture, ShowsTheSheetAtItsScale) {
   EXPECT_EQ(pictures.Png().size(), QSize(700, 300));
 }
 
-TEST(Picture, TellsItsLetterAsTitle) {
+TEST(Picture, HasItsLetterAsTitle) {
   const Pictures pictures;
   ASSERT_EQ(pictures.Draw(QStringLiteral("telc 1")).status, 0);
   EXPECT_TRUE(pictures.Svg().contains(

@@ -32,7 +32,7 @@ TEST(Strokes, ArePrintedAsOneObjectALine) {
             "\"last\":[0,0,0,0]}\n");
 }
 
-TEST(Strokes, TellPlaceAndForm) {
+TEST(Strokes, NamePlaceAndForm) {
   const ToolRun run = Strokes("mat 1 --alt --place 5 --step 1");
   EXPECT_EQ(run.out,
             "{\"board\":\"mat\",\"tile\":1,\"alt\":1,\"place\":5,\"step\":1,\"strokes\":["
@@ -47,7 +47,7 @@ TEST(Strokes, OfATileThatWritesNothingAreAnEmptyList) {
             "\"last\":[0,0,0,0]}\n");
 }
 
-TEST(Strokes, AreToldInTheShortestNumbersThatReadBackTheSame) {
+TEST(Strokes, ArePrintedInTheShortestNumbersThatReadTheSame) {
   for (const QByteArray& line : LinesOf(Strokes("telc --step 0.1"))) {
     const QByteArray last = line.mid(line.indexOf("\"last\":[") + 8).chopped(2);
     for (const QByteArray& number : last.split(',')) {
@@ -122,7 +122,7 @@ TEST_P(StrokesOf, StartFromZeroRegistersForEachTile) {
   }
 }
 
-TEST(Strokes, AreToldAtTheDefaultStepWhenNoneIsAsked) {
+TEST(Strokes, ArePrintedAtTheDefaultStepWhenNoneIsAskedFor) {
   EXPECT_EQ(Strokes("engs 1").out, Strokes("engs 1 --step 0.01").out);
 }
 
@@ -211,7 +211,7 @@ TEST(BadArguments, WithALineBreakAreStillRefusedInOneLine) {
   EXPECT_TRUE(run.ErrorIsOneLine()) << run.error.constData();
 }
 
-TEST(BadArguments, TellWhatWouldBeRight) {
+TEST(BadArguments, NameWhatWouldBeRight) {
   EXPECT_EQ(Strokes("engx").error,
             "bramlee-strokes: no board \"engx\": engc engs hinv hinc telv telc mat\n");
   EXPECT_EQ(Strokes("telc 76").error, "bramlee-strokes: no tile \"76\": telc has tiles 1 to 75\n");
@@ -221,7 +221,7 @@ TEST(BadArguments, TellWhatWouldBeRight) {
             "bramlee-strokes: --step: \"0\" is no number greater than 0\n");
 }
 
-TEST(Help, TellsBoardsAndOptionsAndEndsWell) {
+TEST(Help, ListsBoardsAndOptionsAndReturns0) {
   const ToolRun run = Strokes("--help");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.error, "");
@@ -239,7 +239,7 @@ TEST(Version, IsOneLine) {
   EXPECT_EQ(run.out.count('\n'), 1);
 }
 
-TEST(ManPage, TellsEveryOptionOfTheHelp) {
+TEST(ManPage, NamesEveryOptionOfTheHelp) {
   QFile file(QStringLiteral(BRAMLEE_TEST_DATA "/../../tools/bramlee-strokes.1"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QByteArray page = file.readAll().replace("\\-", "-");

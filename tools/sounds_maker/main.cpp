@@ -31,7 +31,7 @@ void Say(const QString& text) {
   std::fprintf(stderr, "bramlee-sounds: %s\n", qPrintable(text));
 }
 
-/// What is wanted, as told on the command line.
+/// What the command line asks for.
 struct Wanted {
   QString drive;
   QString tables;
@@ -191,7 +191,7 @@ int TellPhonemes(const QList<Entry>& entries) {
   return kDone;
 }
 
-/// What is not there yet, or everything.
+/// The sounds that are missing, or all.
 std::optional<QList<SoundJob>> JobsFor(const QList<Entry>& entries, MediaTree& tree,
                                        bool overwrite) {
   QList<SoundJob> jobs;
@@ -207,7 +207,7 @@ std::optional<QList<SoundJob>> JobsFor(const QList<Entry>& entries, MediaTree& t
   return jobs;
 }
 
-/// What a maker left that was stopped.
+/// Removes what a stopped maker left behind.
 void RemoveOldWork(const QString& root) {
   const QDir folder(root);
   for (const QString& old :

@@ -9,7 +9,8 @@
 namespace bramlee {
 namespace {
 
-/// The folder at those parted names below `from`, made if need be. Empty when it cannot be made.
+/// The folder of those names, one in the other, below `from`; makes what is missing. Empty when
+/// that fails.
 QString MakeFolder(QString from, const QString& names, QChar parted) {
   for (const QString& name : names.split(parted, Qt::SkipEmptyParts)) {
     from = InFolder(from, name);

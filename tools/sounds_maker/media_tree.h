@@ -6,21 +6,19 @@
 
 namespace bramlee {
 
-/// The folder of sounds below a drive's folder. Names are found as the program finds them; what is
-/// not there is made in small letters.
+/// The folder of sounds below a drive's folder. Finds names as the program does, without regard to
+/// case; makes what is missing in small letters.
 class MediaTree {
  public:
   explicit MediaTree(const QString& drive);
 
-  /// The folder of sounds, made if need be. Empty when it cannot be made.
+  /// The folder of sounds, made if it is missing. Empty when it cannot be made.
   const QString& Root() const { return root_; }
 
-  /// The full path for "engc/eng-a.wma" below it, its folder made if need be. Empty when that
-  /// cannot be made.
+  /// The full path for "engc/eng-a.wma" below it; makes a missing folder. Empty when that fails.
   QString PathOf(const QString& file);
 
-  /// Whether there is a file of that full path with anything in it: an empty one is what a power
-  /// cut left.
+  /// Whether there is a file of that full path that is not empty: a power cut leaves empty ones.
   static bool IsThere(const QString& path);
 
  private:

@@ -7,7 +7,7 @@ namespace bramlee {
 
 inline constexpr int kLargestSpelled = 9999;
 
-/// 0 to 9999 in words: "one hundred and five". Spelled out since the voice would say 1905 like a
+/// 0 to 9999 in words: "one hundred and five". In words since the voice reads the figures 1905 as a
 /// year. Empty for any other number.
 QString NumberWords(int number);
 

@@ -17,10 +17,10 @@
 namespace bramlee {
 namespace {
 
-/// Sounds that one call of the encoder makes: its start takes longer than its work.
+/// How many sounds one call of the encoder makes, since its start takes longer than its work.
 constexpr qsizetype kBatch = 24;
 
-/// Runs a program to its end and gives what it wrote; nothing when it failed.
+/// Runs a program to its end and returns what it wrote, nothing when it failed.
 bool Run(const QString& program, const QStringList& arguments, QByteArray* output = nullptr) {
   QProcess process;
   process.setStandardInputFile(QProcess::nullDevice());
@@ -36,7 +36,7 @@ QStringList SpeakArguments(const Spoken& spoken, const QStringList& more) {
          more + QStringList{QStringLiteral("--"), spoken.text};
 }
 
-/// What the encoder is told of a format. 16000 samples a second keep the silence short that the
+/// The encoder's arguments for a format. 16000 samples a second keep the silence short that the
 /// decoders of .wma begin with, 44100 do so for .mp3.
 QStringList FormatArguments(const QString& format) {
   if (format == QStringLiteral("wma")) {
@@ -58,7 +58,7 @@ struct Encoding {
   QStringList made;
 };
 
-/// Encodes all in one call; when that fails, each by itself, so that one bad sound costs no other.
+/// Encodes all in one call; when that fails, each by itself, so that one bad sound spoils no other.
 void Encode(const QList<Encoding>& encodings) {
   if (encodings.isEmpty()) return;
   QStringList arguments{QStringLiteral("-loglevel"), QStringLiteral("error"),
@@ -103,7 +103,7 @@ bool SoundMaker::Speak(const Spoken& spoken, const QString& wave) const {
 
 bool SoundMaker::PutInPlace(const QString& made, const QString& target) const {
   if (!MediaTree::IsThere(made)) return false;
-  // One that was put there meanwhile is kept as well.
+  // Keeps one that was put there meanwhile, too.
   if (!overwrite_ && MediaTree::IsThere(target)) return true;
   return std::rename(QFile::encodeName(made).constData(), QFile::encodeName(target).constData()) ==
          0;

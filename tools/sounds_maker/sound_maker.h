@@ -19,15 +19,15 @@ struct SoundJob {
 /// The phonemes of what is spoken, as the synthesiser names them; empty when it cannot say it.
 QString PhonemesOf(const Spoken& spoken);
 
-/// The files are made in a folder of their own and then moved to their places, so that a file
-/// there is always whole.
+/// Makes files in a folder of its own and then moves them to their places, so that a file there is
+/// always whole.
 class SoundMaker {
  public:
   /// `workFolder` lies on the file system of the targets and belongs to the maker alone.
-  /// `overwrite` replaces files that are there, otherwise they are kept.
+  /// `overwrite` replaces files that are there; without it they are kept.
   SoundMaker(QString workFolder, bool overwrite);
 
-  /// Makes all on that many threads, and calls `progress` (on any of them, one at a time) with
+  /// Makes all on that many threads and calls `progress`, from any of them but one at a time, with
   /// the number of sounds done so far. Returns the targets that could not be made.
   QStringList Make(const QList<SoundJob>& jobs, int threads,
                    const std::function<void(qsizetype)>& progress) const;

@@ -11,7 +11,8 @@ namespace {
 constexpr double kFullScale = 32767;
 const double kAverage = kFullScale * std::pow(10, -20.0 / 20);
 const double kPeak = kFullScale * std::pow(10, -1.0 / 20);
-/// What is not louder is silence: a hundredth of full scale, half of it in speech not yet levelled.
+/// Samples up to this are silence: a hundredth of full scale, half of it in speech not yet
+/// levelled.
 constexpr int kSilence = 328;
 constexpr int kSilenceBefore = kSilence / 2;
 
@@ -20,7 +21,7 @@ constexpr int kSilenceBefore = kSilence / 2;
 // other players leave those 32 ms out.
 constexpr int kAheadMs = 10;
 constexpr int kBehindMs = 60;
-constexpr int kKeptAheadMs = 5;  ///< of what is cut off, for a soft beginning and end
+constexpr int kKeptAheadMs = 5;  ///< of the silence that is cut off, for a soft beginning and end
 constexpr int kKeptBehindMs = 20;
 constexpr int kFadeInMs = 3;
 constexpr int kFadeOutMs = 10;

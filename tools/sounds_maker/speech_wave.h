@@ -14,15 +14,15 @@ struct SpeechWave {
   std::vector<std::int16_t> samples;
 };
 
-/// Reads a .wav file of one channel and 16 bits. Nothing for any other file.
+/// Reads a .wav file of one channel and 16 bits. Empty for any other file.
 std::optional<SpeechWave> ReadWave(const QByteArray& file);
 
 /// The .wav file of that speech.
 QByteArray WriteWave(const SpeechWave& wave);
 
 /// Takes the silence off both ends, brings the speech to -20 dB on the average with no peak above
-/// -1 dB, softens its ends and puts a short silence around it. Speech that is silence throughout
-/// comes back empty.
+/// -1 dB, softens its ends and puts a short silence around it. Returns no samples for speech that
+/// is silent throughout.
 SpeechWave MakeCue(const SpeechWave& speech);
 
 }  // namespace bramlee

@@ -20,9 +20,8 @@ struct Spoken {
 /// How the set's files begin below the folder of sounds: "engc/eng-".
 QString FilesOf(const SoundSet& set);
 
-/// Reads the set's table in that folder. In a line that cannot be understood, `error` gets the
-/// file, the line's number and what is wrong with it, and the list is empty; `error` stays empty
-/// when all is well.
+/// Reads the set's table in that folder. For a line that cannot be read, `error` gets the file, the
+/// line's number and what is wrong, and the list is empty; `error` stays empty when there is none.
 QList<Spoken> ReadSpokenTable(const SoundSet& set, const QString& folder, QString& error);
 
 /// The whole numbers from `first` to `last`, 0 to 9999.
