@@ -32,6 +32,13 @@ class HeldInputTest : public ::testing::Test {
     QObject::connect(&button, &QPushButton::clicked, &button, [this] { ++buttonClicks; });
   }
 
+  /// What is still held would wait into the next test.
+  void TearDown() override {
+    bool free = false;
+    WhenFree(&window_, [&free] { free = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&free] { return free; }));
+  }
+
   /// What a user does while a handler is busy: `act` runs as the windows live.
   static void Meanwhile(const std::function<void()>& act) {
     QMetaObject::invokeMethod(QCoreApplication::instance(), act, Qt::QueuedConnection);
@@ -159,9 +166,7 @@ class KeysNoted : public QObject {
 
 TEST_F(HeldInputTest, MarksTheKeysThatRepeatThoughQtDoesNot) {
   KeysNoted noted;
-  bool free = false;  // of what another test has left
-  WhenFree(&window_, [&free] { free = true; });
-  ASSERT_TRUE(QTest::qWaitFor([&free] { return free; }));
+  { const HoldInput hold; }  // the watch begins with the first one
   window_.windowHandle()->installEventFilter(&noted);
   const auto send = [this](QEvent::Type type, quint32 scanCode, quint64 time) {
     QKeyEvent event(type, Qt::Key_Down, Qt::NoModifier, scanCode, 0, 0);
