@@ -59,7 +59,7 @@ void Form::FitToOuter() {
   const QMargins borders = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
   const QRect outer = PixelsOf(*outer_);
   resize(outer.size().shrunkBy(borders));
-  move(outer.topLeft());  // of the border's corner
+  move(ScreenOrigin() + outer.topLeft());  // of the border's corner
 }
 
 void Form::AllowForBorders() {
@@ -71,7 +71,7 @@ void Form::AllowForBorders() {
 
 TwipsRect Form::Outer() const {
   if (subWindow_ != nullptr) return PlaceOf(subWindow_);
-  const QRect pixels = frameGeometry();
+  const QRect pixels = frameGeometry().translated(-ScreenOrigin());
   if (outer_ && PixelsOf(*outer_) == pixels) return *outer_;
   return TwipsOf(pixels);
 }

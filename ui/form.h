@@ -55,8 +55,8 @@ class Form : public QMainWindow {
   /// Lets a child form go: its window and its menus leave the frame at once.
   virtual void Release(Form* /*child*/) {}
 
-  // --- the form's outer place, in twips, the window manager's borders and title included; of a
-  // form in the frame, that of its sub-window
+  // --- the form's outer place, in twips, the window manager's borders and title included, from the
+  // corner of the primary screen; of a form in the frame, that of its sub-window
   void SetOuter(const TwipsRect& rect);
   TwipsRect Outer() const;
   /// SetOuter with that size, centred on the screen.

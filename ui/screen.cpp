@@ -21,6 +21,10 @@ ScreenSize Screen() {
   return {.width = kTwipsPerPixel * pixels.width(), .height = kTwipsPerPixel * pixels.height()};
 }
 
+QPoint ScreenOrigin() {
+  return QGuiApplication::primaryScreen()->geometry().topLeft();
+}
+
 void SetScreen(std::optional<ScreenSize> size) {
   GivenSize() = size;
 }

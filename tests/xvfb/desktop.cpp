@@ -9,7 +9,9 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <memory>
+#include <numeric>
 #include <stdexcept>
 
 namespace bramlee {
@@ -64,7 +66,11 @@ QString Told(const QStringList& lines) {
 
 }  // namespace
 
-Desktop::Desktop(QSize size) {
+Desktop::Desktop(const QList<QRect>& monitors)
+    : Desktop(std::accumulate(monitors.begin(), monitors.end(), QRect(), std::bit_or<>()).size(),
+              monitors) {}
+
+Desktop::Desktop(QSize size, const QList<QRect>& monitors) {
   server_.setProcessChannelMode(QProcess::SeparateChannels);
   server_.setStandardErrorFile(QProcess::nullDevice());
   Start(server_, QStringLiteral("Xvfb"),
@@ -80,6 +86,7 @@ Desktop::Desktop(QSize size) {
   if (xcb_connection_has_error(connection_) != 0) Fail(QStringLiteral("no display ") + name_);
   root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
 
+  SetMonitors(monitors);
   SetDisplay(windowManager_, name_);
   windowManager_.setStandardErrorFile(QProcess::nullDevice());
   Start(windowManager_, QStringLiteral("openbox"), {QStringLiteral("--sm-disable")});
@@ -109,13 +116,33 @@ bool Desktop::HasWindowManager() const {
   return reply != nullptr && reply->type != XCB_ATOM_NONE;
 }
 
-void Desktop::Xdotool(const QStringList& arguments) const {
-  QProcess xdotool;
-  SetDisplay(xdotool, name_);
-  Start(xdotool, QStringLiteral("xdotool"), arguments);
-  if (!xdotool.waitForFinished(kHangsMs) || xdotool.exitCode() != 0) {
-    Fail(QStringLiteral("xdotool ") + arguments.join(u' '));
+/// Parts the one screen that Xvfb has. Its only output goes to the primary.
+void Desktop::SetMonitors(const QList<QRect>& monitors) const {
+  for (qsizetype i = 0; i < monitors.size(); ++i) {
+    const QRect& place = monitors[i];
+    Run(QStringLiteral("xrandr"),
+        {QStringLiteral("--setmonitor"),
+         (i == 0 ? QStringLiteral("*m") : QStringLiteral("m")) + QString::number(i),
+         QStringLiteral("%1/300x%2/200+%3+%4")
+             .arg(place.width())
+             .arg(place.height())
+             .arg(place.x())
+             .arg(place.y()),
+         i == 0 ? QStringLiteral("screen") : QStringLiteral("none")});
   }
+}
+
+void Desktop::Run(const QString& program, const QStringList& arguments) const {
+  QProcess process;
+  SetDisplay(process, name_);
+  Start(process, program, arguments);
+  if (!process.waitForFinished(kHangsMs) || process.exitCode() != 0) {
+    Fail(program + u' ' + arguments.join(u' '));
+  }
+}
+
+void Desktop::Xdotool(const QStringList& arguments) const {
+  Run(QStringLiteral("xdotool"), arguments);
 }
 
 void Desktop::Click(QPoint point) const {

@@ -15,7 +15,9 @@ namespace bramlee {
 /// Whatever cannot be started throws std::runtime_error.
 class Desktop {
  public:
-  explicit Desktop(QSize size = {1366, 768});
+  explicit Desktop(QSize size = {1366, 768}) : Desktop(size, {}) {}
+  /// One that spans these monitors; the first one is the primary.
+  explicit Desktop(const QList<QRect>& monitors);
   ~Desktop();
   Desktop(const Desktop&) = delete;
   Desktop& operator=(const Desktop&) = delete;
@@ -57,6 +59,9 @@ class Desktop {
   void Resize(std::uint32_t window, QSize size) const;
 
  private:
+  Desktop(QSize size, const QList<QRect>& monitors);
+  void Run(const QString& program, const QStringList& arguments) const;
+  void SetMonitors(const QList<QRect>& monitors) const;
   std::uint32_t Atom(const char* name) const;
   bool HasWindowManager() const;
 

@@ -218,6 +218,35 @@ TEST_F(Road, TheSoundLibraryIsReadyBeforeAnyClickAndNotInTheProgram) {
   EXPECT_FALSE(libraries.contains("libgstreamer"));
 }
 
+TEST_F(Road, EveryWindowStandsOnThePrimaryScreenWhereverThatLies) {
+  const QRect primary(1024, 0, 1024, 768);
+  const QRect other(0, 0, 1024, 768);
+  const Desktop desktop({primary, other});
+  const auto program = StartOn(desktop);
+  const auto seeOnPrimary = [&](const QString& title) {
+    See(desktop, qPrintable(title + QStringLiteral(" on the primary screen")), [&](const QImage&) {
+      const auto window = desktop.WindowTitled(title);
+      return window != 0 && primary.contains(desktop.OuterPlace(window));
+    });
+  };
+  seeOnPrimary(kFrame);
+  Press(desktop, kFrame, {QStringLiteral("alt+m"), QStringLiteral("s")});
+  See(desktop, "home", [](const QImage& screen) { return !CapitalsTile(screen).isEmpty(); });
+  Press(desktop, kFrame, {QStringLiteral("alt+b")});
+  seeOnPrimary(kCard);
+  Press(desktop, kCard, {QStringLiteral("alt+f"), QStringLiteral("b")});
+  const QImage screen = See(desktop, "home below the card",
+                            [](const QImage& seen) { return !CapitalsTile(seen).isEmpty(); });
+  desktop.Click(CapitalsTile(screen).center());
+  seeOnPrimary(kBoard);
+  // A message box goes where the pointer is, if it is let to.
+  desktop.Xdotool({QStringLiteral("mousemove"), QStringLiteral("500"), QStringLiteral("700")});
+  Press(desktop, kBoard,
+        {QStringLiteral("alt+a"), QStringLiteral("p"), QStringLiteral("Tab"),
+         QStringLiteral("space")});
+  seeOnPrimary(QStringLiteral("BRAM LEE"));
+}
+
 TEST_F(Road, NoEdgeOfTheFrameLiesOffTheScreen) {
   for (const QSize size : {QSize(1024, 768), QSize(1366, 768), QSize(1920, 1080)}) {
     const Desktop desktop(size);
