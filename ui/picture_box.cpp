@@ -64,26 +64,35 @@ PictureBox::PictureBox(QWidget* parent) : QAbstractButton(parent) {
   setCursor(Qt::PointingHandCursor);
 }
 
-void PictureBox::SetPicture(const QString& path) {
-  SetPicture(QPixmap(path));
+void PictureBox::SetPicture(const QString& resource) {
+  SetPicture(QPixmap());
+  resource_ = resource;
 }
 
 void PictureBox::SetPicture(const QPixmap& picture) {
+  resource_.clear();
   picture_ = picture;
-  ground_ = GroundOf(picture);
   fittedRoom_ = {};
   update();
+}
+
+QPixmap PictureBox::Picture() const {
+  // Not by QPixmap itself, which would keep the picture in its cache.
+  return resource_.isEmpty() ? picture_ : QPixmap::fromImage(QImage(resource_));
 }
 
 /// One scaling a size, not one a frame.
 void PictureBox::Fit(QSize room) {
   if (room == fittedRoom_) return;
   fittedRoom_ = room;
-  fitted_ = picture_.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  const QPixmap picture = Picture();
+  ground_ = GroundOf(picture);
+  fitted_ = picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   fitted_.setDevicePixelRatio(devicePixelRatioF());
 }
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+  Fit((size() - QSize(6, 6)) * devicePixelRatioF());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isEnabled() && (underMouse() || hasFocus());
@@ -92,9 +101,8 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(QPen(lit ? kLitEdge : kEdge, edge));
   painter.setBrush(isDown() ? kPressedGround : ground_);
   painter.drawRoundedRect(card, kRounding, kRounding);
-  if (picture_.isNull()) return;
+  if (fitted_.isNull()) return;
 
-  Fit((size() - QSize(6, 6)) * devicePixelRatioF());
   const QSizeF shown = fitted_.deviceIndependentSize();
   const double press = isDown() ? 1 : 0;  // a pressed tile gives way a little
   painter.drawPixmap(

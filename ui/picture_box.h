@@ -16,10 +16,13 @@ class PictureBox : public QAbstractButton {
  public:
   explicit PictureBox(QWidget* parent = nullptr);
 
-  /// Shows the picture of that resource or file; an unreadable one leaves the box empty.
-  void SetPicture(const QString& path);
+  /// Shows the picture of that resource; an unreadable one leaves the box empty. It is read when
+  /// it is painted at another size, and only what is painted is kept: the pictures are several
+  /// times as large as their boxes, and a board has dozens.
+  void SetPicture(const QString& resource);
   void SetPicture(const QPixmap& picture);
-  const QPixmap& Picture() const { return picture_; }
+  /// The whole picture, read anew from its resource; null for an empty box.
+  QPixmap Picture() const;
 
   QSize sizeHint() const override { return {80, 60}; }
 
@@ -32,7 +35,8 @@ class PictureBox : public QAbstractButton {
  private:
   void Fit(QSize room);
 
-  QPixmap picture_;
+  QString resource_;
+  QPixmap picture_;  ///< unless it is a resource's
   QColor ground_{Qt::white};
   QPixmap fitted_;    ///< the picture as it is painted
   QSize fittedRoom_;  ///< the room it was fitted to, in device pixels
