@@ -63,6 +63,8 @@ class Combo : public QComboBox {
   explicit Combo(QWidget* parent = nullptr);
   /// From now on an arrow key that is held picks one entry, not one after the other.
   void RefuseHeldKeys() { refusesHeldKeys_ = true; }
+  void showPopup() override;
+
  Q_SIGNALS:
   /// An entry was picked from the list or by the arrow keys.
   void Picked(int index);
@@ -70,7 +72,6 @@ class Combo : public QComboBox {
   void Entered();
 
  protected:
-  void showPopup() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
