@@ -5,6 +5,7 @@
 #include <QTextStream>
 
 #include "assets/pictures.h"
+#include "letters/letter_names.h"
 #include "letters/letter_sets.h"
 
 namespace bramlee {
@@ -29,8 +30,7 @@ void DrawTiles(Album& album) {
     const QString set = QString::fromUtf8(subject.letterSet.data(),
                                           static_cast<qsizetype>(subject.letterSet.size()));
     for (int tile = 1; tile <= FindLetterSet(subject.letterSet)->tiles; ++tile) {
-      const bool lettering = set == QLatin1StringView("hinv") && tile == 14;
-      if (lettering) continue;  // tile 14 has no picture: it shows the line of lettering
+      if (ShowsLettering(subject.letterSet, tile)) continue;  // its picture lies on the sheet
       Keep(album, QStringLiteral("%1/%2.jpg").arg(set).arg(tile), TilePicture(subject, tile));
     }
   }

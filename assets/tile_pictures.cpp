@@ -115,8 +115,8 @@ QImage LetteringPicture() {
   QImage image = Blank({952, 180}, Qt::white);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawPrinted(painter, QString::fromUtf8("का कि की कु कू के"),
-              QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignHCenter, QColor(0x1565C0));
+  DrawPrinted(painter, Lettering(), QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignHCenter,
+              QColor(0x1565C0));
   return image;
 }
 

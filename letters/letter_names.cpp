@@ -119,6 +119,10 @@ std::string Printed(std::string_view set, int tile) {
 
 }  // namespace
 
+bool ShowsLettering(std::string_view letterSet, int tile) {
+  return letterSet == "hinv" && tile == 14;
+}
+
 std::string PrintedLetter(std::string_view letterSet, int tile) {
   return tile < 1 || tile > Tiles(letterSet) ? std::string() : Printed(letterSet, tile);
 }

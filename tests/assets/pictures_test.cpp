@@ -1,3 +1,5 @@
+#include "assets/pictures.h"
+
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -40,6 +42,18 @@ QRect InkBox(const QImage& picture) {
   return box;
 }
 
+/// How many words stand side by side: parts of ink that an upright gap parts.
+int WordsIn(const QImage& line) {
+  int words = 0;
+  bool inked = false;
+  for (int x = 0; x < line.width(); ++x) {
+    const bool before = inked;
+    inked = !InkBox(line.copy(x, 0, 1, line.height())).isEmpty();
+    if (inked && !before) ++words;
+  }
+  return words;
+}
+
 class TilePictures : public testing::TestWithParam<LetterSet> {};
 
 TEST_P(TilePictures, AreThereInFourfoldSizeWithInkAndAllDiffer) {
@@ -75,6 +89,21 @@ TEST(TilePictures, LeaveTheTileOfTheLetteringWithoutOne) {
   const QImage lettering(QStringLiteral(":/pictures/hinv/0.jpg"));
   EXPECT_EQ(lettering.size(), QSize(952, 180));  // four times 238 by 45
   EXPECT_TRUE(HasInk(lettering));
+}
+
+TEST(Lettering, HasSixSyllablesOnTheSheet) {
+  EXPECT_EQ(WordsIn(QImage(QStringLiteral(":/pictures/hinv/0.jpg"))), 6);
+}
+
+TEST(Lettering, StandsOnItsCardOfTheChartInTwoRows) {
+  const QImage chart(QStringLiteral(":/pictures/charts/hinv.jpg"));
+  for (const Subject& subject : Subjects()) {
+    if (subject.letterSet != "hinv") continue;
+    QRect half = ChartCard(subject, 14).toAlignedRect().adjusted(20, 0, -20, 0);
+    half.setHeight(half.height() / 2);
+    EXPECT_EQ(WordsIn(chart.copy(half)), 3);
+    EXPECT_EQ(WordsIn(chart.copy(half.translated(0, half.height()))), 3);
+  }
 }
 
 TEST(Pictures, AreThereForSubjectsChartsSignsAndCard) {
