@@ -27,7 +27,7 @@ FrameForm::FrameForm() : Form(kFrameForm, Kind::Frame), area_(new QMdiArea(this)
   SetClient(area_);
   connect(area_, &QMdiArea::subWindowActivated, this, [this](const QMdiSubWindow* window) {
     // None is active while another window of the program is: what lies in front here stays.
-    if (const Form* child = FormIn(window)) ShowMenusOf(child);
+    if (const Form* child = FormIn(window)) PutInFront(child);
   });
 }
 
@@ -58,17 +58,31 @@ void FrameForm::BringForward(Form* child) {
   window->show();
   window->raise();
   area_->setActiveSubWindow(window);
+  PutInFront(child);
+}
+
+/// A notice leaves both menus and room to the form below it.
+void FrameForm::PutInFront(const Form* child) {
+  if (child->BarItems().isEmpty()) return;
   ShowMenusOf(child);
+  const auto windows = area_->subWindowList();
+  for (QMdiSubWindow* window : windows) {
+    if (window == child->SubWindow() || window->isHidden() || !window->isMaximized()) continue;
+    window->showNormal();
+    child->SubWindow()->showMaximized();
+  }
 }
 
 void FrameForm::Release(Form* child) {
+  const bool wasMaximised = child->SubWindow()->isMaximized();
   child->SubWindow()->hide();
   area_->removeSubWindow(child->SubWindow());
   if (menusOf_ == child) ShowMenusOfTheFormInFront();
+  if (wasMaximised && menusOf_ != nullptr) menusOf_->SubWindow()->showMaximized();
 }
 
 void FrameForm::ShowMenusOf(const Form* child) {
-  if (child->BarItems().isEmpty() || child == menusOf_) return;
+  if (child == menusOf_) return;
   menusOf_ = child;
   menuBar()->clear();
   menuBar()->addActions(child->BarItems());
@@ -79,7 +93,8 @@ void FrameForm::ShowMenusOfTheFormInFront() {
   menuBar()->clear();
   const auto windows = area_->subWindowList(QMdiArea::StackingOrder);
   for (auto window = windows.crbegin(); window != windows.crend() && !menusOf_; ++window) {
-    if (!(*window)->isHidden()) ShowMenusOf(FormIn(*window));
+    const Form* form = FormIn(*window);
+    if (!(*window)->isHidden() && !form->BarItems().isEmpty()) ShowMenusOf(form);
   }
 }
 

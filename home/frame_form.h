@@ -27,6 +27,7 @@ class FrameForm : public Form {
   TwipsRect Inside() const;
 
  private:
+  void PutInFront(const Form* child);
   void ShowMenusOf(const Form* child);
   void ShowMenusOfTheFormInFront();
 

@@ -151,6 +151,65 @@ TEST_F(Frame, ANoticeDoesNotFillTheFrameBecauseTheFormBelowDoes) {
   EXPECT_EQ(notice->Outer().width, 6000);
 }
 
+class MaximisedInTheFrame : public Frame {
+ protected:
+  /// By the user, before whom the frame stands.
+  static void Maximise(const Form* form) {
+    TheFrame()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(TheFrame()));
+    form->SubWindow()->showMaximized();
+  }
+  /// The buttons of a maximised form, at the end of the menu bar.
+  static QWidget* Buttons() { return TheFrame()->menuBar()->cornerWidget(Qt::TopRightCorner); }
+  /// What is maximised, by what the frame's title says and by the forms' own windows.
+  static QString Maximised() {
+    const QString title = TheFrame()->windowTitle();
+    for (const Form* form : LoadedForms()) {
+      if (form->SubWindow() == nullptr || !form->SubWindow()->isMaximized()) continue;
+      EXPECT_TRUE(title.endsWith(u'[' + form->windowTitle() + u']')) << qPrintable(title);
+      return form->objectName();
+    }
+    EXPECT_FALSE(title.contains(u'[')) << qPrintable(title);
+    return {};
+  }
+};
+
+TEST_F(MaximisedInTheFrame, HomeComesMaximisedInThePlaceOfTheStartForm) {
+  Maximise(Shown("fbrmsta1"));
+  EXPECT_EQ(Maximised(), QStringLiteral("fbrmsta1"));
+  const Form* home = Shown("fbrmhom1");
+  EXPECT_EQ(Maximised(), QStringLiteral("fbrmhom1"));
+  EXPECT_FALSE(Loaded("fbrmsta1")->SubWindow()->isMaximized());
+  EXPECT_EQ(home->SubWindow()->size(), home->SubWindow()->mdiArea()->viewport()->size());
+  EXPECT_EQ(Bar(), homeBar);
+}
+
+TEST_F(MaximisedInTheFrame, ItsCloseButtonClosesHomeAndTheStartFormIsMaximisedAgain) {
+  Maximise(Shown("fbrmsta1"));
+  Shown("fbrmhom1");
+  ASSERT_NE(Buttons(), nullptr);
+  QTest::mouseClick(Buttons(), Qt::LeftButton, {},
+                    {Buttons()->width() - Buttons()->width() / 6, Buttons()->height() / 2});
+  EXPECT_EQ(LoadedNames(), QStringList({QStringLiteral("MDIbrm"), QStringLiteral("fbrmsta1")}));
+  EXPECT_EQ(ends, 0);
+  EXPECT_EQ(Maximised(), QStringLiteral("fbrmsta1"));
+  EXPECT_EQ(Bar(), startBar);
+}
+
+TEST_F(MaximisedInTheFrame, TheFormBehindTakesThePlaceWhenItIsActivated) {
+  Form* start = Shown("fbrmsta1");
+  Maximise(Shown("fbrmhom1"));
+  start->SubWindow()->mdiArea()->activateNextSubWindow();
+  EXPECT_EQ(Maximised(), QStringLiteral("fbrmsta1"));
+  EXPECT_EQ(Bar(), startBar);
+}
+
+TEST_F(MaximisedInTheFrame, AClosedNoticeLeavesTheFormBelowMaximised) {
+  Maximise(Shown("fbrmsta1"));
+  UnloadForm(Shown("fbrmsav1"));
+  EXPECT_EQ(Maximised(), QStringLiteral("fbrmsta1"));
+}
+
 TEST_F(Frame, ClosingItEndsTheProgramInOrder) {
   Shown("fbrmsta1");
   Shown("fbrmhom1");
