@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kLongDelay(250);
 
-constexpr double kFewestFrames = 20;  ///< a second; some displays tell nonsense
+constexpr double kFewestFrames = 20;  ///< a second; some displays report nonsense
 constexpr double kMostFrames = 240;
 
 }  // namespace

@@ -10,9 +10,9 @@ namespace bramlee {
 /// that is 1000 sheet pixels of line: a capital takes half a second to a second.
 inline constexpr double kDotsPerSecond = 100'000;
 
-/// Keeps the pen to its pace: it is told of dots that have been set, and rests for as long as
-/// they should have taken. It reckons from the begin, so that nothing adds up; a machine that
-/// cannot keep up is never waited for.
+/// Keeps the pen to its pace: after each batch of dots it rests for as long as they should have
+/// taken. It measures from the start, so that errors do not add up; on a machine that cannot keep
+/// up it never rests.
 class Pace {
  public:
   /// The pen begins, and is shown so many times a second.

@@ -14,14 +14,14 @@ namespace bramlee {
 
 /// Takes dots and shows them as smooth-edged discs of kDrawWidth at any pixel ratio.
 ///
-/// Dots of a run lie a hundredth of a pixel apart; those that would change nothing one can see
-/// are passed over, and what is kept is a journal of the others. The journal is the truth: a
-/// picture, or what a window shows, is stamped from it and can be made anew at any time, so the
-/// same dots give the same picture wherever and however fast they were written. It does not grow
-/// with letters that are written again: a dot is forgotten once a later one lies exactly on it.
+/// Dots of a run lie a hundredth of a pixel apart. A journal keeps those that change the picture
+/// and leaves the others out. Pictures, and what a window shows, are stamped from the journal and
+/// can be made anew at any time, so the same dots give the same picture wherever and however fast
+/// they were written. It does not grow with letters that are written again: it drops a dot once a
+/// later one lies exactly on it.
 class Ink final : public RewindableSurface {
  public:
-  /// `step`: what Step() tells, greater than 0.
+  /// `step`: what Step() returns, greater than 0.
   explicit Ink(double step = 0.01) : step_(step) {}
 
   void PSet(float x, float y) override {
@@ -44,8 +44,8 @@ class Ink final : public RewindableSurface {
   }
   void EndRun() override { Flush(); }
 
-  /// The colour of the dots to come; red at first. Never throws: a pen is put back as well where
-  /// the memory has run out.
+  /// The colour of the dots to come; red at first. Never throws, so that a pen can be put back when
+  /// memory has run out.
   ColourWord Colour() const { return colour_; }
   void SetPen(ColourWord colour) noexcept override;
 
@@ -84,9 +84,9 @@ class Ink final : public RewindableSurface {
   /// How far apart kept dots of a run may lie, in sheet pixels. The notch between two discs is
   /// spacing * spacing / 40 deep: a 240th of a pixel.
   static constexpr float kSpacing = 0.41F;
-  /// How far a dot that is passed over may lie beside the line of the others, in sheet pixels.
+  /// How far a dot that is left out may lie beside the line of the others, in sheet pixels.
   static constexpr float kStray = 0.04F;
-  /// Dots so near to the last kept one tell no direction yet, in sheet pixels.
+  /// Dots nearer than this to the last kept one give no direction yet, in sheet pixels.
   static constexpr float kNear = 0.02F;
   static constexpr float kNever = 1e30F;
   /// As many dots are kept before covered ones are looked for: a hundred letters.
@@ -102,7 +102,7 @@ class Ink final : public RewindableSurface {
     std::size_t first;
   };
 
-  /// Takes a dot that is not passed over. Throws std::bad_alloc when there is no memory for it.
+  /// Takes a dot that is not left out. Throws std::bad_alloc when there is no memory for it.
   void Turn(float x, float y);
   void Flush() noexcept;
   void MakeRoom();
@@ -128,7 +128,7 @@ class Ink final : public RewindableSurface {
   bool atWork_ = false;  ///< whether last is the last kept dot of a run not yet ended
   float lastX_ = 0;
   float lastY_ = 0;
-  bool held_ = false;  ///< whether a dot waits for the next one to tell if it is needed
+  bool held_ = false;  ///< whether a dot waits for the next one, which decides if it is needed
   float heldX_ = 0;
   float heldY_ = 0;
   float heldAlong_ = kNever;  ///< how far the held dot lies along the direction

@@ -8,7 +8,7 @@ namespace bramlee {
 namespace {
 
 /// Where the samples of a pixel lie: the i-th in the i-th of 64 columns and in this row. Found by
-/// search: an edge of any direction at any place is told with an error of 9 levels of 255 at
+/// search: an edge of any direction at any place comes out with an error of 9 levels of 255 at
 /// most and 2.5 in the mean, where 8 rows of 8 give 16 and 8.
 constexpr std::int8_t kSampleRow[] = {
     19, 37, 55, 2,  46, 10, 30, 61, 25, 17, 39, 47, 5,  54, 12, 34, 23, 60, 44, 3,  28, 52,
@@ -37,9 +37,8 @@ Stamps::Stamps(double ratio)
           ZeroWords(static_cast<std::size_t>(std::ptrdiff_t{kPhases} * kPhases * wordsPerStamp_))) {
 }
 
-/// Level by level of samples: a disc holds those of a level from one pixel to another. Their bit
-/// is turned over where they begin and behind where they end, and then handed on from pixel to
-/// pixel.
+/// Goes level by level of samples: a disc holds those of a level from one pixel to another. Flips
+/// their bit where they begin and behind where they end, then carries it from pixel to pixel.
 void Stamps::Make(int phaseX, int phaseY) {
   const double centreX = reach_ + static_cast<double>(phaseX) / kPhases;
   const double centreY = reach_ + static_cast<double>(phaseY) / kPhases;

@@ -10,7 +10,7 @@
 namespace bramlee {
 namespace {
 
-/// Pixels that no widget reaches, and that Qt can still reckon with.
+/// In pixels: farther than any widget lies, and small enough for Qt's arithmetic.
 constexpr double kFarthest = 1 << 24;
 
 constexpr char kPlace[] = "twips";

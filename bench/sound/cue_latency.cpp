@@ -1,7 +1,7 @@
 // cue_latency [FILE...]: milliseconds from asking for a cue to its first audible sample, while the
 // window's thread is held as by a letter's strokes. Each file is played first in a process of its
 // own, without and with warming up, then twenty times in one that is warm. Without files: a tone
-// in each format. The sounds go to a sound server of its own, nobody hears them.
+// in each format. The sounds go to a sound server of its own, unheard.
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>

@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Ink, InkEdges,
 
 class InkAtRatio : public ::testing::TestWithParam<double> {};
 
-TEST_P(InkAtRatio, ShouldKeepTheEdgeOfOneStrokeUnderTenThousandInOneClick) {
+TEST_P(InkAtRatio, KeepsTheEdgeOfOneStrokeUnderTenThousandInOneClick) {
   const Strokes bow = [](DrawingSurface& s) { ArcStroke(s, 1, 0, 20, 160, 420, 95, 30.7); };
   const Ink once = Written(1, kBlack, bow);
   const Ink often = Written(1, kBlack, [&](DrawingSurface& s) {
@@ -107,7 +107,7 @@ TEST_P(InkAtRatio, ShouldKeepTheEdgeOfOneStrokeUnderTenThousandInOneClick) {
             once.Picture(kArea, GetParam(), Qt::white));
 }
 
-TEST_P(InkAtRatio, ShouldKeepTheEdgeUnderTenThousandDotsOnOnePlace) {
+TEST_P(InkAtRatio, KeepsTheEdgeUnderTenThousandDotsOnOnePlace) {
   const Strokes dot = [](DrawingSurface& s) { s.PSet(420.4F, 80.7F); };
   Ink ink(0.01);
   ink.SetPen(kBlack);
@@ -117,7 +117,7 @@ TEST_P(InkAtRatio, ShouldKeepTheEdgeUnderTenThousandDotsOnOnePlace) {
   ExpectExactEdges(ink, GetParam(), 0.01, dot);
 }
 
-TEST_P(InkAtRatio, ShouldKeepTheEdgeOfSlowStrokesUnderManyFasterOnes) {
+TEST_P(InkAtRatio, KeepsTheEdgeOfSlowStrokesUnderManyFasterOnes) {
   // Full circles, which end at the same place at every step.
   Ink ink(1);
   ink.SetPen(kBlack);
@@ -129,7 +129,7 @@ TEST_P(InkAtRatio, ShouldKeepTheEdgeOfSlowStrokesUnderManyFasterOnes) {
   ExpectExactEdges(ink, GetParam(), 0.01, circle);
 }
 
-TEST_P(InkAtRatio, ShouldShowTheSameLiveAndReplayed) {
+TEST_P(InkAtRatio, ShowsTheSameLiveAndReplayed) {
   Ink live(0.01);
   live.Cover(kArea, GetParam());
   Ink later(0.01);
@@ -151,7 +151,7 @@ TEST_P(InkAtRatio, ShouldShowTheSameLiveAndReplayed) {
   EXPECT_EQ(replayed, shown);
 }
 
-TEST_P(InkAtRatio, ShouldTellEveryChangeByTheDirtyRectangles) {
+TEST_P(InkAtRatio, ReportsEveryChangeByTheDirtyRectangles) {
   Ink ink(0.08);
   ink.Cover(kArea, GetParam());
   QImage frames(ink.CoveredSize(), QImage::Format_RGB32);
@@ -173,7 +173,7 @@ TEST_P(InkAtRatio, ShouldTellEveryChangeByTheDirtyRectangles) {
   EXPECT_EQ(frames, Ink().Picture(kArea, GetParam(), Qt::white));
 }
 
-TEST_P(InkAtRatio, ShouldLeaveNothingOfTheFirstColourWhenWrittenAgainInAnother) {
+TEST_P(InkAtRatio, LeavesNothingOfTheFirstColourWhenWrittenAgainInAnother) {
   const QRectF area(400, 130, 800, 240);
   for (std::int16_t letter = 1; letter <= 26; ++letter) {
     Ink blueOnly(0.03);
@@ -187,7 +187,7 @@ TEST_P(InkAtRatio, ShouldLeaveNothingOfTheFirstColourWhenWrittenAgainInAnother) 
   }
 }
 
-TEST_P(InkAtRatio, ShouldCoverACrossedStrokeFullyAndLeaveTheRestOfIt) {
+TEST_P(InkAtRatio, CoversACrossedStrokeFullyAndLeaveTheRestOfIt) {
   const Strokes under = [](DrawingSurface& s) { SlantRight(s, 40, 390, 50, 105); };
   const Strokes over = [](DrawingSurface& s) { SlantLeft(s, 33, 440, 48, 108); };
   Ink ink(0.01);
@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(Ink, InkAtRatio, ::testing::Values(1, 1.25, 1.5, 2),
                            return "At" + std::to_string(std::lround(tried.param * 100));
                          });
 
-TEST(Ink, ShouldKeepWhatLiesOffTheCoveredPart) {
+TEST(Ink, KeepsWhatLiesOffTheCoveredPart) {
   Ink ink(0.01);
   ink.Cover(QRectF(0, 0, 200, 100), 1);
   ink.SetPen(kBlack);
@@ -236,14 +236,14 @@ TEST(Ink, ShouldKeepWhatLiesOffTheCoveredPart) {
   EXPECT_EQ(shown, Written(0.01, kBlack, Cross).Picture(kArea, 2, Qt::white));
 }
 
-TEST(Ink, ShouldGiveThePartOfALargerPicture) {
+TEST(Ink, GivesThePartOfALargerPicture) {
   const Ink ink = Written(0.08, kRed, Cross);
   const QImage whole = ink.Picture(QRectF(380, 40, 80, 80), 1, Qt::white);
   const QImage part = ink.Picture(QRectF(400, 60, 30, 20), 1, Qt::white);
   EXPECT_EQ(part, whole.copy(20, 20, 30, 20));
 }
 
-TEST(Ink, ShouldShowEveryDotAlsoBeforeItsRunHasEnded) {
+TEST(Ink, ShowsEveryDotAlsoBeforeItsRunHasEnded) {
   Ink ink(0.2);
   ink.BeginRun(Primitive::LineRight, {});
   ink.PSet(400, 60);
@@ -253,7 +253,7 @@ TEST(Ink, ShouldShowEveryDotAlsoBeforeItsRunHasEnded) {
   EXPECT_EQ(early, ink.Picture(kArea, 1, Qt::white));
 }
 
-TEST(Ink, ShouldPassOverDotsThatChangeNothing) {
+TEST(Ink, LeavesOutDotsThatChangeNothing) {
   const Ink ink = Written(0.01, kRed, [](DrawingSurface& s) { LineRight(s, 400, 60, 600); });
   EXPECT_LT(ink.KeptDots(), 600U);
   EXPECT_GT(ink.KeptDots(), 400U);
@@ -270,13 +270,13 @@ void WriteForLong(Ink& ink) {
   }
 }
 
-TEST(Ink, ShouldNotGrowWithLettersThatAreWrittenAgain) {
+TEST(Ink, DoesNotGrowWithLettersThatAreWrittenAgain) {
   Ink ink(1);
   WriteForLong(ink);
   EXPECT_LT(ink.KeptDots(), 200000U);
 }
 
-TEST(Ink, ShouldShowAllColoursAsBeforeWhenItForgetsCoveredDots) {
+TEST(Ink, ShowsAllColoursAsBeforeWhenItDropsCoveredDots) {
   const QRectF area(400, 100, 800, 300);
   Ink ink(1);
   ink.SetPen(kBlue);
@@ -293,7 +293,7 @@ TEST(Ink, ShouldShowAllColoursAsBeforeWhenItForgetsCoveredDots) {
   EXPECT_EQ(anew.pixelColor(640 - 400, 370 - 100), QColor(Qt::yellow));
 }
 
-TEST(Ink, ShouldKeepADotThatComesBack) {
+TEST(Ink, KeepsADotThatComesBack) {
   Ink ink(0.1);
   for (const float x : {400.0F, 400.1F, 400.2F, 400.3F, 400.1F, 399.9F}) ink.PSet(x, 60);
   ink.EndRun();
@@ -304,7 +304,7 @@ TEST(Ink, ShouldKeepADotThatComesBack) {
   EXPECT_EQ(ink.Picture(kArea, 2, Qt::white), back.Picture(kArea, 2, Qt::white));
 }
 
-TEST(Ink, ShouldTakeDotsAnywhereWithoutHarm) {
+TEST(Ink, TakesDotsAnywhereWithoutHarm) {
   Ink ink(1);
   ink.Cover(kArea, 1);
   for (const float far : {-1e30F, -1e9F, -1.0F, 1e9F, 1e30F, INFINITY, -INFINITY, NAN}) {
@@ -315,7 +315,7 @@ TEST(Ink, ShouldTakeDotsAnywhereWithoutHarm) {
   EXPECT_EQ(ink.Picture(kArea, 1, Qt::white), Ink().Picture(kArea, 1, Qt::white));
 }
 
-TEST(Ink, ShouldCutDotsAtEveryEdgeOfThePicture) {
+TEST(Ink, CutsDotsAtEveryEdgeOfThePicture) {
   const Strokes frame = [](DrawingSurface& s) {
     LineRight(s, 375, 40, 465);
     LineRight(s, 375, 120, 465);
@@ -325,7 +325,7 @@ TEST(Ink, ShouldCutDotsAtEveryEdgeOfThePicture) {
   ExpectExactEdges(Written(0.01, kBlack, frame), 1, 0.01, frame);
 }
 
-TEST(Ink, ShouldGiveNoPictureOfAnEmptyOrMonstrousArea) {
+TEST(Ink, GivesNoPictureOfAnEmptyOrMonstrousArea) {
   const Ink ink = Written(1, kRed, Cross);
   EXPECT_TRUE(ink.Picture(QRectF(), 1, Qt::white).isNull());
   EXPECT_TRUE(ink.Picture(QRectF(0, 0, 1e6, 10), 1, Qt::white).isNull());

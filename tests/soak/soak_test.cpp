@@ -34,7 +34,7 @@ constexpr bool kSanitized = true;  // the sanitizer keeps what is freed in quara
 constexpr bool kSanitized = false;
 #endif
 
-/// The program's resident memory in megabytes; 0 where it cannot be told.
+/// The program's resident memory in megabytes; 0 where the system does not say.
 double ResidentMegabytes() {
   QFile status(QStringLiteral("/proc/self/status"));
   if (!status.open(QIODevice::ReadOnly)) return 0;

@@ -67,7 +67,7 @@ class PictureBoxes : public testing::Test {
   QWidget window_;
 };
 
-TEST_F(PictureBoxes, ShouldBeReachedByTabInTheirOrder) {
+TEST_F(PictureBoxes, AreReachedByTabInTheirOrder) {
   for (const int next : {1, 2, 3, 4, 5, 0}) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(Focused(), next);
@@ -76,21 +76,21 @@ TEST_F(PictureBoxes, ShouldBeReachedByTabInTheirOrder) {
   EXPECT_EQ(Focused(), 5);
 }
 
-TEST_F(PictureBoxes, ShouldPassTheFocusToTheNeighbourInTheArrowsDirection) {
+TEST_F(PictureBoxes, PassTheFocusToTheNeighbourInTheArrowsDirection) {
   EXPECT_EQ(From(0, Qt::Key_Right), 1);
   EXPECT_EQ(From(1, Qt::Key_Down), 4);
   EXPECT_EQ(From(4, Qt::Key_Left), 3);
   EXPECT_EQ(From(3, Qt::Key_Up), 0);
 }
 
-TEST_F(PictureBoxes, ShouldKeepTheFocusWhereNothingLiesInTheArrowsDirection) {
+TEST_F(PictureBoxes, KeepTheFocusWhereNothingLiesInTheArrowsDirection) {
   EXPECT_EQ(From(0, Qt::Key_Left), 0);
   EXPECT_EQ(From(2, Qt::Key_Right), 2);  // and not on to the next row
   EXPECT_EQ(From(2, Qt::Key_Up), 2);
   EXPECT_EQ(From(5, Qt::Key_Down), 5);
 }
 
-TEST_F(PictureBoxes, ShouldPassOverHiddenAndDisabledOnes) {
+TEST_F(PictureBoxes, SkipHiddenAndDisabledOnes) {
   boxes[1]->hide();
   EXPECT_EQ(From(0, Qt::Key_Right), 2);
   boxes[4]->setEnabled(false);
@@ -100,20 +100,20 @@ TEST_F(PictureBoxes, ShouldPassOverHiddenAndDisabledOnes) {
   EXPECT_EQ(Focused(), 2);
 }
 
-TEST_F(PictureBoxes, ShouldKeepToTheRowThoughAnotherOneLiesNearer) {
+TEST_F(PictureBoxes, KeepToTheRowThoughAnotherOneLiesNearer) {
   boxes[1]->hide();
   boxes[4]->move(40, 70);
   EXPECT_EQ(From(0, Qt::Key_Right), 2);
 }
 
-TEST_F(PictureBoxes, ShouldBePressedBySpaceReturnAndEnter) {
+TEST_F(PictureBoxes, ArePressedBySpaceReturnAndEnter) {
   QTest::keyClick(boxes[0], Qt::Key_Space);
   QTest::keyClick(boxes[1], Qt::Key_Return);
   QTest::keyClick(boxes[2], Qt::Key_Enter);
   EXPECT_EQ(clicked, (std::vector<int>{0, 1, 2}));
 }
 
-TEST_F(PictureBoxes, ShouldBePressedOnceByAKeyThatIsHeld) {
+TEST_F(PictureBoxes, ArePressedOnceByAKeyThatIsHeld) {
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
     clicked.clear();
     for (const bool repeated : {false, true, true}) {
@@ -125,7 +125,7 @@ TEST_F(PictureBoxes, ShouldBePressedOnceByAKeyThatIsHeld) {
   }
 }
 
-TEST_F(PictureBoxes, ShouldNotAnswerWhileDisabled) {
+TEST_F(PictureBoxes, DoNotAnswerWhileDisabled) {
   boxes[1]->setEnabled(false);
   const QImage before = Seen(boxes[1]);
   Enter(boxes[1]);
@@ -134,7 +134,7 @@ TEST_F(PictureBoxes, ShouldNotAnswerWhileDisabled) {
   EXPECT_TRUE(clicked.empty());
 }
 
-TEST_F(PictureBoxes, ShouldShowThatTheMouseIsOverThem) {
+TEST_F(PictureBoxes, ShowThatTheMouseIsOverThem) {
   const QImage before = Seen(boxes[4]);
   Enter(boxes[4]);
   EXPECT_NE(Seen(boxes[4]), before);
@@ -142,13 +142,13 @@ TEST_F(PictureBoxes, ShouldShowThatTheMouseIsOverThem) {
   EXPECT_EQ(Seen(boxes[4]), before);
 }
 
-TEST_F(PictureBoxes, ShouldShowThatTheyHaveTheFocus) {
+TEST_F(PictureBoxes, ShowThatTheyHaveTheFocus) {
   const QImage before = Seen(boxes[4]);
   boxes[4]->setFocus();
   EXPECT_NE(Seen(boxes[4]), before);
 }
 
-TEST_F(PictureBoxes, ShouldShowAPress) {
+TEST_F(PictureBoxes, ShowAPress) {
   QPixmap picture(40, 40);
   picture.fill(Qt::white);
   boxes[4]->SetPicture(picture);
@@ -162,7 +162,7 @@ TEST_F(PictureBoxes, ShouldShowAPress) {
   EXPECT_EQ(clicked, std::vector<int>{4});
 }
 
-TEST_F(PictureBoxes, ShouldShowTheirPictureWithoutDistortionOnItsOwnGround) {
+TEST_F(PictureBoxes, ShowTheirPictureWithoutDistortionOnItsOwnGround) {
   QImage picture(400, 100, QImage::Format_RGB32);
   picture.fill(QColor(0xFF, 0xF3, 0xE0));
   for (int y = 40; y < 60; ++y) {
@@ -174,7 +174,7 @@ TEST_F(PictureBoxes, ShouldShowTheirPictureWithoutDistortionOnItsOwnGround) {
   EXPECT_EQ(seen.pixelColor(30, 8), QColor(0xFF, 0xF3, 0xE0));  // above what the picture takes
 }
 
-TEST_F(PictureBoxes, ShouldBeEmptyOfAPictureThatCannotBeRead) {
+TEST_F(PictureBoxes, AreEmptyWhenTheirPictureCannotBeRead) {
   boxes[4]->SetPicture(QStringLiteral(":/there/is/none.jpg"));
   EXPECT_TRUE(boxes[4]->Picture().isNull());
   EXPECT_EQ(Seen(boxes[4]), Seen(boxes[5]));

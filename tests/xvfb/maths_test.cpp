@@ -45,7 +45,7 @@ class MathsAtTheKeyboard : public ::testing::Test {
     program_.WaitFor(QStringLiteral("picked ") + QString::fromLatin1(item));
   }
   /// Types over both operands, from the first one on, and presses the equals picture.
-  void Reckon(const char* a, const char* b) const {
+  void Compute(const char* a, const char* b) const {
     Type(a);
     desktop_.Key(QStringLiteral("Tab"));
     Type(b);
@@ -73,8 +73,8 @@ class MathsAtTheKeyboard : public ::testing::Test {
     return program_.WaitFor(beginning).mid(beginning.size()).toStdString();
   }
 
-  /// The point that a line tells.
-  QPoint Told(const char* what) {
+  /// The point in the line that begins so.
+  QPoint PointOf(const char* what) {
     const QStringList words =
         program_.Lines().filter(QString::fromLatin1(what)).first().split(u' ');
     return {words[words.size() - 2].toInt(), words.last().toInt()};
@@ -83,7 +83,7 @@ class MathsAtTheKeyboard : public ::testing::Test {
   /// The box around all that is red on the screen below the tiles, from the sheet's corner.
   QRect RedInk() {
     const QImage screen = desktop_.Screenshot();
-    const QPoint sheet = Told("sheet ");
+    const QPoint sheet = PointOf("sheet ");
     QRect box;
     for (int y = sheet.y() + 250; y < screen.height(); ++y) {
       for (int x = sheet.x(); x < screen.width(); ++x) {
@@ -122,34 +122,34 @@ QRect InkOf(int tile) {
 
 TEST_F(MathsAtTheKeyboard, AllDrillsOneAfterTheOther) {
   Begin("mnuadd", "a");
-  Reckon("12", "30");
+  Compute("12", "30");
   EXPECT_EQ(NextResult(), "42");
   Begin("mnuadd", "a");
 
   // The S is that of ShowTables too, which stands above it: the arrow keys get there.
   Begin("mnusub");
-  Reckon("12", "30");
+  Compute("12", "30");
   EXPECT_EQ(NextResult(), "-18");
   Begin("mnusub");
 
   Begin("mnumul", "m");
-  Reckon("12", "30");
+  Compute("12", "30");
   EXPECT_EQ(NextResult(), "360");
   Begin("mnumul", "m");
 
   Begin("mnudiv", "d");
-  Reckon("7", "2");
+  Compute("7", "2");
   EXPECT_EQ(NextResult(), "3.5");
   Begin("mnudiv", "d");
 
   Begin("mnuper", "p");
-  Reckon("50", "200");
+  Compute("50", "200");
   EXPECT_EQ(NextResult(), "100");
 }
 
 TEST_F(MathsAtTheKeyboard, MessagesAreReadAndTheDrillGoesOn) {
   Begin("mnudiv", "d");
-  Reckon("5", "0");
+  Compute("5", "0");
   EXPECT_EQ(NextMessage(), "Infinity");
   desktop().Key(QStringLiteral("Return"));
   program().WaitFor(QStringLiteral("cursor picequal"));
@@ -181,7 +181,7 @@ TEST_F(MathsAtTheKeyboard, ATable) {
 }
 
 TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListRunsOnce) {
-  desktop().Click(Told("number box "));
+  desktop().Click(PointOf("number box "));
   for (const char* pick : {"Return", "KP_Enter"}) {
     OpenList();
     Keys({QStringLiteral("Down"), QString::fromLatin1(pick)});
@@ -196,7 +196,7 @@ TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListRunsOnce) {
 
 TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListIsSpokenOnce) {
   Speak();
-  desktop().Click(Told("number box "));
+  desktop().Click(PointOf("number box "));
   OpenList();
   Keys({QStringLiteral("Down"), QStringLiteral("Return")});
   EXPECT_NE(NextMessage().find("Not Found"), std::string::npos);  // as nothing lies on the drive
@@ -211,7 +211,7 @@ TEST_F(MathsByASlowPen, ANumberPickedFromTheOpenListIsSpokenOnce) {
 }
 
 TEST_F(MathsByASlowPen, AnArrowKeyThatIsHeldPicksOneNumber) {
-  desktop().Click(Told("number box "));
+  desktop().Click(PointOf("number box "));
   desktop().Xdotool({QStringLiteral("keydown"), QStringLiteral("Down")});
   for (int times = 0; times < 5; ++times) program().WaitFor(QStringLiteral("key repeated"));
   desktop().Xdotool({QStringLiteral("keyup"), QStringLiteral("Down")});
@@ -222,10 +222,10 @@ TEST_F(MathsByASlowPen, AnArrowKeyThatIsHeldPicksOneNumber) {
 }
 
 TEST_F(MathsAtTheKeyboard, TypedFifteenShowsTheFiveAlone) {
-  desktop().Click(Told("number box "));
+  desktop().Click(PointOf("number box "));
   Type("15");
   desktop().Key(QStringLiteral("Return"));
-  // Nothing lies on the drive: whatever would be spoken would be told of by a message.
+  // The drive is empty, so each sound that is asked for shows a message.
   program().WaitFor(QStringLiteral("number written"));
   const QRect five = InkOf(5);
   QRect seen;

@@ -1,10 +1,10 @@
-// The capitals board in a program that tells, line by line, what reaches it. Beside the board
+// The capitals board in a program that prints, line by line, what reaches it. Beside the board
 // stand a text box, a window with a button, and a handler that asks between two strokes.
 //
 //   watched_board STEP [WIDTHxHEIGHT]
 //
 // It begins with places on the screen, that of the sheet in its window, in device pixels.
-// Lines it is told: "call NAME" comes back by another thread, as a queued call to the form;
+// Lines it reads: "call NAME" comes back by another thread, as a queued call to the form;
 // "save FILE" saves the picture of the sheet's dots.
 #include <QApplication>
 #include <QDialog>

@@ -1,4 +1,4 @@
-// The maths board in a program that tells, line by line, what its user gets to see: where the
+// The maths board in a program that prints, line by line, what its user sees: where the
 // cursor is, results, marks, messages, numbers; and keys that repeat as they are held. Its argument
 // is the pen's step, 1 without one.
 #include <QAbstractItemView>

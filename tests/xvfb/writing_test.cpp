@@ -111,7 +111,7 @@ class Writing : public ::testing::Test {
   Desktop desktop;
 };
 
-TEST_F(Writing, ShouldTakeUpASecondClickAfterTheFirstLetter) {
+TEST_F(Writing, AnswersASecondClickAfterTheFirstLetter) {
   // Slower and slower, should the machine be too busy to click within a letter.
   for (const char* step : {"0.004", "0.0005", "0.00005"}) {
     WatchedBoard board(desktop, QString::fromLatin1(step));
@@ -134,7 +134,7 @@ TEST_F(Writing, ShouldTakeUpASecondClickAfterTheFirstLetter) {
   FAIL() << "no click came within a letter";
 }
 
-TEST_F(Writing, ShouldHurryWithEveryDotAfterEscape) {
+TEST_F(Writing, HurriesWithEveryDotAfterEscape) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   desktop.Key(QStringLiteral("Escape"));
@@ -144,7 +144,7 @@ TEST_F(Writing, ShouldHurryWithEveryDotAfterEscape) {
   ExpectSheetHolds(board, Capitals(kEndless.toDouble(), {1}));
 }
 
-TEST_F(Writing, ShouldDeliverAllInputInItsOrder) {
+TEST_F(Writing, DeliversAllInputInItsOrder) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   board.Click(QStringLiteral("text"));
@@ -166,7 +166,7 @@ TEST_F(Writing, ShouldDeliverAllInputInItsOrder) {
             0);
 }
 
-TEST_F(Writing, ShouldWriteALetterTwiceForADoubleClick) {
+TEST_F(Writing, WritesALetterTwiceForADoubleClick) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   board.ClickTile(3);
@@ -179,7 +179,7 @@ TEST_F(Writing, ShouldWriteALetterTwiceForADoubleClick) {
   EXPECT_EQ(board.Lines().filter(QStringLiteral("begins 3")).size(), 2);
 }
 
-TEST_F(Writing, ShouldCloseLastAndHurryUntilThen) {
+TEST_F(Writing, ClosesLastAndHurryUntilThen) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   desktop.AskToClose(board.Window());
@@ -190,7 +190,7 @@ TEST_F(Writing, ShouldCloseLastAndHurryUntilThen) {
   EXPECT_EQ(board.Lines().filter(QStringLiteral("close")).size(), 1);
 }
 
-TEST_F(Writing, ShouldDeliverWhatCameBeforeTheClose) {
+TEST_F(Writing, DeliversWhatCameBeforeTheClose) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   board.ClickTile(2);
@@ -202,7 +202,7 @@ TEST_F(Writing, ShouldDeliverWhatCameBeforeTheClose) {
                        QStringLiteral("close fbrmengc02"), QStringLiteral("gone")});
 }
 
-TEST_F(Writing, ShouldHurryWhenAnotherWindowIsToClose) {
+TEST_F(Writing, HurriesWhenAnotherWindowIsToClose) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   desktop.AskToClose(desktop.WindowTitled(QStringLiteral("other")));
@@ -211,7 +211,7 @@ TEST_F(Writing, ShouldHurryWhenAnotherWindowIsToClose) {
   ExpectSheetHolds(board, Capitals(kEndless.toDouble(), {1}));
 }
 
-TEST_F(Writing, ShouldHoldTheInputOfOtherWindowsToo) {
+TEST_F(Writing, HoldsTheInputOfOtherWindowsToo) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   ActivateOther();
@@ -223,7 +223,7 @@ TEST_F(Writing, ShouldHoldTheInputOfOtherWindowsToo) {
                        QStringLiteral("begins 2"), QStringLiteral("written 2")});
 }
 
-TEST_F(Writing, ShouldHoldQueuedCallsInTheirPlace) {
+TEST_F(Writing, HoldsQueuedCallsInTheirPlace) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   board.Tell(QStringLiteral("call one"));
@@ -236,7 +236,7 @@ TEST_F(Writing, ShouldHoldQueuedCallsInTheirPlace) {
                        QStringLiteral("begins 2"), QStringLiteral("key Esc")});
 }
 
-TEST_F(Writing, ShouldClickTheTileThatWasMeantThoughTheSheetScrollsMeanwhile) {
+TEST_F(Writing, ClicksTheTileThatWasMeantThoughTheSheetScrollsMeanwhile) {
   WatchedBoard board(desktop, kEndless, QStringLiteral("520x420"));
   board.BeginLetter();
   const QString moved = board.Lines().filter(QStringLiteral("sheet moved")).last();
@@ -252,7 +252,7 @@ TEST_F(Writing, ShouldClickTheTileThatWasMeantThoughTheSheetScrollsMeanwhile) {
                        QStringLiteral("written 3"), QStringLiteral("key Esc")});
 }
 
-TEST_F(Writing, ShouldLetAMessageBoxWithinTheHandlerHaveItsInput) {
+TEST_F(Writing, LetsAMessageBoxWithinTheHandlerHaveItsInput) {
   WatchedBoard board(desktop, kEndless);
   board.Click(QStringLiteral("asks"));
   board.WaitFor(QStringLiteral("begins asking"));
@@ -267,7 +267,7 @@ TEST_F(Writing, ShouldLetAMessageBoxWithinTheHandlerHaveItsInput) {
                        QStringLiteral("written 1"), QStringLiteral("key Esc")});
 }
 
-TEST_F(Writing, ShouldRepaintWhatIsUncoveredAndAnswerTheWindowManager) {
+TEST_F(Writing, RepaintsWhatIsUncoveredAndAnswerTheWindowManager) {
   WatchedBoard board(desktop, kEndless);
   board.BeginLetter();
   const QRect part(0, 60, 360, 600);  // the tiles; the pen is elsewhere
@@ -281,7 +281,7 @@ TEST_F(Writing, ShouldRepaintWhatIsUncoveredAndAnswerTheWindowManager) {
   EXPECT_FALSE(board.HasTold(QStringLiteral("written 1")));
 }
 
-TEST_F(Writing, ShouldLoseNothingWhenTheWindowIsResizedDuringALetter) {
+TEST_F(Writing, LosesNothingWhenTheWindowIsResizedDuringALetter) {
   WatchedBoard board(desktop, kEndless, QStringLiteral("1280x640"));
   board.BeginLetter();
   desktop.Resize(board.Window(), {500, 400});
@@ -296,7 +296,7 @@ TEST_F(Writing, ShouldLoseNothingWhenTheWindowIsResizedDuringALetter) {
 
 class WritingAtRatio : public ::testing::TestWithParam<double> {};
 
-TEST_P(WritingAtRatio, ShouldShowTheDotsAsTheirPictureTells) {
+TEST_P(WritingAtRatio, ShowsTheDotsAsTheirPicture) {
   const double ratio = GetParam();
   const Desktop desktop({2732, 1536});
   WatchedBoard board(desktop, QStringLiteral("0.03"), {},

@@ -1,4 +1,4 @@
-// bramlee-strokes: tells what the program of a letter does.
+// bramlee-strokes: prints what the program of a letter does.
 #include <QCoreApplication>
 #include <cstdio>
 

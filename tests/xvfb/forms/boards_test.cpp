@@ -248,7 +248,7 @@ class Boards : public AtTheStart, public ::testing::WithParamInterface<BoardCase
   }
 };
 
-TEST_P(Boards, ShouldDoWhatEachItemOfTheirMenuSays) {
+TEST_P(Boards, DoWhatEachItemOfTheirMenuSays) {
   LayOutSounds();
   OpenForm home = GoHome();
   home.Click(Indexed("pic", GetParam().subject));
@@ -272,7 +272,7 @@ INSTANTIATE_TEST_SUITE_P(SweepOfEach, Boards, ::testing::ValuesIn(kBoards),
 
 class SetsAndLines : public AtTheStart {};
 
-TEST_F(SetsAndLines, ShouldShowTheTilesOfTheSetThatIsPicked) {
+TEST_F(SetsAndLines, ShowTheTilesOfTheSetThatIsPicked) {
   GoHome().Click("pic(4)");
   OpenBoard board("fbrmhinc01");
   board.Pick("mnuspd(6)");
@@ -291,7 +291,7 @@ TEST_F(SetsAndLines, ShouldShowTheTilesOfTheSetThatIsPicked) {
   }
 }
 
-TEST_F(SetsAndLines, ShouldLayALineOverTheHindiVowelsSheetAndTakeItAway) {
+TEST_F(SetsAndLines, LayALineOverTheHindiVowelsSheetAndTakeItAway) {
   GoHome().Click("pic(3)");
   OpenBoard board("fbrmhinv01");
   board.Pick("mnuspd(6)");

@@ -61,7 +61,7 @@ class Maths : public AtTheStart {
   }
 };
 
-TEST_F(Maths, ShouldWriteTheNumberThatIsTyped) {
+TEST_F(Maths, WritesTheNumberThatIsTyped) {
   board_.Type("cmb(0)", QStringLiteral("1234"));
   PressReturn();
   // The 1 begins its group: it wipes the sheet and stands where its own tile writes it.
@@ -70,20 +70,20 @@ TEST_F(Maths, ShouldWriteTheNumberThatIsTyped) {
   EXPECT_GT(board_.SeeSheet(), kSomeInk);
 }
 
-TEST_F(Maths, ShouldWriteTheNumberThatIsPicked) {
+TEST_F(Maths, WritesTheNumberThatIsPicked) {
   board_.PickFromList("cmb(0)", 3);
   board_.ExpectTile(3, {.place = 1});
   EXPECT_GT(board_.SeeSheet(), kSomeInk);
 }
 
-TEST_F(Maths, ShouldTurnRedWhatIsNoNumber) {
+TEST_F(Maths, TurnsRedWhatIsNoNumber) {
   board_.Type("cmb(0)", QStringLiteral("abc"));
   PressReturn();
   Until(QStringLiteral("the text red"), [&] { return TextColour("cmb(0)") == kRed; });
   board_.SeeSheet();
 }
 
-TEST_F(Maths, ShouldShowADrillsRowInPlaceOfTheTilesAndReckon) {
+TEST_F(Maths, ShowsADrillsRowInPlaceOfTheTilesAndComputes) {
   const QList<int> tiles = board_.Shown("pic", kTiles);
   for (const Drill& drill : kDrills) {
     board_.Pick(drill.item);
@@ -106,7 +106,7 @@ TEST_F(Maths, ShouldShowADrillsRowInPlaceOfTheTilesAndReckon) {
   EXPECT_TRUE(SheetMenusShown());
 }
 
-TEST_F(Maths, ShouldReckonByTheFirstSignWhenAnotherDrillIsPickedStraightAway) {
+TEST_F(Maths, ComputesByTheFirstSignWhenAnotherDrillIsPickedStraightAway) {
   board_.Pick("mnusub");
   board_.Pick("mnuadd");
   EXPECT_EQ(board_.Shown("pic1", kTiles), (QList<int>{11, 12}));
@@ -116,7 +116,7 @@ TEST_F(Maths, ShouldReckonByTheFirstSignWhenAnotherDrillIsPickedStraightAway) {
   UntilResult("13");
 }
 
-TEST_F(Maths, ShouldSayWhatCannotBeReckoned) {
+TEST_F(Maths, ShowsAMessageForWhatCannotBeComputed) {
   board_.Pick("mnudiv");
   board_.Type("cmb(16)", QStringLiteral("5"));
   board_.Click("picequal");
@@ -129,7 +129,7 @@ TEST_F(Maths, ShouldSayWhatCannotBeReckoned) {
   EXPECT_EQ(Ground("cmb(16)"), kRed);
 }
 
-TEST_F(Maths, ShouldShowATableOfTwentyRows) {
+TEST_F(Maths, ShowsATableOfTwentyRows) {
   board_.Pick("mnutbl");
   EXPECT_EQ(board_.Marks(), "mnutbl");
   EXPECT_EQ(board_.Shown("pic", kTiles), QList<int>{});

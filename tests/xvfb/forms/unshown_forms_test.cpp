@@ -17,7 +17,7 @@ class UnshownForms : public AtTheStart {
   }
 };
 
-TEST_F(UnshownForms, ShouldDoWhatEachItemOfThePlayersMenuSays) {
+TEST_F(UnshownForms, DoWhatEachItemOfThePlayersMenuSays) {
   Show("f1207vid");
   OpenForm form("f1207vid");
   const auto place = [&] { return Ask([&] { return Player(form).geometry(); }); };
@@ -80,7 +80,7 @@ QPoint Middle(const OpenForm& chart) {
   return picture->mapToGlobal(picture->rect().center());
 }
 
-TEST_P(Charts, ShouldLeadToTheirBoard) {
+TEST_P(Charts, LeadToTheirBoard) {
   Show(GetParam().chart);
   const OpenForm chart(GetParam().chart);
   // The Hindi charts' pictures lie off the screen: their forms' formulas put them there.
@@ -100,14 +100,14 @@ INSTANTIATE_TEST_SUITE_P(Each, Charts,
                                            ChartCase{"fbrmtelc00", "fbrmtelc01"}),
                          [](const auto& tried) { return std::string(tried.param.chart); });
 
-TEST_F(UnshownForms, ShouldOpenTheTeluguVowelsBesideTheirChartToo) {
+TEST_F(UnshownForms, OpenTheTeluguVowelsBesideTheirChartToo) {
   Show("fbrmtelv00");
   const OpenForm chart("fbrmtelv00");
   TheDesktop().Click(Ask([&] { return chart.Get()->client()->mapToGlobal(QPoint(5, 5)); }));
   OpenForm("fbrmtelv01");
 }
 
-TEST_F(UnshownForms, ShouldTakeTheNoticeAwayByItself) {
+TEST_F(UnshownForms, TakeTheNoticeAwayByThemselves) {
   Show("fcomsav1");
   const OpenForm notice("fcomsav1");
   EXPECT_EQ(notice.Text("lbl1"), "     Saved ");

@@ -100,7 +100,7 @@ QMessageBox* BoxInFront() {
                                                                                      : nullptr;
 }
 
-/// Waits until what `place` tells has been the same for a while.
+/// Waits until `place` has returned the same for a while.
 void UntilAtRest(const QString& what, const std::function<std::optional<QRect>()>& place) {
   std::optional<QRect> last;
   int looks = 0;
