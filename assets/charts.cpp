@@ -13,7 +13,7 @@ constexpr double kMargin = 20;
 
 /// The line of lettering in two rows: in one it would be too small to be read.
 void DrawLettering(QPainter& painter, const QRectF& card, const QColor& colour) {
-  const QString line = Lettering();
+  const QString line = QString::fromUtf8(kHindiLettering);
   QRectF row = card.adjusted(card.width() * 0.08, card.height() * 0.12, -card.width() * 0.08, 0);
   row.setHeight(card.height() * 0.38);
   for (const int first : {0, 3}) {

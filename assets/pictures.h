@@ -45,9 +45,6 @@ QRectF CornerPlace(const QRectF& card);
 /// The tile's letter in print in the upper right corner of that card.
 void DrawCornerSign(QPainter& painter, const Subject& subject, int tile, const QRectF& card);
 
-/// The line of lettering of the Hindi vowels.
-QString Lettering();
-
 /// An empty picture of that size and colour.
 QImage Blank(QSize size, const QColor& ground);
 

@@ -82,8 +82,4 @@ void DrawCornerSign(QPainter& painter, const Subject& subject, int tile, const Q
   DrawPrinted(painter, sign, CornerPlace(card), Qt::AlignRight, kPrintColour);
 }
 
-QString Lettering() {
-  return QString::fromUtf8(kHindiLettering.data(), qsizetype{kHindiLettering.size()});
-}
-
 }  // namespace bramlee

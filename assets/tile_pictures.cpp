@@ -3,6 +3,7 @@
 
 #include "assets/letter_path.h"
 #include "assets/pictures.h"
+#include "letters/letter_names.h"
 #include "letters/letter_sets.h"
 
 namespace bramlee {
@@ -115,8 +116,8 @@ QImage LetteringPicture() {
   QImage image = Blank({952, 180}, Qt::white);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  DrawPrinted(painter, Lettering(), QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignHCenter,
-              QColor(0x1565C0));
+  DrawPrinted(painter, QString::fromUtf8(kHindiLettering),
+              QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignHCenter, QColor(0x1565C0));
   return image;
 }
 

@@ -77,6 +77,7 @@ constexpr ChartRecord kTeluguConsonants{
 Chart::Chart(const ChartRecord& record) : Form(record.form), record_(record) {
   setWindowTitle(QString::fromLatin1(record.title));
   picture_ = AddPicture(Indexed("pic", 1));
+  picture_->setAccessibleName(QStringLiteral("Chart: %1").arg(windowTitle()));
   picture_->SetPicture(QString::fromLatin1(record.picture));
   connect(picture_, &PictureBox::clicked, this, &Chart::pic_Click);
 }

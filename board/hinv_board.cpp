@@ -1,6 +1,7 @@
 // The board of the Hindi vowels and the vowel signs.
 #include "board/board.h"
 #include "files/numbers.h"
+#include "letters/letter_names.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
@@ -18,6 +19,8 @@ constexpr int kHidesLine = 18;  ///< the tile that takes it away
 void MakeOwn(Board& board) {
   // Hidden here and not in the layout: a wipe leaves the line as it stands.
   board.Tile(kLine)->hide();
+  board.Tile(kLine)->setAccessibleName(
+      QStringLiteral("Line of lettering (%1)").arg(QString::fromUtf8(kHindiLettering)));
 }
 
 void ShowTiles(Board& board) {

@@ -16,7 +16,7 @@ std::string LetterName(std::string_view letterSet, int tile);
 
 /// The line of lettering that a tile of the Hindi vowels shows, UTF-8: syllables, a blank between
 /// two.
-inline constexpr std::string_view kHindiLettering = "का कि की कु कू के";
+inline constexpr char kHindiLettering[] = "का कि की कु कू के";
 
 /// Whether the tile writes nothing and shows the line of lettering instead.
 bool ShowsLettering(std::string_view letterSet, int tile);

@@ -4,6 +4,7 @@
 
 #include "files/numbers.h"
 #include "files/trap.h"
+#include "letters/letter_names.h"
 #include "maths/arithmetic.h"
 #include "maths/maths_menu.h"
 #include "maths/result_box.h"
@@ -70,6 +71,7 @@ Combo* AddOperand(Board& board, const QString& name, const QString& accessibleNa
 void AddSign(Board& board, int sign) {
   PictureBox* picture = board.AddPicture(Indexed("pic1", sign));
   picture->SetPicture(QStringLiteral(":/pictures/mat/sign%1.jpg").arg(sign));
+  picture->setAccessibleName(QString::fromStdString(LetterName(board.record().letterSet, sign)));
   picture->setEnabled(false);  // it only shows what the row does
   picture->hide();
 }

@@ -57,6 +57,16 @@ TEST_F(Charts, OfHindiLieWhereTheirFormulasPutThemUnclamped) {
   }
 }
 
+TEST_F(Charts, HavePicturesWithTheirTitlesForNames) {
+  const auto name = [](const char* form) {
+    return LoadForm(Q(form))->Named<QWidget>(Q("pic(1)"))->accessibleName();
+  };
+  EXPECT_EQ(name("fbrmhinv00"), Q("Chart: Hindi Vowels"));
+  EXPECT_EQ(name("fbrmhinc00"), Q("Chart: Hindi Consonants"));
+  EXPECT_EQ(name("fbrmtelv00"), Q("Chart: TELUGU-VOWELS"));
+  EXPECT_EQ(name("fbrmtelc00"), Q("Chart: TELUGU-CONSONANTS"));
+}
+
 TEST_F(Charts, OfTeluguAreAsLargeAsABoardWithThePictureInTheMiddle) {
   for (const char* name : {"fbrmtelv00", "fbrmtelc00"}) {
     Form* chart = LoadForm(Q(name));

@@ -116,6 +116,11 @@ TEST_F(HindiVowels, TileFourteenShowsTheLineAndWritesNothing) {
   EXPECT_TRUE(IsBlank(board, 200, 360));
 }
 
+TEST_F(HindiVowels, TheLineIsNamedBeforeItIsShown) {
+  const Board& board = Open("fbrmhinv01");
+  EXPECT_EQ(board.Tile(0)->accessibleName().toStdString(), "Line of lettering (का कि की कु कू के)");
+}
+
 TEST_F(HindiVowels, TheLineStaysThroughWipesAndGoesAtTileEighteenAlone) {
   Board& board = Open("fbrmhinv01");
   board.Tile(14)->click();

@@ -27,6 +27,16 @@ TEST_F(Drills, ListsAndTextsStartAsDesigned) {
   EXPECT_FALSE(Shown("pict"));
 }
 
+TEST_F(Drills, PicturesOfTheRowHaveNames) {
+  const char* const names[] = {"plus", "minus", "times", "divided by", "per cent"};
+  for (int sign = 11; sign <= 15; ++sign) {
+    EXPECT_EQ(board->Named<QWidget>(Indexed("pic1", sign))->accessibleName(),
+              QString::fromLatin1(names[sign - 11]));
+  }
+  EXPECT_EQ(Find<QWidget>("picequal")->accessibleName(), QStringLiteral("Equals"));
+  EXPECT_EQ(Find<QWidget>("pict")->accessibleName(), QStringLiteral("Make the table"));
+}
+
 TEST_F(Drills, MenuListsNumbersTablesAndTheFiveDrills) {
   QStringList captions;
   for (const QAction* item : Find<QMenu>("mnutables")->actions()) captions.append(item->text());
