@@ -29,11 +29,26 @@ void ReportNotice::Form_Load() {
     const double width = screen.ScrW * 1.8 / 3;
     const double height = screen.ScrH / 6.0;
     CentreOnScreen(width, height);
-    Place(
-        Named<Label>(QStringLiteral("lbl1")),
-        {.left = width / 10, .top = height * 3 / 8, .width = width * 8 / 10, .height = height / 4});
+    Place(Named<Label>(QStringLiteral("lbl1")),
+          {.left = 0, .top = 0, .width = width * 8 / 10, .height = height / 4});
+    PutTextInTheMiddle();
     Named<QTimer>(QStringLiteral("Timer1"))->start();
   });
+}
+
+/// Of the window without its borders and its title bar, whose width is known once it is seen.
+void ReportNotice::PutTextInTheMiddle() {
+  auto* text = Named<Label>(QStringLiteral("lbl1"));
+  const TwipsRect outer = Outer();
+  const QSize borders = frameGeometry().size() - size();
+  const TwipsRect words = PlaceOf(text);
+  MoveTo(text, (outer.width - kTwipsPerPixel * borders.width() - words.width) / 2,
+         (outer.height - kTwipsPerPixel * borders.height() - words.height) / 2);
+}
+
+void ReportNotice::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  PutTextInTheMiddle();
 }
 
 void ReportNotice::Timer1_Timer() {

@@ -13,6 +13,12 @@ class ReportNotice : public Form {
   void Form_Load() override;
   /// Unloads the notice.
   void Timer1_Timer();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void PutTextInTheMiddle();
 };
 
 }  // namespace bramlee

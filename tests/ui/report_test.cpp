@@ -196,6 +196,16 @@ TEST_F(Notice, LaysItselfOutFromTheScreen) {
   EXPECT_DOUBLE_EQ(words.top, 719.25);
 }
 
+TEST_F(Notice, KeepsItsTextInTheMiddleOfWhatTheTitleBarLeaves) {
+  Form* notice = LoadForm(kNotice);
+  notice->show();
+  notice->resize(notice->width() - 10, notice->height() - 30);
+  const QRect words = notice->Named<QWidget>(QStringLiteral("lbl1"))->geometry();
+  const QRect below = notice->client()->rect();
+  EXPECT_NEAR(words.top(), below.bottom() - words.bottom(), 1);
+  EXPECT_NEAR(words.left(), below.right() - words.right(), 1);
+}
+
 TEST_F(Notice, ShowsTheTrimmedTextAndThenTheFileHasIt) {
   Tell(QStringLiteral("  Error:Unload all "));
   EXPECT_TRUE(LoadedForm(kNotice)->isVisible());
