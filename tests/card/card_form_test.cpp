@@ -50,6 +50,15 @@ TEST_F(BiodataCard, ShowsHeadListsAndSums) {
   EXPECT_EQ(Sums(), Texts({"6", "60", "300", "240"}));
 }
 
+TEST_F(BiodataCard, ReadASecondTimeListsEachItemOnce) {
+  Put(Items(3));
+  Open();
+  StudentRec rec;
+  ASSERT_EQ(Card()->LoadCard(rec), 0);
+  EXPECT_EQ(List(3), Texts({"Item 1", "Item 2", "Item 3"}));
+  EXPECT_EQ(List(8), Texts({"80", "80", "80"}));
+}
+
 TEST_F(BiodataCard, SumsAreWiderThanTheirFields) {
   PlainRecord record;
   record.count = 3;
