@@ -49,6 +49,14 @@ void KeepAside(const QByteArray& bytes) {
 
 }  // namespace
 
+ItemTexts TextsOf(const StudentRec& rec) {
+  return {QString::number(rec.EnterDay),   QString::number(rec.EnterMonth),
+          QString::number(rec.EnterYear),  Trim(rec.ItemName.Text()),
+          NumberText(rec.PricePerItem),    QString::number(rec.TotalItems),
+          QString::number(rec.ItemAmount), QString::number(rec.PocketMoney),
+          QString::number(rec.Balance)};
+}
+
 std::int32_t CountedItems(const StudentRec& first, const RecordFile& file) {
   return std::clamp(first.RecordCount, 0, file.Records());
 }
@@ -62,34 +70,43 @@ CardContents ReadCard(const RecordFile& file) {
   return card;
 }
 
-void ProvideCard() {
-  Trap(QStringLiteral("601:23"), [](ErrInfo&) {
+void CheckItem(const RecordFile& file, std::int32_t recNo, const ItemTexts& shown) {
+  const bool counted = recNo <= CountedItems(DecodeStudent(file.Get(1)), file);
+  if (!counted || TextsOf(DecodeStudent(file.Get(recNo))) != shown) {
+    throw ItemChanged(QStringLiteral("item %1 is another one now").arg(recNo));
+  }
+}
+
+void ProvideCard(CardFailure* failure) {
+  const auto provide = [failure](ErrInfo&) {
     const FileSlot slot = TakeSlot(kCardSlot);
     if (!FileMissing(slot.SlotPath)) {
       const FileBytes file = FileBytes::Open(SystemPath(slot.SlotPath));
       if (file.Size() >= kStudentRecLen) return;
       if (file.Size() > 0) KeepAside(file.Read(0, kStudentRecLen));
     }
-    WriteDefaultCard();
-  });
+    WriteDefaultCard(failure);
+  };
+  Trap(QStringLiteral("601:23"), provide, KeptIn(failure));
 }
 
-std::int16_t WriteDefaultCard() {
-  const bool done = Trap({}, [](ErrInfo&) {
+std::int16_t WriteDefaultCard(CardFailure* failure) {
+  const auto write = [](ErrInfo&) {
     const FileSlot slot = TakeSlot(kCardSlot);
     FileSave save(slot.SlotPath);
     RecordFile(slot, save).Put(1, EncodeStudent(DefaultCard()));
     save.Commit();
-  });
-  return done ? 0 : 1;
+  };
+  return Trap({}, write, KeptIn(failure)) ? 0 : 1;
 }
 
-std::int16_t RemoveCardItem(std::int32_t recNo) {
-  const bool done = Trap({}, [recNo](ErrInfo&) {
+std::int16_t RemoveCardItem(std::int32_t recNo, const ItemTexts* shown, CardFailure* failure) {
+  const auto remove = [recNo, shown](ErrInfo&) {
     const FileSlot slot = TakeSlot(kCardSlot);
     FileSave save(slot.SlotPath);
     RecordFile file(slot, save);
-    if (file.Records() == 0) throw TrappedError(QStringLiteral("the card is gone"));
+    if (file.Records() == 0) throw CardGone(QStringLiteral("the card is gone"));
+    if (shown != nullptr) CheckItem(file, recNo, *shown);
     StudentRec first = DecodeStudent(file.Get(1));
     const std::int32_t count = CountedItems(first, file);
     first.RecordCount = RoundToLong(std::min(first.RecordCount, file.Records()) - 1.0);
@@ -99,8 +116,8 @@ std::int16_t RemoveCardItem(std::int32_t recNo) {
       if (i != recNo) file.Put(++kept, file.Get(i));
     }
     save.Commit();
-  });
-  return done ? 0 : 1;
+  };
+  return Trap({}, remove, KeptIn(failure)) ? 0 : 1;
 }
 
 }  // namespace bramlee

@@ -17,26 +17,15 @@
 namespace bramlee {
 namespace {
 
-const QString kNew = QStringLiteral("New");
 const QString kIdCard = QStringLiteral("img");
 const QString kLogo = QStringLiteral("pic");
 const QString kIdCardPath = QStringLiteral("txt(3)");
 const QString kLogoPath = QStringLiteral("txt(4)");
 
-constexpr int kFields = 9;     ///< combos
 constexpr int kItemField = 3;  ///< the one that is no number
 constexpr int kNewButton = 12;
 constexpr int kSaveButton = 13;
 constexpr int kRemoveButton = 14;
-
-/// The nine texts of an item, in the combos' order.
-std::array<QString, kFields> TextsOf(const StudentRec& rec) {
-  return {QString::number(rec.EnterDay),   QString::number(rec.EnterMonth),
-          QString::number(rec.EnterYear),  Trim(rec.ItemName.Text()),
-          NumberText(rec.PricePerItem),    QString::number(rec.TotalItems),
-          QString::number(rec.ItemAmount), QString::number(rec.PocketMoney),
-          QString::number(rec.Balance)};
-}
 
 /// Loads the card afresh. nullptr when it has gone, while a message was read for instance.
 CardForm* LoadAgain() {
@@ -52,7 +41,8 @@ CardForm* LoadAgain() {
 CardForm::CardForm() : Form(kCardForm) {
   setWindowTitle(QStringLiteral("BRAM-LEE: BioData"));
   MakeCardControls(*this);
-  for (int i = 0; i < kFields; ++i) {
+  RememberHead();
+  for (int i = 0; i < kItemFields; ++i) {
     connect(Field(i), &Combo::Picked, this, [this, i] { cmb_Click(i); });
   }
   for (const int i : {kNewButton, kSaveButton, kRemoveButton}) {
@@ -77,14 +67,17 @@ void CardForm::MakeMenus() {
 
 void CardForm::Form_Load() {
   Trap(QStringLiteral("601:23"), [this](ErrInfo&) { LayOutCard(*this); });
-  ProvideCard();
-  StudentRec rec;
-  LoadCard(rec);
+  if (!Read()) SayWhyNot(kLoad);
+}
+
+void CardForm::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  PlaceSaid(*this);
 }
 
 void CardForm::lbl_Click(int index) {
   Trap(QStringLiteral("601:23"), [this, index](ErrInfo&) {
-    if (index == kNewButton) NewCardItem();
+    if (index == kNewButton) NewClicked();
     if (index == kSaveButton) SaveClicked();
     if (index == kRemoveButton) RemoveClicked();
   });
@@ -92,6 +85,7 @@ void CardForm::lbl_Click(int index) {
 
 void CardForm::cmb_Click(int index) {
   ShowItem(Field(index)->currentIndex() + 1);
+  Say({});
 }
 
 void CardForm::mnufile_Click(int index) {
@@ -116,23 +110,25 @@ void CardForm::mnuref_Click() {
 }
 
 std::int16_t CardForm::LoadCard(StudentRec& rec) {
-  const bool done = Trap({}, [&](ErrInfo&) {
-    for (int k = 0; k < kFields; ++k) Field(k)->clear();
+  isRead_ = false;
+  const auto load = [&](ErrInfo&) {
+    for (int k = 0; k < kItemFields; ++k) Field(k)->clear();
     const FileSlot slot = TakeSlot(kCardSlot);
     const CardContents card = ReadCard(RecordFile(slot));
     SetCardRecNo(QStringLiteral("1"));
     rec = card.items.empty() ? card.head : card.items.back();
     if (card.hasHead) ShowCardHeader(card.head);
     ShowItems(card);
-  });
-  return done ? 0 : 1;
+    isRead_ = card.hasHead;
+  };
+  return Trap({}, load, KeptIn(&failure_)) ? 0 : 1;
 }
 
 void CardForm::ShowItems(const CardContents& card) {
   std::array<qint64, 4> sums{};  // wider than the fields, so that they cannot overflow
   for (const StudentRec& item : card.items) {
-    const std::array<QString, kFields> texts = TextsOf(item);
-    for (int k = 0; k < kFields; ++k) Field(k)->addItem(texts[static_cast<std::size_t>(k)]);
+    const ItemTexts texts = TextsOf(item);
+    for (int k = 0; k < kItemFields; ++k) Field(k)->addItem(texts[static_cast<std::size_t>(k)]);
     sums[0] += item.TotalItems;
     sums[1] += item.ItemAmount;
     sums[2] += item.PocketMoney;
@@ -146,7 +142,7 @@ void CardForm::ShowItems(const CardContents& card) {
 
 void CardForm::ShowItem(std::int32_t recNo) {
   SetCardRecNo(QString::number(recNo));
-  for (int k = 0; k < kFields; ++k) {
+  for (int k = 0; k < kItemFields; ++k) {
     Combo* field = Field(k);
     field->setCurrentIndex(recNo - 1);
     field->setEditText(field->itemText(recNo - 1));  // also over what was typed
@@ -159,6 +155,13 @@ void CardForm::ShowCardHeader(const StudentRec& rec) {
   SetText(Indexed("txt", 2), Trim(rec.TeacherName.Text()));
   ShowPath(Trim(rec.IdCardPath.Text()), kIdCardPath, kIdCard);
   ShowPath(Trim(rec.LogoPath.Text()), kLogoPath, kLogo);
+  RememberHead();
+}
+
+void CardForm::RememberHead() {
+  for (std::size_t i = 0; i < head_.size(); ++i) {
+    head_[i] = TextOf(Indexed("txt", static_cast<int>(i)));
+  }
 }
 
 void CardForm::ShowPath(const QString& path, const QString& textBox, const QString& picture) {
@@ -174,15 +177,13 @@ void CardForm::ShowPicture(const QString& path, const QString& picture) {
 
 void CardForm::NewCardItem() {
   const QDate today = Today();
-  for (int k = 0; k < kFields; ++k) {
-    Field(k)->setCurrentIndex(-1);
-    Field(k)->setEditText(QStringLiteral("?..."));
-  }
-  Field(0)->setEditText(QString::number(today.day()));
-  Field(1)->setEditText(QString::number(today.month()));
-  Field(2)->setEditText(QString::number(today.year()));
-  Field(kItemField)->setEditText(QStringLiteral("Item Name..."));
-  SetCardRecNo(kNew);
+  ItemTexts texts;
+  texts.fill(QStringLiteral("?..."));
+  texts[0] = QString::number(today.day());
+  texts[1] = QString::number(today.month());
+  texts[2] = QString::number(today.year());
+  texts[kItemField] = QStringLiteral("Item Name...");
+  ShowNewItem(texts);
 }
 
 QString CardForm::CardRecNo() const {
@@ -205,7 +206,7 @@ void CardForm::Failed(const Target& target) {
 }
 
 bool CardForm::ItemIsNumeric() {
-  for (int k = 0; k < kFields; ++k) {
+  for (int k = 0; k < kItemFields; ++k) {
     SetBackColor(Field(k), kCardWhite);
     if (k == kItemField || IsNumeric(Field(k)->currentText())) continue;
     SetBackColor(Field(k), kCardRed);
@@ -216,21 +217,35 @@ bool CardForm::ItemIsNumeric() {
   return true;
 }
 
+void CardForm::NewClicked() {
+  NewCardItem();
+  Say({});
+}
+
 void CardForm::SaveClicked() {
-  if (!ItemIsNumeric() || !LossesAreAgreedTo()) return;
+  if (ReadsOnlyNow(kSave)) return;
+  if (!ItemIsNumeric() || !isRead_ || !LossesAreAgreedTo()) return;
   Target target = TakeTarget();
-  if (SaveCard(target.recNo, target.isNew) != 0) return Failed(target);
+  if (SaveCard(target.recNo, target.isNew) != 0) {
+    Failed(target);
+    return Refused(kSave);
+  }
   MsgBox(QStringLiteral("Saved Successfully"));
   if (CardForm* card = LoadAgain()) card->ShowItem(target.recNo);
 }
 
 void CardForm::RemoveClicked() {
+  if (ReadsOnlyNow(kRemove)) return;
   const Target target = TakeTarget();
   if (target.recNo == 1) {
     Failed(target);
     return MsgBox(QStringLiteral("First Record Cannot be Removed"));
   }
-  if (RemoveCardItem(target.recNo) != 0) return Failed(target);
+  const ItemTexts listed = ListedTexts(target.recNo);
+  if (RemoveCardItem(target.recNo, target.isNew ? nullptr : &listed, &failure_) != 0) {
+    Failed(target);
+    return Refused(kRemove);
+  }
   MsgBox(QStringLiteral("Removed Successfully"));
   LoadAgain();
 }

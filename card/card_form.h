@@ -2,15 +2,16 @@
 // bought items. Nine combos show one item; position k in every list is record k + 1.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
 
+#include "card/card_file.h"
 #include "files/numbers.h"
 #include "files/student_rec.h"
 #include "ui/form.h"
 
 namespace bramlee {
-
-struct CardContents;
 
 /// What follows a path that names no file.
 inline const QString kCardNotFound = QStringLiteral(" Not Found:");
@@ -25,14 +26,16 @@ class CardForm : public Form {
   CardForm();
 
   /// Lays the card out, sees to it that there is a file and fills the form from it. Tag "601:23"; a
-  /// layout that fails leaves the controls where they are.
+  /// layout that fails leaves the controls where they are. A card that cannot be read says why on
+  /// the line below the buttons.
   void Form_Load() override;
 
   // --- handlers
   /// 12 is NEW, 13 SAVE, 14 REMOVE; other labels do nothing. A save or a removal that fails says
-  /// nothing, and what was typed stays. Tag "601:23".
+  /// why on the line below the buttons, and what was typed stays. A card that was not read is read
+  /// again first and stores nothing yet. Tag "601:23".
   void lbl_Click(int index);
-  /// A pick in that combo: all nine show the entry that it is at.
+  /// A pick in that combo: all nine show the entry that it is at. The line is emptied.
   void cmb_Click(int index);
   /// 1 goes back to the form below, 2 ends the program in order.
   void mnufile_Click(int index);
@@ -64,14 +67,54 @@ class CardForm : public Form {
   /// The number of the record on show, or "New".
   QString CardRecNo() const;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  /// CardRecNo of an item that is not in the file yet.
+  inline static const QString kNew = QStringLiteral("New");
+
   /// What a click on SAVE or REMOVE is about.
   struct Target {
     std::int32_t recNo;
     bool isNew;
   };
 
+  /// What stands in the form and not in the file: what nobody typed is left out.
+  struct Typed {
+    std::array<std::optional<QString>, 5> head;
+    std::optional<ItemTexts> item;
+  };
+
+  /// What a click asks for.
+  struct Action {
+    const char* button;   ///< as it reads
+    const char* notDone;  ///< how a failure begins
+  };
+  static constexpr Action kLoad{"", "Not read"};
+  static constexpr Action kSave{"SAVE", "Not saved"};
+  static constexpr Action kRemove{"REMOVE", "Not removed"};
+
   void MakeMenus();
+  /// Sees to it that there is a card and shows it. False when it cannot be read.
+  bool Read();
+  /// Reads the card once more. What was typed stays, an item as a new one.
+  bool ReadAgain();
+  /// Reads a card that could not be read before. True when it can be now: then the click is over,
+  /// for it was not meant for what is shown now. When it still cannot it says so.
+  bool ReadsOnlyNow(const Action& action);
+  void SayWhyNot(const Action& action);
+  /// SayWhyNot for a save or a removal; reads the card again that another program has changed.
+  void Refused(const Action& action);
+  /// Puts the text on the line below the buttons, where a screen reader reads it out.
+  void Say(const QString& text) const;
+
+  Typed WhatWasTyped() const;
+  void PutBack(const Typed& typed);
+  ItemTexts ShownTexts() const;
+  ItemTexts ListedTexts(std::int32_t recNo) const;
+  void ShowNewItem(const ItemTexts& texts);
+  void RememberHead();
   void ShowItems(const CardContents& card);
   void ShowPath(const QString& path, const QString& textBox, const QString& picture);
   void ShowPicture(const QString& path, const QString& picture);
@@ -83,12 +126,17 @@ class CardForm : public Form {
   /// Asks before anything is stored that the file cannot hold as it was typed.
   bool LossesAreAgreedTo() const;
   void TakePath(const QString& textBox, FixedText<50>& field) const;
+  void NewClicked();
   void SaveClicked();
   void RemoveClicked();
 
   Combo* Field(int index) const { return Named<Combo>(Indexed("cmb", index)); }
   double Number(int index) const { return Val(Field(index)->currentText()); }
   QString Words(int index) const { return Trim(TextOf(Indexed("txt", index))); }
+
+  bool isRead_ = false;          ///< what the form shows came from the file
+  CardFailure failure_;          ///< of the last reading, save or removal
+  std::array<QString, 5> head_;  ///< the head's texts as they were shown
 };
 
 }  // namespace bramlee

@@ -109,9 +109,9 @@ struct CardButton {
 
 constexpr int kFirstButton = 12;
 constexpr CardButton kButtons[] = {
-    {"NEW",    "New Date",    0xFF1565C0, {14, 23.7, 22, 2.2}},
-    {"SAVE",   "Save Date",   0xFF2E7D32, {39, 23.7, 22, 2.2}},
-    {"REMOVE", "Remove Date", 0xFFB3261E, {64, 23.7, 22, 2.2}},
+    {"NEW",    "New Date",    0xFF1565C0, {14, 23.7, 22, 1.7}},
+    {"SAVE",   "Save Date",   0xFF2E7D32, {39, 23.7, 22, 1.7}},
+    {"REMOVE", "Remove Date", 0xFFB3261E, {64, 23.7, 22, 1.7}},
 };
 
 struct CardPicture {
@@ -139,7 +139,8 @@ constexpr CardPanel kPanels[] = {
 
 /// What the title and the borders of the window take from the form's height.
 constexpr double kTitleHeight = 36 * kTwipsPerPixel;
-constexpr double kLargestLetters = 20;  ///< pixels
+constexpr double kLargestLetters = 20;          ///< pixels
+constexpr ColourWord kSaidColour = 0x0014148C;  ///< dark red
 
 QString Words(const char* text) {
   return QString::fromLatin1(text);
@@ -205,6 +206,13 @@ void MakeButtons(Form& card) {
   }
 }
 
+/// Says what failed; empty otherwise.
+void MakeSaid(Form& card) {
+  Label* line = card.AddLabel(QStringLiteral("lblsaid"), {});
+  line->setAlignment(Qt::AlignCenter);
+  SetForeColor(line, kSaidColour);
+}
+
 void MakePictures(Form& card) {
   for (const CardPicture& picture : kPictures) {
     PictureBox* box = card.AddPicture(Words(picture.name));
@@ -252,6 +260,7 @@ void MakeCardControls(Form& card) {
   MakeLabels(card);
   MakePictures(card);
   MakeButtons(card);
+  MakeSaid(card);
 }
 
 void LayOutCard(Form& card) {
@@ -282,6 +291,19 @@ void LayOutCard(Form& card) {
   for (const CardPicture& picture : kPictures) {
     grid.Put(card.Named<QWidget>(Words(picture.name)), picture.place);
   }
+}
+
+void PlaceSaid(const Form& card) {
+  auto* line = card.Named<Label>(QStringLiteral("lblsaid"));
+  const QWidget* first = card.Named<QWidget>(Indexed("lbl", kFirstButton));
+  const QWidget* panel = card.Named<QWidget>(Words(kPanels[1].name));
+  // How much a window has below the buttons depends on the borders that it was given.
+  const int top = first->geometry().bottom() + 1;
+  const int letters = first->fontMetrics().height();
+  const int height = std::min(2 * letters, card.client()->height() - top);
+  line->setGeometry(panel->x(), top, panel->width(), height);
+  if (line->text().isEmpty()) return;
+  FitFont(line, first->font(), {line->width(), std::min(letters, height)});
 }
 
 }  // namespace bramlee

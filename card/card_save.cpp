@@ -52,8 +52,10 @@ StudentRec CountIn(const FileSlot& slot, FileSave& save, std::int32_t& recNo, bo
     recNo = CountedItems(rec, file) + 1;
     rec.RecordCount = recNo;
     file.Put(1, EncodeStudent(rec));
+  } else if (file.Records() == 0) {
+    throw CardGone(QStringLiteral("the card is gone"));
   } else if (recNo > file.Records()) {
-    throw TrappedError(QStringLiteral("the item is gone"));
+    throw ItemChanged(QStringLiteral("the item is gone"));
   }
   return rec;
 }
@@ -80,12 +82,14 @@ bool CardForm::LossesAreAgreedTo() const {
 }
 
 std::int16_t CardForm::SaveCard(std::int32_t& recNo, bool isNew) {
-  const bool done = Trap(QStringLiteral("601:23"), [&](ErrInfo&) {
+  std::int16_t status = 1;
+  const auto store = [&](ErrInfo&) {
     const FileSlot slot = TakeSlot(kCardSlot);
     FileSave save(slot.SlotPath);
     StudentRec rec = CountIn(slot, save, recNo, isNew);
-    if (SaveCardHeader(recNo, isNew, rec) != 0) throw TrappedError(QStringLiteral("the head"));
     RecordFile file(slot, save);
+    if (!isNew && recNo <= Field(0)->count()) CheckItem(file, recNo, ListedTexts(recNo));
+    if (SaveCardHeader(recNo, isNew, rec) != 0) return;
     file.Put(1, EncodeStudent(rec));
     if (recNo != 1) {
       if (!isNew) rec = DecodeStudent(file.Get(recNo));  // with the head that it has there
@@ -93,12 +97,14 @@ std::int16_t CardForm::SaveCard(std::int32_t& recNo, bool isNew) {
       file.Put(recNo, EncodeStudent(rec));
     }
     save.Commit();
-  });
-  return done ? 0 : 1;
+    status = 0;
+  };
+  Trap(QStringLiteral("601:23"), store, KeptIn(&failure_));
+  return status;
 }
 
 std::int16_t CardForm::SaveCardHeader(std::int32_t recNo, bool /*isNew*/, StudentRec& rec) {
-  const bool done = Trap(QStringLiteral("601:23"), [&](ErrInfo&) {
+  const auto take = [&](ErrInfo&) {
     rec.StudentName.Set(Words(0));
     rec.ClassName.Set(Words(1));
     rec.TeacherName.Set(Words(2));
@@ -108,8 +114,8 @@ std::int16_t CardForm::SaveCardHeader(std::int32_t recNo, bool /*isNew*/, Studen
     TakePath(Indexed("txt", 4), rec.LogoPath);
     // Also a new item's, when no record was in use: it is stored in this one.
     if (recNo == 1) ReadItemFields(rec);
-  });
-  return done ? 0 : 1;
+  };
+  return Trap(QStringLiteral("601:23"), take, KeptIn(&failure_)) ? 0 : 1;
 }
 
 void CardForm::TakePath(const QString& textBox, FixedText<50>& field) const {

@@ -5,6 +5,7 @@
 #include <QString>
 #include <exception>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace bramlee {
@@ -25,9 +26,9 @@ class TrappedError : public std::runtime_error {
 /// unless its debug messages are asked for (QT_LOGGING_RULES). Never fails.
 void LogTrapped(const QString& tag, const std::exception& error) noexcept;
 
-/// Runs `body(err)`; when it throws, `onError(err)` instead. Returns whether the body came to its
-/// end. What the handler itself throws is swallowed, as a second trap would only loop. Both are
-/// logged under the trap's tag.
+/// Runs `body(err)`; when it throws, `onError(err)` instead, or `onError(err, error)` if it takes
+/// what was thrown too. Returns whether the body came to its end. What the handler itself throws is
+/// swallowed, as a second trap would only loop. Both are logged under the trap's tag.
 template <class Body, class OnError>
 bool Trap(const QString& tag, Body body, OnError onError) {
   ErrInfo err{.ErrTag = tag, .ErrText = {}};
@@ -37,7 +38,11 @@ bool Trap(const QString& tag, Body body, OnError onError) {
   } catch (const std::exception& error) {
     LogTrapped(tag, error);
     try {
-      onError(err);
+      if constexpr (std::is_invocable_v<OnError, ErrInfo&, const std::exception&>) {
+        onError(err, error);
+      } else {
+        onError(err);
+      }
     } catch (const std::exception& second) {  // nothing above could do better
       LogTrapped(tag, second);
     }

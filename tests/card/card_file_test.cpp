@@ -93,15 +93,16 @@ TEST_F(CardFile, ThatIsDamagedIsNeverLostOnTheWay) {
     Put("damaged");
   };
   clean();
-  const int calls = static_cast<int>(WithDisk({}, ProvideCard).size());
+  const auto provide = [] { ProvideCard(); };
+  const int calls = static_cast<int>(WithDisk({}, provide).size());
   for (int n = 1; n <= calls; ++n) {
     for (const bool kill : {true, false}) {
       clean();
       const DiskPlan plan{.at = n, .error = kill ? 0 : 28, .kill = kill};
       if (kill) {
-        ASSERT_TRUE(DiesWithDisk(plan, ProvideCard));
+        ASSERT_TRUE(DiesWithDisk(plan, provide));
       } else {
-        WithDisk(plan, ProvideCard);
+        WithDisk(plan, provide);
       }
       const QString copy = On("c/bramlee/dba/brmstu1.bad");
       const bool isKept = QFile::exists(copy) && BytesOf(copy) == "damaged";

@@ -130,20 +130,30 @@ TEST_F(BiodataCard, ItsMenuIsWorkedFromTheKeyboard) {
   EXPECT_EQ(Card(), nullptr);
 }
 
+TEST_F(BiodataCard, StandsInTheMiddleOfTheScreen) {
+  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  Open();
+  const TwipsRect outer = Card()->Outer();
+  EXPECT_NEAR(2 * outer.left + outer.width, 15360, 2 * kTwipsPerPixel);
+  EXPECT_NEAR(2 * outer.top + outer.height, 11520, 2 * kTwipsPerPixel);
+  SetScreen({});
+}
+
 TEST_F(BiodataCard, FitsIntoItself) {
   for (const QSize& screen : {QSize(1024, 768), QSize(1366, 768), QSize(1920, 1080)}) {
     SetScreen(ScreenSize{.width = 15.0 * screen.width(), .height = 15.0 * screen.height()});
     Open();
     EXPECT_NEAR(Card()->Outer().width, 0.7 * 0.999 * 15 * screen.width(), 10);
     EXPECT_NEAR(Card()->Outer().height, 0.8 * 0.999 * 15 * screen.height(), 10);
-    const QRect room = Card()->client()->rect().adjusted(0, 0, 0, -36);  // of the title bar
+    Card()->resize(Card()->size() - QSize(0, 36));  // what a title bar takes
+    const QRect room = Card()->client()->rect();
     QList<QWidget*> controls;
     for (auto* control :
          Card()->client()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
       EXPECT_TRUE(room.contains(control->geometry())) << control->objectName().toStdString();
       if (!control->objectName().startsWith(QStringLiteral("pan"))) controls.append(control);
     }
-    EXPECT_EQ(controls.size(), 9 + 9 + 15 + 2 + 1);
+    EXPECT_EQ(controls.size(), 9 + 9 + 15 + 2 + 2);
     for (qsizetype i = 0; i < controls.size(); ++i) {
       for (qsizetype j = 0; j < i; ++j) {
         EXPECT_FALSE(controls[i]->geometry().intersects(controls[j]->geometry()))

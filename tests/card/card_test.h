@@ -103,6 +103,8 @@ class CardTest : public TempDrives {
   static Combo* Field(int k) { return Card()->Named<Combo>(Indexed("cmb", k)); }
   static TextBox* Box(int i) { return Card()->Named<TextBox>(Indexed("txt", i)); }
   static Label* Sign(int i) { return Card()->Named<Label>(Indexed("lbl", i)); }
+  /// What the line below the buttons says.
+  static QString Said() { return Card()->Named<Label>(QStringLiteral("lblsaid"))->text(); }
   static void Click(int sign) { Card()->lbl_Click(sign); }
   static void New() { Click(12); }
   static void Save() { Click(13); }

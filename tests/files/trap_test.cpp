@@ -29,6 +29,16 @@ TEST(TrapOf, HandsWhatTheRoutineSetToItsHandler) {
   EXPECT_EQ(seen.ErrText, QStringLiteral("Error:Unload all"));
 }
 
+TEST(TrapOf, HandsWhatWasThrownToAHandlerThatTakesIt) {
+  std::string seen;
+  Trap(
+      QStringLiteral("601:23"), [](ErrInfo&) { throw TrappedError(QStringLiteral("x")); },
+      [&](ErrInfo& err, const std::exception& error) {
+        seen = err.ErrTag.toStdString() + " " + error.what();
+      });
+  EXPECT_EQ(seen, "601:23 x");
+}
+
 TEST(TrapOf, DoesNotAskItsHandlerWithoutAnError) {
   bool asked = false;
   EXPECT_TRUE(Trap(
