@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 
+#include "letters/letter_names.h"
 #include "letters/letter_sets.h"
 
 namespace bramlee {
@@ -89,6 +90,58 @@ TEST(TilePictures, LeaveTheTileOfTheLetteringWithoutOne) {
   const QImage lettering(QStringLiteral(":/pictures/hinv/0.jpg"));
   EXPECT_EQ(lettering.size(), QSize(952, 180));  // four times 238 by 45
   EXPECT_TRUE(HasInk(lettering));
+}
+
+/// How many pixels of two pictures of one size differ clearly: by more than saving may change.
+int Differing(const QImage& one, const QImage& other) {
+  EXPECT_EQ(one.size(), other.size());
+  int differing = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      if (std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 60) ++differing;
+    }
+  }
+  return differing;
+}
+
+QImage Named(const QString& name) {
+  return QImage(QStringLiteral(":/pictures/%1.jpg").arg(name));
+}
+
+TEST_P(TilePictures, HoldTheLetterOfTheirNumber) {
+  const LetterSet& set = GetParam();
+  for (const Subject& subject : Subjects()) {
+    if (subject.letterSet != set.name) continue;
+    for (int tile = 1; tile <= set.tiles; ++tile) {
+      if (ShowsLettering(set.name, tile)) continue;
+      EXPECT_EQ(Differing(QImage(Path(set, tile)), TilePicture(subject, tile)), 0)
+          << set.name << ' ' << tile;
+    }
+  }
+}
+
+TEST(Pictures, OfSubjectsSetsSignsAndChartsHoldWhatTheirNamesSay) {
+  int number = 0;
+  for (const Subject& subject : Subjects()) {
+    ++number;
+    const QImage home = Named(QStringLiteral("home/%1").arg(number));
+    EXPECT_EQ(Differing(home, SubjectPicture(subject)), 0) << number;
+    const QImage chart = Named(QStringLiteral("charts/%1")
+                                   .arg(QString::fromLatin1(subject.letterSet.data(),
+                                                            qsizetype(subject.letterSet.size()))));
+    if (chart.isNull()) continue;  // the English letters and the numbers have none
+    EXPECT_EQ(Differing(chart, ChartPicture(subject)), 0) << number;
+  }
+  for (int set = 1; set <= 3; ++set) {
+    const QImage button = Named(QStringLiteral("hinc/set%1").arg(set));
+    EXPECT_EQ(Differing(button, SetButtonPicture(set)), 0) << set;
+  }
+  for (int sign = 11; sign <= 15; ++sign) {
+    const QImage picture = Named(QStringLiteral("mat/sign%1").arg(sign));
+    EXPECT_EQ(Differing(picture, SignPicture(sign)), 0) << sign;
+  }
+  EXPECT_EQ(Differing(Named(QStringLiteral("mat/equal")), SignPicture(16)), 0);
+  EXPECT_EQ(Differing(Named(QStringLiteral("mat/table")), TableButtonPicture()), 0);
 }
 
 TEST(Lettering, HasSixSyllablesOnTheSheet) {
