@@ -1,6 +1,7 @@
 // The menu bar of the boards and the choices made in it.
 #include <QApplication>
 #include <QMenuBar>
+#include <QTest>
 
 #include "board/board.h"
 #include "tests/board/board_fixture.h"
@@ -149,6 +150,20 @@ TEST_F(BoardMenus, TitlesAndGroundsAreTheBoardsOwn) {
     EXPECT_EQ(BackColorOf(title), 0xFF0000U);
     EXPECT_EQ(ForeColorOf(title), 0xFFFFFFU);
     EXPECT_EQ(ColourAt(board, 4, 420), ColourOf(expected.ground));
+  }
+}
+
+TEST_F(BoardMenus, TheTitleThatBlinksNeverHasTheFocus) {
+  Board& board = Open("fbrmengc02");
+  ShowForm(Q("fbrmengc02"));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&board));
+  auto* title = board.Named<QWidget>(Q("txthdr1"));
+  QTest::mouseClick(title, Qt::LeftButton);
+  EXPECT_FALSE(title->hasFocus());
+  board.Tile(1)->setFocus();
+  for (int tiles = 0; tiles <= board.letters().tiles; ++tiles) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_FALSE(title->hasFocus());
   }
 }
 

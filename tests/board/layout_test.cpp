@@ -2,6 +2,7 @@
 #include "board/board.h"
 #include "tests/board/board_fixture.h"
 #include "ui/forms.h"
+#include "ui/screen.h"
 
 namespace bramlee {
 namespace {
@@ -28,6 +29,17 @@ int TitleLeft(const Board& board) {
 bool EverShown(const Board& board, int tile) {
   if (tile < 1) return false;
   return tile <= board.letters().tiles;
+}
+
+TEST_F(Layout, EveryBoardIsAsLargeAsTheScreenBeforeItIsMaximised) {
+  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  for (const char* form : kAllBoards) {
+    Board& board = Open(form);
+    EXPECT_EQ(PixelsOf(board.Outer()), QRect(0, 0, 1024, 768)) << form;
+    ShowForm(Q(form));
+    EXPECT_TRUE(board.isMaximized()) << form;
+  }
+  SetScreen({});
 }
 
 TEST_F(Layout, CapitalsStandInTheShapeOfAnA) {

@@ -145,6 +145,17 @@ void Desktop::Xdotool(const QStringList& arguments) const {
   Run(QStringLiteral("xdotool"), arguments);
 }
 
+void Desktop::SetFreePart(const QRect& part) const {
+  const QString place = QStringLiteral("%1, %2, %3, %4")
+                            .arg(part.x())
+                            .arg(part.y())
+                            .arg(part.width())
+                            .arg(part.height());
+  Run(QStringLiteral("xprop"),
+      {QStringLiteral("-root"), QStringLiteral("-f"), QStringLiteral("_NET_WORKAREA"),
+       QStringLiteral("32c"), QStringLiteral("-set"), QStringLiteral("_NET_WORKAREA"), place});
+}
+
 void Desktop::Click(QPoint point) const {
   Xdotool({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y()),
            QStringLiteral("click"), QStringLiteral("1")});

@@ -27,6 +27,8 @@ class Desktop {
 
   /// Runs xdotool with these arguments and waits for it.
   void Xdotool(const QStringList& arguments) const;
+  /// Tells programs to come that this part of the screen is free, as a panel's place is not.
+  void SetFreePart(const QRect& part) const;
   /// Clicks with the left button, and leaves the pointer there.
   void Click(QPoint point) const;
   void Key(const QString& key) const;
