@@ -37,7 +37,7 @@ void ClipPlayer::MakePlayer() {
   connect(player_, &QMediaPlayer::errorOccurred, this, &ClipPlayer::LetGoOfPlayer);
 }
 
-/// One bad file tells of its error up to four times: the first is the end of its player.
+/// One bad file reports its error up to four times: the first report ends its player.
 void ClipPlayer::LetGoOfPlayer() {
   player_->disconnect(this);
   std::exchange(player_, nullptr)->deleteLater();
@@ -65,7 +65,8 @@ void ClipPlayer::SetRate(double rate) {
   if (player_ != nullptr) TakeRate(player_->mediaStatus());
 }
 
-/// A rate given earlier, or one that the player holds already, is not taken.
+/// Sets the rate once the file is loaded, and 1 before it: the player ignores a rate that is set
+/// earlier or that it has already.
 void ClipPlayer::TakeRate(QMediaPlayer::MediaStatus status) {
   if (status != QMediaPlayer::LoadedMedia && status != QMediaPlayer::BufferedMedia) return;
   player_->setPlaybackRate(1);

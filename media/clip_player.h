@@ -10,15 +10,15 @@ class QVideoWidget;
 
 namespace bramlee {
 
-/// The place in which a clip shows, black while none does. Its player is made by the first Play
-/// and made anew after every failure, since one that failed stays silent for the next good file.
+/// The place in which a clip shows, black while none does. The first Play makes its player, and so
+/// does the first one after a failure, since a player that failed stays silent for good files.
 class ClipPlayer : public QWidget {
   Q_OBJECT
  public:
   explicit ClipPlayer(QWidget* parent = nullptr);
   ~ClipPlayer() override;
 
-  /// Plays the clip of that system path from its start; one that cannot be played stays dark.
+  /// Plays the clip of that system path from its start; shows nothing when it cannot be played.
   void Play(const QString& file);
   /// Without a clip, nothing.
   void Stop();

@@ -1,9 +1,9 @@
-// What the program tells this folder at its start.
+// What the program calls in this folder at its start.
 #pragma once
 
 namespace bramlee {
 
-/// Makes PlayerForm known. Loads no media code.
+/// Registers PlayerForm. Loads no media code.
 void RegisterMedia();
 
 /// Has the sound library take stock of its plug-ins, which takes a second once a user, in a process
@@ -13,8 +13,8 @@ void RegisterMedia();
 void ScanSoundLibrary();
 
 /// Gets the sound ready on its own thread, so that the first cue is as quick as any later one.
-/// Returns at once and loads no form; a second call does nothing. What it loads weighs more than
-/// the rest of the program: to be called when sounds are to be expected, not at the start.
+/// Returns at once and loads no form; a second call does nothing. What it loads takes more memory
+/// than the rest of the program: call it when sounds are expected, not at the start.
 void WarmUpPlayer();
 
 }  // namespace bramlee

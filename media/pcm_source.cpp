@@ -12,7 +12,7 @@ constexpr std::size_t kChannels = 2;
 constexpr int kFrameBytes = kChannels * sizeof(std::int16_t);
 /// Longer than any device's buffer, which is 250 ms by default.
 constexpr int kTailFrames = kFramesPerSecond * 4 / 10;
-/// Frames used up are let go in lumps of a second.
+/// Drops used frames a second at a time.
 constexpr double kDropFrames = kFramesPerSecond;
 
 }  // namespace

@@ -12,10 +12,10 @@ namespace bramlee {
 /// The form in which all sound passes through here: 48000 frames a second, two channels, 16 bits.
 QAudioFormat PcmFormat();
 
-/// What a decoder appends to and a sound device pulls from, on one and the same thread. Never
-/// runs dry before Finish: where the decoder lags behind, it gives silence, since a device that
-/// got nothing would stop for good. After the last frame it gives a short silence, which pushes
-/// the sound's end through the device's own buffer, and then calls `drained` once.
+/// A decoder appends to it and a sound device reads from it, on one and the same thread. Never runs
+/// dry before Finish: where the decoder lags behind it returns silence, since a device that gets
+/// nothing stops for good. After the last frame it returns a short silence, which pushes the
+/// sound's end through the device's own buffer, and then calls `drained` once.
 class PcmSource : public QIODevice {
  public:
   explicit PcmSource(std::function<void()> drained);
@@ -25,10 +25,10 @@ class PcmSource : public QIODevice {
   /// Nothing more will be appended.
   void Finish() { finished_ = true; }
 
-  /// How fast the frames are used up, 1 as recorded; the pitch goes with it. Heard as soon as the
-  /// device has played what it took before. What is not greater than 0 is passed over.
+  /// How fast the frames are used up, 1 as recorded; the pitch follows. Heard as soon as the device
+  /// has played what it took before. Ignores a rate that is not greater than 0.
   void SetRate(double rate);
-  /// Silence in the sound's place, which goes on unheard.
+  /// Whether silence takes the sound's place; the sound goes on unheard.
   void SetMute(bool mute) { mute_ = mute; }
 
   /// Milliseconds (of the recording) that were appended and not yet used up.

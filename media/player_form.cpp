@@ -38,8 +38,8 @@ constexpr int kMissingSpeed = 4;
 /// Characters of the remaining minutes that txtete shows.
 constexpr int kShownCharacters = 5;
 
-/// The form's number that asks Back to show the form which that number stood for. No form has
-/// taken it, so there is none to show.
+/// With this number in txtformno, Back also shows the form of that number. The program has no such
+/// form, so it shows none.
 constexpr double kCallerNo = 1205;
 
 QString Name(const char* latin) {
@@ -221,7 +221,7 @@ void PlayerForm::Timerete_Timer() {
   }
 }
 
-/// Reads the minutes. Returns false when there are none, and this form may then be gone.
+/// Reads the minutes. Returns false when there are none; this form may be unloaded then.
 bool PlayerForm::BeginCountdown() {
   total_ = Val(TextOf(Name("txtete"))) * 60;
   if (total_ == 0) {

@@ -12,7 +12,7 @@ class PlayerForm : public Form {
  public:
   PlayerForm();
 
-  /// Lays the form out and keeps the player's size for "&Default". Tag "1207:02"; leaves quietly.
+  /// Lays the form out and keeps the player's size for "&Default". Ignores errors. Tag "1207:02".
   void Form_Load() override;
   /// Ends what is playing.
   void Form_Unload() override;
@@ -31,18 +31,18 @@ class PlayerForm : public Form {
   void mnuspd_Click(int index);
   /// 1 lets the countdown run, 2 holds it; what has elapsed is kept.
   void mnucdown_Click(int index);
-  /// Plays the list's current entry and hides the list. Tag "1207:01"; leaves quietly.
+  /// Plays the list's current entry and hides the list. Ignores errors. Tag "1207:01".
   void cmbavi_Click();
-  /// Unloads the form when txtcnt reads 1. Tag "1207:03"; an error is reported.
+  /// Unloads the form when txtcnt reads 1. Reports an error. Tag "1207:03".
   void Timer1_Timer();
   /// One step of the countdown, as long as the timer's interval. The first takes the minutes from
-  /// txtete, where those that remain are shown; the last unloads the form. No minutes are told of
-  /// in a message box, and the form goes.
+  /// txtete, where those that remain are shown; the last unloads the form. Without minutes it shows
+  /// a message and unloads the form.
   void Timerete_Timer();
 
   // --- what no menu item reaches
   void FlipMute();
-  /// A picture fills its place or no longer does.
+  /// Switches whether a picture fills its place, distorted if need be.
   void FlipStretchToFit();
 
  private:

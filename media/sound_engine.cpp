@@ -35,7 +35,7 @@ SoundEngine::SoundEngine() : worker_(new SoundWorker) {
   thread_.start();
 }
 
-/// A thread that hangs in the sound server's hands is left to the end of the process.
+/// A thread that hangs in a call to the sound server is left to the end of the process.
 void SoundEngine::End() {
   SoundEngine* engine = std::exchange(TheEngine(), nullptr);
   engine->Stop();
@@ -48,7 +48,7 @@ int SoundEngine::Play(const QString& file) {
   QMetaObject::invokeMethod(
       worker_,
       [this, number, file] {
-        // Only the last of several asked for meanwhile is still wanted.
+        // Of several that were asked for meanwhile only the last one plays.
         if (number == latest_) {
           worker_->Play(number, {file});
         } else {

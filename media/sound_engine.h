@@ -20,16 +20,16 @@ enum class SoundEnd : std::uint8_t {
 };
 
 /// Plays one sound file at a time, on a thread of its own: a letter's strokes hold the window's
-/// thread for as long as they last. All calls return at once and none ever fails; what cannot be
-/// played is silent. No media code is loaded before the first call of Play or WarmUp.
+/// thread for as long as they last. All calls return at once and none fails; a file that cannot be
+/// played stays silent. No media code is loaded before the first call of Play or WarmUp.
 class SoundEngine : public QObject {
   Q_OBJECT
  public:
   /// The program's one engine. It ends with the application object.
   static SoundEngine& Instance();
 
-  /// Plays the file of that system path from its start; what was playing is cut off. Returns the
-  /// number under which Ended will tell of it.
+  /// Plays the file of that system path from its start; cuts off what was playing. Returns the
+  /// number with which Ended reports its end.
   int Play(const QString& file);
   /// Cuts off what is playing.
   void Stop();
@@ -38,11 +38,11 @@ class SoundEngine : public QObject {
   void SetMute(bool mute);
 
   /// Decodes one short silent file of each usual format, so that the first cue need not wait for
-  /// decoders to be found and loaded. Done once; a cue asked for meanwhile goes before.
+  /// decoders to be found and loaded. Done once; a cue that is asked for meanwhile goes first.
   void WarmUp();
 
  Q_SIGNALS:
-  /// Of each Play once, on the thread of whoever listens.
+  /// Emitted once for each Play, on the receiver's thread.
   void Ended(int number, bramlee::SoundEnd end);
 
  private:

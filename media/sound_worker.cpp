@@ -50,7 +50,7 @@ void SoundWorker::Play(int number, const QStringList& files) {
 
 void SoundWorker::WarmUp() {
   if (number_ != 0) return;
-  // Decoders are found by the ways of a file; one inside the program would go other ways.
+  // In real files, since the library reads a resource inside the program in another way.
   warmUpFiles_ = std::make_unique<QTemporaryDir>();
   QStringList files;
   for (const char* name : {"warm.wav", "warm.mp3", "warm.wma"}) {
@@ -84,7 +84,7 @@ void SoundWorker::NextFile() {
   decoder_ = std::make_unique<QAudioDecoder>();
   ++decoderNo_;
   const auto told = [this](void (SoundWorker::*what)()) {
-    // It tells of itself from its own threads, and may be heard after it was let go.
+    // It emits from its own threads, so its signals may come after it was deleted.
     return [this, what, decoderNo = decoderNo_] {
       if (decoder_ && decoderNo == decoderNo_) (this->*what)();
     };
@@ -114,7 +114,7 @@ void SoundWorker::TakeDecoded() {
   if (pcm_->AheadMs() >= kStartMs) StartSink();
 }
 
-/// Both of a good end and of an error: what was decoded so far is played.
+/// At a good end and at an error alike: what is decoded so far is played.
 void SoundWorker::DecoderEnded() {
   LetGoOfDecoder();
   NextFile();
@@ -129,7 +129,7 @@ void SoundWorker::StartSink() {
   if (sink_->error() != QAudio::NoError) End(SoundEnd::NoDevice);
 }
 
-/// It stops before it goes: its own threads would go on telling one that is half gone.
+/// Stops it first: its own threads would go on emitting to it while it is destroyed.
 void SoundWorker::LetGoOfDecoder() {
   if (!decoder_) return;
   decoder_->disconnect(this);
@@ -137,8 +137,8 @@ void SoundWorker::LetGoOfDecoder() {
   decoder_.reset();
 }
 
-/// A sink that is destroyed serves waiting events first, the next cue's among them: that is left
-/// to the event loop, and the sink takes along what it reads from.
+/// The event loop deletes the sink later, with the source that it reads from: a sink's destructor
+/// serves waiting events first, and the next cue may be among them.
 void SoundWorker::LetGo() {
   LetGoOfDecoder();
   if (sink_) {

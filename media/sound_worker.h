@@ -21,8 +21,8 @@ class SoundWorker : public QObject {
  public:
   SoundWorker();
 
-  /// Plays the files one after the other under one number; what was playing is cut off. Files
-  /// that cannot be played are passed over.
+  /// Plays the files one after the other under one number; cuts off what was playing. Skips files
+  /// that cannot be played.
   void Play(int number, const QStringList& files);
   /// Plays the short silent files, unless something is playing.
   void WarmUp();
@@ -33,7 +33,7 @@ class SoundWorker : public QObject {
   void SetMute(bool mute);
 
  Q_SIGNALS:
-  /// Of each Play and WarmUp once.
+  /// Emitted once for each Play and WarmUp.
   void Ended(int number, bramlee::SoundEnd end);
 
  private:

@@ -10,17 +10,16 @@ namespace bramlee {
 
 class ClipPlayer;
 
-/// Plays one file at a time, by its buttons too, and returns from every call at once; what cannot
-/// be played is silent and dark. Sounds go to the sound engine, clips with pictures show in this
-/// widget. Nothing is loaded for either before the first Play. When it is destroyed, its sound
-/// stops.
+/// Plays one file at a time, by its buttons too, and returns from every call at once; ignores a
+/// file that cannot be played. Sounds go to the sound engine, clips with pictures show in this
+/// widget. Loads nothing for either before the first Play. Its sound stops when it is destroyed.
 class WindowsMediaPlayer : public QWidget {
   Q_OBJECT
  public:
   explicit WindowsMediaPlayer(QWidget* parent = nullptr);
   ~WindowsMediaPlayer() override;
 
-  /// The path of what Play plays, as the program names files. A new one, the same again too,
+  /// The path of what Play plays, as the program names files. Setting one, even the same again,
   /// ends what is playing and starts nothing.
   const QString& URL() const { return url_; }
   void SetURL(const QString& path);
@@ -28,14 +27,14 @@ class WindowsMediaPlayer : public QWidget {
   // --- controls
   /// From the start. While it is playing, or without a URL, nothing.
   void Play();
-  /// What was playing will begin anew at the next Play.
+  /// The next Play starts again from the beginning.
   void Stop();
-  /// From Play until the sound or clip has ended, was stopped or turned out not to be playable,
-  /// which is told between other events.
+  /// From Play until the sound or clip has ended, was stopped or turned out not to be playable. An
+  /// end arrives as an event of the event loop.
   bool Playing() const;
 
   // --- settings; they stay from file to file
-  /// 1 is as recorded. What is not greater than 0 is passed over.
+  /// 1 is as recorded. Ignores a rate that is not greater than 0.
   double Rate() const { return rate_; }
   void SetRate(double rate);
   bool Mute() const { return mute_; }

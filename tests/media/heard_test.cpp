@@ -20,8 +20,8 @@ namespace {
 constexpr double kLow = 500;    ///< Hz
 constexpr double kHigh = 1500;  ///< Hz
 constexpr double kOffPitch = 60;
-/// How soon a sound is heard is for the bench to tell; here it may come as late as on a machine
-/// that does many things at once.
+/// The bench measures how soon a sound is heard; here it may come as late as on a machine that does
+/// many things at once.
 constexpr double kHangMs = 20000;
 /// After this much silence a sound is over.
 constexpr double kOverMs = 300;
@@ -128,7 +128,7 @@ TEST_F(HeardPlayer, PlaysTheSameFileAgain) {
   }
 }
 
-TEST_F(HeardPlayer, PlayWhilePlayingBeginsNothingAnew) {
+TEST_F(HeardPlayer, DoesNotBeginAgainWhenPlayIsCalledWhilePlaying) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 2000));
   const double begin = NowMs();
   ASSERT_TRUE(PlayUntilHeard("C:\\long.wav"));
@@ -147,7 +147,7 @@ TEST_F(HeardPlayer, CutsOffWhatIsPlaying) {
   EXPECT_NEAR(heard.PitchAt(end - 500), kHigh, kOffPitch);
 }
 
-TEST_F(HeardPlayer, OfManyAskedForAtOncePlaysTheLast) {
+TEST_F(HeardPlayer, PlaysTheLastOfManyThatAreAskedForAtOnce) {
   for (int i = 0; i < 20; ++i) PlayMediaFile(QStringLiteral("C:\\low.wav"));
   const Heard heard = PlayAndWrite("C:\\high.wav");
   ASSERT_TRUE(heard.LastSoundMs().has_value());
@@ -168,7 +168,7 @@ TEST_F(HeardPlayer, IsSilentWhileMuted) {
   ExpectWholeTone(PlayAndWrite("C:\\low.wav"), kLow, 600);
 }
 
-TEST_F(HeardPlayer, GoesSilentWhenMutedMeanwhile) {
+TEST_F(HeardPlayer, FallsSilentWhenMutedMeanwhile) {
   WriteBytes(On("c/long.wav"), ToneWave(kLow, 8000));
   ASSERT_TRUE(PlayUntilHeard("C:\\long.wav"));
   Player()->SetMute(true);

@@ -1,5 +1,5 @@
-// Takes every way to a sound device away before main begins, so that these tests do the same on
-// all machines and nobody is startled.
+// Removes every way to a sound device before main begins, so that these tests do the same on all
+// machines and make no noise.
 #include <cstdlib>
 
 namespace {

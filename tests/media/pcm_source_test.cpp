@@ -55,7 +55,7 @@ TEST_F(PcmSourceOf, HalfRatePutsOneBetween) {
   EXPECT_EQ(PullFrames(5), (Samples{10, 15, 20, 25, 30}));
 }
 
-TEST_F(PcmSourceOf, ARateOfNothingIsPassedOver) {
+TEST_F(PcmSourceOf, ARateOfZeroIsIgnored) {
   Append(Ramp(3));
   for (const double rate : {0.0, -1.0, std::nan("")}) source.SetRate(rate);
   EXPECT_EQ(PullFrames(3), (Samples{10, 20, 30}));
@@ -69,7 +69,7 @@ TEST_F(PcmSourceOf, MutedFramesGoOnUnheard) {
   EXPECT_EQ(PullFrames(2), (Samples{30, 40}));
 }
 
-TEST_F(PcmSourceOf, ASlowDecoderGivesSilenceAndLosesNothing) {
+TEST_F(PcmSourceOf, ASlowDecoderLeavesSilenceAndLosesNothing) {
   Append(Ramp(1));
   EXPECT_EQ(PullFrames(3), (Samples{10, 0, 0}));
   Append(Ramp(2));
@@ -77,7 +77,7 @@ TEST_F(PcmSourceOf, ASlowDecoderGivesSilenceAndLosesNothing) {
   EXPECT_EQ(drained, 0);
 }
 
-TEST_F(PcmSourceOf, AnEndIsPushedOutBySilenceAndToldOnce) {
+TEST_F(PcmSourceOf, AnEndIsPushedOutBySilenceAndReportedOnce) {
   Append(Ramp(2));
   source.Finish();
   Samples all;
@@ -99,7 +99,7 @@ TEST_F(PcmSourceOf, AheadIsWhatIsNotUsedUp) {
   EXPECT_DOUBLE_EQ(source.AheadMs(), 200);
 }
 
-TEST_F(PcmSourceOf, LongSoundsFramesUsedUpAreLetGo) {
+TEST_F(PcmSourceOf, LongSoundsDropTheFramesThatAreUsedUp) {
   for (int second = 0; second < 5; ++second) {
     Append(Samples(std::size_t{2} * 48000, static_cast<std::int16_t>(second + 1)));
     EXPECT_EQ(PullFrames(48000), Samples(48000, static_cast<std::int16_t>(second + 1)));

@@ -25,7 +25,7 @@ class PlayMediaFileOf : public TempDrives {
   }
 };
 
-TEST_F(PlayMediaFileOf, AFileLoadsThePlayerUnseenAndHandsItOn) {
+TEST_F(PlayMediaFileOf, AFileLoadsThePlayerUnseenAndIsPassedToIt) {
   WriteBytes(On("c/a.wav"), ToneWave(440, 300));
   PlayMediaFile(QStringLiteral("C:\\a.wav"));
   ASSERT_NE(Player(), nullptr);
@@ -41,7 +41,7 @@ TEST_F(PlayMediaFileOf, TheAddressIsTrimmed) {
   EXPECT_EQ(Player()->URL(), QStringLiteral("C:\\a.wav"));
 }
 
-TEST_F(PlayMediaFileOf, AMissingFileIsToldAndHandedOnAllTheSame) {
+TEST_F(PlayMediaFileOf, AMissingFileShowsAMessageAndIsPassedOnAsWell) {
   PlayMediaFile(QStringLiteral(" C:\\no.wav "));
   EXPECT_EQ(boxes, QStringList{QStringLiteral("File Not Found: ( C:\\no.wav )")});
   EXPECT_EQ(Player()->URL(), QStringLiteral("C:\\no.wav"));

@@ -139,7 +139,7 @@ TEST_F(PlayerFormTest, SetsTheSpeedOfTheItemsCaption) {
   EXPECT_EQ(player->Rate(), 1);
 }
 
-TEST_F(PlayerFormTest, IsMadeAsLargeAsTheScreenRecordTells) {
+TEST_F(PlayerFormTest, IsAsLargeAsTheScreenRecordSays) {
   const TwipsRect outer = form->Outer();
   EXPECT_EQ(outer.width, 15345);
   EXPECT_EQ(outer.height, 11508);
@@ -245,7 +245,7 @@ TEST_F(PlayerFormTest, ThePlayerHasControlsOfItsOwn) {
   EXPECT_FALSE(player->Mute());
 }
 
-TEST_F(PlayerFormTest, ANewAddressEndsWhatIsPlayingTheSameAgainToo) {
+TEST_F(PlayerFormTest, ANewPathEndsWhatIsPlayingTheSameAgainToo) {
   WriteBytes(On("c/a.wav"), ToneWave(440, 300));
   for (const char* next : {"C:\\a.wav", "C:\\b.wav"}) {
     player->SetURL(Name("C:\\a.wav"));
@@ -338,7 +338,7 @@ TEST_F(PlayerFormTest, UnloadsAtOnceForLessThanNoMinutes) {
   EXPECT_TRUE(boxes.isEmpty());
 }
 
-TEST_F(PlayerFormTest, MayGoWhileItsBoxStands) {
+TEST_F(PlayerFormTest, MayUnloadWhileItsBoxStands) {
   form->SetText(Name("txtete"), Name("0"));
   PlayerForm* reloaded = nullptr;
   const MessageBoxes before =
@@ -436,7 +436,7 @@ class FailingPlayerForm : public PlayerFormTest {
   TroubledPlayerForm* failing;
 };
 
-TEST_F(FailingPlayerForm, ReportsALayoutThatFailsAndServesAllTheSame) {
+TEST_F(FailingPlayerForm, ReportsALayoutThatFailsAndFinishesItsLoad) {
   EXPECT_EQ(Reports(), 1);
   EXPECT_NE(LoadedForm(Name("fcomsav1")), nullptr);
   EXPECT_TRUE(boxes.isEmpty());

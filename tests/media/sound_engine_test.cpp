@@ -63,7 +63,7 @@ class SoundEngineWithoutDevice : public ::testing::Test {
   QMetaObject::Connection connection_;
 };
 
-TEST_F(SoundEngineWithoutDevice, SaysThatThereIsNone) {
+TEST_F(SoundEngineWithoutDevice, ReportsThatThereIsNone) {
   EXPECT_EQ(EndOf(Made("a.wav", ToneWave(440, 300))), SoundEnd::NoDevice);
 }
 
@@ -97,7 +97,7 @@ TEST_F(SoundEngineWithoutDevice, AGoodFileAfterABadOneIsTaken) {
   EXPECT_EQ(EndOf(Made("good.wav", ToneWave(440, 300))), SoundEnd::NoDevice);
 }
 
-TEST_F(SoundEngineWithoutDevice, OfManyAskedForEachEndsOnce) {
+TEST_F(SoundEngineWithoutDevice, EachOfManySoundsEndsOnce) {
   const QString file = Made("a.wav", ToneWave(440, 300));
   std::vector<int> numbers(50);
   for (int& number : numbers) number = SoundEngine::Instance().Play(file);

@@ -16,7 +16,7 @@ namespace bramlee {
 namespace {
 
 constexpr double kSamplesMs = 48;  ///< a millisecond's samples
-constexpr int kSilence = 300;      ///< what is not louder is none of the tests' tones
+constexpr int kSilence = 300;      ///< samples up to this are no tone of the tests
 constexpr int kPatienceMs = 20000;
 
 bool IsLoud(std::int16_t sample) {

@@ -11,7 +11,7 @@
 
 namespace bramlee {
 
-/// Milliseconds of a clock that only goes forward, the one all times here are told in.
+/// Milliseconds of a clock that only goes forward; all times here are of this clock.
 double NowMs();
 
 /// What was recorded in a stretch of time.
