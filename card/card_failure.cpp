@@ -9,7 +9,7 @@
 namespace bramlee {
 namespace {
 
-/// The system tells of a folder on the way that is missing, but not of which.
+/// The system reports that a folder of the path is missing, but not which one.
 QString WhatIsMissing() {
   const bool drive = LookAt(SystemPath(QStringLiteral("C:\\"))) == Sight::Folder;
   return drive ? QStringLiteral("the folder C:\\bramlee\\dba is not there")

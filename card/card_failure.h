@@ -1,4 +1,4 @@
-// Why the card could not be read or stored, for whoever stands before it.
+// Why the card could not be read or stored, in words for its user.
 #pragma once
 
 #include <QString>

@@ -36,7 +36,7 @@ void CheckItem(const RecordFile& file, std::int32_t recNo, const ItemTexts& show
 
 // What fails in these is put into `failure`, if it is given.
 
-/// Sees to it that there is a card: writes the default one when the file is missing. A file
+/// Writes the default card when the file is missing. A file
 /// shorter than one record is missing too; its bytes are first copied to a file beside it
 /// ("brmstu1.bad", "brmstu1.bad2", ...), and it stays as it is when that fails.
 void ProvideCard(CardFailure* failure = nullptr);

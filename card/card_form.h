@@ -25,9 +25,9 @@ class CardForm : public Form {
  public:
   CardForm();
 
-  /// Lays the card out, sees to it that there is a file and fills the form from it. Tag "601:23"; a
-  /// layout that fails leaves the controls where they are. A card that cannot be read says why on
-  /// the line below the buttons.
+  /// Lays the card out, makes a missing file and fills the form from it. Tag "601:23"; a layout
+  /// that fails leaves the controls where they are. A card that cannot be read says why on the line
+  /// below the buttons.
   void Form_Load() override;
 
   // --- handlers
@@ -42,7 +42,7 @@ class CardForm : public Form {
   /// Does nothing: NEW and SAVE are buttons.
   void mnubio_Click(int index);
   /// Shows the two pictures that the paths name, the ID card's in the logo's place and the logo's
-  /// in the ID card's. The first path that names no file is told, and neither picture changes.
+  /// in the ID card's. A message names the first path without a file; neither picture changes then.
   void mnuref_Click();
 
   // --- the card. Each is 0 when done, 1 after an error; then the file is as it was.
@@ -96,7 +96,7 @@ class CardForm : public Form {
   static constexpr Action kRemove{"REMOVE", "Not removed"};
 
   void MakeMenus();
-  /// Sees to it that there is a card and shows it. False when it cannot be read.
+  /// Shows the card, and makes a missing one first. False when it cannot be read.
   bool Read();
   /// Reads the card once more. What was typed stays, an item as a new one.
   bool ReadAgain();

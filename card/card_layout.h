@@ -11,8 +11,8 @@ void MakeCardControls(Form& card);
 /// Sizes the form from the screen, centres it and places its controls.
 void LayOutCard(Form& card);
 
-/// Places the line "lblsaid" in what the window has left below the buttons, with letters as large
-/// as let its text stand there. To be called when either changes.
+/// Places the line "lblsaid" in the room below the buttons, in the largest letters in which its
+/// text fits there. Call it when the text or the window's size changes.
 void PlaceSaid(const Form& card);
 
 }  // namespace bramlee

@@ -28,7 +28,7 @@ QString Lacking(const QString& text) {
   return lacking;
 }
 
-/// What would be lost of the text, told to the user. Empty for nothing.
+/// What would be lost of the text, in the user's words. Empty for nothing.
 QString LossOf(const Stored& stored) {
   QString loss;
   const QString lacking = Lacking(stored.text);

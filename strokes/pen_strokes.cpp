@@ -9,7 +9,7 @@ namespace {
 
 enum class Form : std::uint8_t { Either, Usual, Alternative };
 
-/// A run before which the hand does otherwise than the distance tells.
+/// A run before which the hand does otherwise than the distance says.
 struct Exception {
   std::string_view set;
   int tile;

@@ -33,7 +33,7 @@ struct PenStroke {
 inline constexpr double kJoinReach = 10;
 
 /// Joins a letter's runs to pen strokes: a run that begins at most kJoinReach from where the one
-/// before ended goes on with its stroke, but for the letters where a table knows better. A run
+/// before ended goes on with its stroke, but for the letters that a table lists. A run
 /// that plots nothing goes with the stroke before it.
 std::vector<PenStroke> JoinedRuns(const LetterId& id, std::span<const Run> runs);
 

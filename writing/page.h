@@ -23,7 +23,7 @@ struct Placing {
 /// A letter on a page.
 struct PlacedLetter {
   Letter letter;
-  std::uint32_t colour = 0;  ///< handed to the surface as it is
+  std::uint32_t colour = 0;  ///< passed to the surface as it is
   Placing placing;
 };
 
@@ -32,7 +32,7 @@ class Page {
  public:
   void Add(PlacedLetter letter);
 
-  /// Takes all letters off. A player goes back to the begin, without taking dots off its surface.
+  /// Removes all letters. A player goes back to the start and leaves the dots on its surface.
   void Clear();
 
   std::span<const PlacedLetter> Letters() const { return letters_; }

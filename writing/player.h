@@ -11,15 +11,15 @@
 
 namespace bramlee {
 
-/// Stands at a place on a page, at first at its begin, and writes on from there. However it was
+/// Stands at a place on a page, at first at its start, and writes on from there. However it was
 /// paused, stepped and taken back, the dots that stand on the surface are those of a plain writing
 /// up to where it stands, in the same order.
 ///
-/// It knows no time: a caller with a clock asks for as many dots as are due. Each run is told to
-/// the surface as the primitives do: one BeginRun before its first dot, one EndRun after its last,
+/// It has no clock: a caller with one asks for as many dots as are due. Each run reaches the
+/// surface as from the primitives: one BeginRun before its first dot, one EndRun after its last,
 /// however often it pauses in between, its arguments as in the letter, wherever that is placed. The
-/// pen's colour is set at the begin of each pen stroke. What the surface throws comes through; the
-/// player stands before the dot that could not be plotted then. The last-point registers are
+/// player sets the pen's colour at the start of each pen stroke. It passes on what the surface
+/// throws and then stands before the dot that could not be plotted. The last-point registers are
 /// neither read nor changed.
 class Player {
  public:
@@ -50,14 +50,14 @@ class Player {
   /// Writes all that is left, paused or not; returns how many dots.
   std::int64_t RunToEnd();
 
-  /// Takes the present pen stroke away, back to its begin; standing there already, the stroke
-  /// before. Returns false, with nothing done, at the begin of the page and where the surface
-  /// cannot go back, or not so far.
+  /// Takes the present pen stroke away, back to its start; at the start of a stroke, takes away the
+  /// stroke before. Returns false and changes nothing at the start of the page and where the
+  /// surface cannot go back, or not so far.
   bool StepBack();
 
   /// Whether every dot of the page is written. It may grow and be written on.
   bool AtEnd();
-  /// Whether it stands between two pen strokes, at the begin or at the end.
+  /// Whether it stands between two pen strokes, at the start or at the end.
   bool BetweenStrokes();
   /// How many pen strokes of the page are written whole.
   std::size_t StrokesWritten();
@@ -77,7 +77,7 @@ class Player {
     std::size_t stroke = 0;  ///< of the letter
     std::size_t run = 0;     ///< of the stroke
   };
-  /// What there is to go back to at the begin of a stroke.
+  /// What to go back to at the start of a stroke.
   struct StrokeBegin {
     Place place;
     SurfaceMark mark;

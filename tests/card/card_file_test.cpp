@@ -57,7 +57,7 @@ TEST_F(CardFile, IsNotMadeWithoutItsFolder) {
   for (int k = 0; k < 9; ++k) Type(k, "1");
   boxes.clear();
   Save();
-  EXPECT_TRUE(boxes.isEmpty());  // no success is told
+  EXPECT_TRUE(boxes.isEmpty());  // a success shows no message
 }
 
 TEST_F(CardFile, ShorterThanARecordIsKeptAsideAndReplaced) {
@@ -187,7 +187,7 @@ TEST_F(CardFile, BringsNothingBackThatWasRemovedUnderACountBeyondItsEnd) {
   EXPECT_EQ(File().size(), 1800);
 }
 
-TEST_F(CardFile, TellsByItsStatusWhetherItWasChanged) {
+TEST_F(CardFile, ReturnsWhetherItWasChanged) {
   EXPECT_EQ(WriteDefaultCard(), 0);
   EXPECT_EQ(RemoveCardItem(2), 0);
   QFile::remove(Place());

@@ -261,7 +261,7 @@ TEST_F(BiodataCard, IsNeverThereTwice) {
   EXPECT_TRUE(Card()->isVisible());
 }
 
-TEST_F(BiodataCard, GoneWhileTheMessageWasReadStaysGone) {
+TEST_F(BiodataCard, ClosedWhileAMessageIsShownStaysClosed) {
   Put(Items(2));
   Open();
   ReplaceMessageBoxes(

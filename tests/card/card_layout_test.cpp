@@ -43,7 +43,7 @@ TEST_F(BiodataCard, ExitUnloadsAllAndEnds) {
   EXPECT_TRUE(LoadedForms().isEmpty());
 }
 
-TEST_F(BiodataCard, BearsItsTextsAndToolTips) {
+TEST_F(BiodataCard, HasItsTextsAndToolTips) {
   Open();
   const char* captions[] = {" Name:",       "Class:",     "Class Teacher:", "ID-Card:",
                             "School Logo:", "EnterDate:", "Item Name",      "Price / Item",

@@ -189,7 +189,7 @@ TEST_F(BiodataCard, ANumberTooLargeForItsFieldStoresNothing) {
   }
 }
 
-TEST_F(BiodataCard, TellsByItsStatusWhetherItWasSavedOrLoaded) {
+TEST_F(BiodataCard, ReturnsWhetherItWasSavedOrLoaded) {
   Put(Items(2));
   Open();
   StudentRec rec;
@@ -227,7 +227,7 @@ TEST_F(BiodataCard, LeavesAFileHeldByAnotherProgramAlone) {
   New();
   TypeItem("Kite");
   Save();
-  EXPECT_TRUE(boxes.isEmpty());  // no success is told
+  EXPECT_TRUE(boxes.isEmpty());  // a success shows no message
   EXPECT_EQ(File(), two);
   EXPECT_EQ(Card()->CardRecNo(), QStringLiteral("New"));
   EXPECT_EQ(Row()[3], QStringLiteral("Kite"));

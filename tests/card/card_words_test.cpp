@@ -84,7 +84,7 @@ TEST_F(BiodataCard, TheQuestionHasAWayBackAsItsDefault) {
   EXPECT_EQ(File().mid(304, 100), QByteArray("?").leftJustified(100));
 }
 
-TEST_F(BiodataCard, TellsItsMessagesInRealBoxes) {
+TEST_F(BiodataCard, ShowsItsMessagesInRealBoxes) {
   Put(Items(2));
   Open();
   auto seen = WithRealBoxes(Remove);

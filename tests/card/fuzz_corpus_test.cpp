@@ -18,7 +18,7 @@ TEST_F(FuzzCorpus, LeavesNoDataFileWorse) {
   }
 }
 
-TEST_F(FuzzCorpus, WouldTellWhatWentWrong) {
+TEST_F(FuzzCorpus, ReportsAMissingDataFolder) {
   QDir(On("c/bramlee")).removeRecursively();
   EXPECT_EQ(TryAsDataFiles("x"), QStringLiteral("no data folder"));
 }

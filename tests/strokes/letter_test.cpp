@@ -137,7 +137,7 @@ TEST(RecordLetterTest, StartsFromTheRegistersAndLeavesThemAndTheRecordAsTheProgr
   EXPECT_EQ(LastY, 60 - 10 * std::sin(90 * (kPi / 180)));
 }
 
-TEST(RunRecorderTest, HandsItsRunsOverOnce) {
+TEST(RunRecorderTest, ReturnsItsRunsOnce) {
   RunRecorder recorder(1);
   LineRight(recorder, 0, 0, 3);
   EXPECT_EQ(recorder.Runs().size(), 1U);

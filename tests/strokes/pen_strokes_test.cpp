@@ -44,7 +44,7 @@ TEST(PenStrokesTest, GoOnWithARunThatBeginsAtMostTenPixelsFromTheEnd) {
             (Strokes{{0, 1}, {1, 1}}));
 }
 
-TEST(PenStrokesTest, TakeARunThatPlotsNothingAlong) {
+TEST(PenStrokesTest, KeepARunThatPlotsNothing) {
   EXPECT_EQ(JoinedRuns(
                 {
   },

@@ -62,7 +62,7 @@ TEST(RunLinesTest, StandApartWhereTheDotsDo) {
   }));
 }
 
-TEST(RunLinesTest, OfARunThatPlotsNothingAreNone) {
+TEST(RunLinesTest, OfARunThatPlotsNothingAreAbsent) {
   EXPECT_TRUE(LinesOf(LineTo(9), kEveryDot).empty());
 }
 

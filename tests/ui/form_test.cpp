@@ -89,7 +89,7 @@ TEST_F(FormLife, AHiddenFormsTimersRunOn) {
   EXPECT_EQ(ticks, 1);
 }
 
-TEST_F(FormLife, AnUnknownNameIsPassedOver) {
+TEST_F(FormLife, AnUnknownNameIsIgnored) {
   EXPECT_EQ(LoadForm(QStringLiteral("fbrmnone")), nullptr);
   ShowForm(QStringLiteral("fbrmnone"));
   UnloadForm(nullptr);
@@ -195,7 +195,7 @@ TEST_F(FormLife, AFormThatNamesItselfAsItGoesIsNotMadeTwice) {
   EXPECT_EQ(Loaded("fone"), nullptr);
 }
 
-TEST_F(FormLife, AFailureOnTheWayLeavesUnloadAllQuietly) {
+TEST_F(FormLife, AFailureEndsUnloadAllQuietly) {
   Load("fone");
   Load("ftwo")->atUnload = [] { throw TrappedError(QStringLiteral("cannot go")); };
   const TrapLog log;
@@ -219,7 +219,7 @@ TEST_F(FormLife, TheEndDestroysWhatIsLeftAndRunsNoHandler) {
   EXPECT_TRUE(LoadedForms().isEmpty());
 }
 
-TEST_F(FormLife, TheProgramEndsWithStatusNought) {
+TEST_F(FormLife, TheProgramEndsWithStatus0) {
   ReplaceEndProgram({});
   QTimer::singleShot(0, [] { EndProgram(); });
   EXPECT_EQ(QApplication::exec(), 0);

@@ -228,7 +228,7 @@ TEST_F(Notice, IsCalledByWhatItSays) {
   EXPECT_EQ(LoadForm(QStringLiteral("fbrmsav1"))->accessibleName(), QStringLiteral("Loading..."));
 }
 
-TEST_F(Notice, OfAnErrorDuringAReportIsNotTold) {
+TEST_F(Notice, IsNotShownForAnErrorDuringAReport) {
   // The box of a report that cannot be written waits; another error comes meanwhile.
   QDir(On("c/bramlee")).removeRecursively();
   ReplaceMessageBoxes({.show =

@@ -117,7 +117,7 @@ TEST_F(PlayerTest, EndsARunRightAfterItsLastDot) {
   EXPECT_FALSE(surface_.IsInRun());
 }
 
-TEST_F(PlayerTest, TellsARunOnceHoweverOftenItPauses) {
+TEST_F(PlayerTest, BeginsAndEndsARunOnceHoweverOftenItPauses) {
   for (int i = 0; i < 20; ++i) player_.Write(1);
   EXPECT_TRUE(player_.AtEnd());
   EXPECT_EQ(surface_.Runs().size(), 3U);
@@ -126,7 +126,7 @@ TEST_F(PlayerTest, TellsARunOnceHoweverOftenItPauses) {
   }));
 }
 
-TEST_F(PlayerTest, StepsBackToTheBeginOfTheStroke) {
+TEST_F(PlayerTest, StepsBackToTheStartOfTheStroke) {
   player_.Write(18);  // in the second run of the second stroke
   EXPECT_TRUE(player_.StepBack());
   EXPECT_EQ(Dots(), 11U);
@@ -136,7 +136,7 @@ TEST_F(PlayerTest, StepsBackToTheBeginOfTheStroke) {
   EXPECT_EQ(surface_.dots, PlainDots(page_));
 }
 
-TEST_F(PlayerTest, AtTheBeginOfAStrokeStepsBackToTheOneBefore) {
+TEST_F(PlayerTest, StepsBackToTheStrokeBeforeAtTheStartOfAStroke) {
   player_.RunToEnd();
   EXPECT_TRUE(player_.StepBack());
   EXPECT_EQ(Dots(), 11U);
@@ -224,7 +224,7 @@ TEST_F(PlayerTest, BeginsAnewOnAClearedPage) {
   EXPECT_EQ(player_.RunToEnd(), 20);
 }
 
-TEST_F(PlayerTest, PassesOverLettersWithoutStrokes) {
+TEST_F(PlayerTest, SkipsLettersWithoutStrokes) {
   page_.Add({});
   page_.Add({.letter = TwoStrokes(), .colour = kBlue, .placing = {}});
   page_.Add({});
@@ -232,7 +232,7 @@ TEST_F(PlayerTest, PassesOverLettersWithoutStrokes) {
   EXPECT_TRUE(player_.AtEnd());
 }
 
-TEST_F(PlayerTest, TellsRunsThatPlotNothingToo) {
+TEST_F(PlayerTest, BeginsAndEndsRunsThatPlotNothingToo) {
   page_.Clear();
   page_.Add({
       .letter = {{},
@@ -300,7 +300,7 @@ TEST_F(PlayerTest, TakesARateOverWhileThePenRuns) {
   EXPECT_EQ(player_.DotsDue(2), 1);
 }
 
-TEST_F(PlayerTest, IgnoresARateThatIsNone) {
+TEST_F(PlayerTest, IgnoresARateThatIsNotFiniteAndAboveZero) {
   using Limits = std::numeric_limits<double>;
   player_.SetRate(3);
   for (const double none : {0.0, -1.0, Limits::infinity(), Limits::quiet_NaN()}) {

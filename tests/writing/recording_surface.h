@@ -1,4 +1,4 @@
-// A surface that remembers all it is told, and takes the latest of it back.
+// A surface that remembers all calls and can take the latest ones back.
 #pragma once
 
 #include <cstddef>
@@ -16,11 +16,11 @@ namespace bramlee {
 struct ColouredDot {
   Dot dot;
   std::uint32_t colour = 0;
-  std::size_t run = 0;  ///< counted from the begin of the page
+  std::size_t run = 0;  ///< counted from the start of the page
   bool operator==(const ColouredDot&) const = default;
 };
 
-/// Remembers the dots, and whether what it is told comes in a right order.
+/// Remembers the dots, and whether the calls come in a right order.
 class RecordingSurface : public RewindableSurface {
  public:
   void PSet(float x, float y) override {
