@@ -1,4 +1,4 @@
-// The tiles of the home form: one glance tells the subject.
+// The tiles of the home form: each shows its subject at a glance.
 #include <vector>
 
 #include "assets/pictures.h"

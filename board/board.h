@@ -24,8 +24,8 @@ void RegisterBoards();
 /// Makes one board known by its form's name. The record is used as long as the program runs.
 void RegisterBoard(const BoardRecord& record);
 
-/// A writing board. Handlers bear the names of their controls; on an error they end without a
-/// word, but for mnuclear1_Click, which reports it.
+/// A writing board. Handlers have the names of their controls and end quietly on an error;
+/// mnuclear1_Click reports it.
 class Board : public Form {
   Q_OBJECT
  public:

@@ -128,7 +128,7 @@ void Board::Write(WriteLetter program, StrokeRec& rec) {
   page_.Add({.letter = RecordLetter(id, program, rec, sheet_->Step()),
              .colour = sheet_->ForeColor(),
              .placing = {}});
-  // A letter that ends half-way is not taken up again by the next one.
+  // The next letter does not go on with one that ended half-way.
   auto unfinished = qScopeGuard([this] { page_.Clear(); });
   player_.RunToEnd();
   unfinished.dismiss();

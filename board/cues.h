@@ -10,8 +10,8 @@ namespace bramlee {
 /// call.
 extern std::int16_t CueBoardNo;
 
-/// Builds the name of the letter's sound file and hands it to the player; a missing file gives
-/// the message "path Not Found: " and no sound. An unknown set number has an empty path, which
+/// Builds the name of the letter's sound file and passes it to the player; a missing file shows
+/// the message "path Not Found: " and plays nothing. An unknown set number has an empty path, which
 /// counts as missing. Returns 1 when building the name failed, with no message, else 0.
 std::int16_t PlayCue(std::int16_t letterNo, std::int16_t cueBoardNo);
 

@@ -62,9 +62,9 @@ class Sheet final : public QWidget, public RewindableSurface {
   const Ink& Dots() const { return ink_; }
 
   /// Strokes are written while one of these lives (they nest): no input, timer tick or close
-  /// reaches a form before the outermost one ends, see ui/held_input.h. On a window one sees,
+  /// reaches a form before the outermost one ends, see ui/held_input.h. On a visible window
   /// the pen keeps its pace and rests for what is left of it at the end of the outermost one; it
-  /// hurries once somebody waits for the end.
+  /// hurries once the user waits for the end.
   class Writing {
    public:
     explicit Writing(Sheet& sheet);

@@ -75,7 +75,7 @@ namespace {
 /// Behind a file's name, while the new one is written.
 const QString kNew = QStringLiteral(".new");
 
-/// What the system's error number tells; `refused` where it says no more than that.
+/// What the system's error number means; `refused` where it says no more than that.
 FileTrouble TroubleOf(int error, FileTrouble refused) {
   switch (error) {
     case ENOSPC:
@@ -110,7 +110,7 @@ QString NameOf(const QString& systemPath) {
   throw FileError(trouble, file, QStringLiteral("%1: %2").arg(file, QString::fromLatin1(what)));
 }
 
-/// After a call to the system: throws what its error number tells.
+/// After a call to the system: throws what its error number says.
 void Check(bool done, const char* what, const QString& file = {},
            FileTrouble refused = FileTrouble::Other) {
   if (done) return;
@@ -195,7 +195,7 @@ void CopyAll(const FileBytes& from, int to) {
   }
 }
 
-/// The new file belongs to whom the old one belonged to, as far as the system allows.
+/// Gives the new file the old one's owner, as far as the system allows.
 void CopyMode(int from, int to) {
   struct stat old {};
   Check(fstat(from, &old) == 0, "the old file cannot be looked at");
@@ -206,7 +206,7 @@ void CopyMode(int from, int to) {
   if (old.st_mode != now.st_mode) Check(fchmod(to, old.st_mode & 07777) == 0, "the mode");
 }
 
-/// Waits until the disk has it. A file system that cannot tell is believed.
+/// Waits until the disk has it. Takes it as done on a file system that cannot say.
 void Sync(int file) {
   Check(fsync(file) == 0 || errno == EINVAL || errno == ENOTSUP, "the disk fails");
 }

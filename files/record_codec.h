@@ -1,4 +1,4 @@
-// Fields of fixed-length records, taken from bytes and put into bytes at told offsets. Integers
+// Fields of fixed-length records, taken from bytes and put into bytes at given offsets. Integers
 // and doubles are little-endian on every machine; fields follow each other without gaps.
 #pragma once
 

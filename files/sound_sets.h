@@ -1,5 +1,5 @@
-// Where the sounds of the boards lie on a drive: the one place that the boards, which play them,
-// and the sounds' maker go by.
+// Where the sounds of the boards lie on a drive: for the boards, which play them, and for the
+// sounds' maker.
 #pragma once
 
 namespace bramlee {

@@ -1,5 +1,5 @@
 // Error traps: no failure crosses a routine. A routine that can fail wraps its body in a trap
-// and leaves quietly, shows a message or reports. What failed, and where, goes to the log.
+// and ends quietly, shows a message or reports. What failed, and where, goes to the log.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@
 
 namespace bramlee {
 
-/// What a routine with a trap tells of itself.
+/// What a routine with a trap says of itself.
 struct ErrInfo {
   QString ErrTag;   ///< where it stands in the source, "601:03"; never shown, but logged
   QString ErrText;  ///< what a report shows and stores; empty unless the routine sets it
@@ -50,7 +50,7 @@ bool Trap(const QString& tag, Body body, OnError onError) {
   }
 }
 
-/// The trap of most routines: on an error they leave without a word.
+/// The trap of most routines: on an error they end quietly.
 template <class Body>
 bool Trap(const QString& tag, Body body) {
   return Trap(tag, std::move(body), [](ErrInfo&) {});

@@ -12,9 +12,9 @@ class LoadingNotice : public Form {
 
   /// Stands in the middle of the frame and starts its timer. Leaves quietly on an error.
   void Form_Load() override;
-  /// Goes by the number in txtpwd: 0 goes on to the home form; 1 to 3 ask for a form that there
-  /// is none of, which is told, and the notice stays; at any other the notice just goes. Ticks
-  /// once in a notice's life.
+  /// Follows the number in txtpwd: 0 shows the home form and closes the notice; 1 to 3 stand for a
+  /// form that the program does not have, so a message says so and the notice stays; any other
+  /// number closes the notice. Ticks once in a notice's life.
   void Timer1_Timer();
 };
 

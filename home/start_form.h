@@ -12,13 +12,13 @@ class StartForm : public Form {
  public:
   StartForm();
 
-  /// Lays the form out, makes drive C: current and sees to its folder "bramlee". Leaves
-  /// quietly on an error; a folder that cannot be made is passed over. Tag "601:02".
+  /// Lays the form out, makes drive C: current and makes its folder "bramlee" if it is missing.
+  /// Ends quietly on an error; ignores a folder that cannot be made. Tag "601:02".
   void Form_Load() override;
   /// The program has no other way in: closing it is its "&Exit".
   void CloseAsked() override;
 
-  // --- handlers. Unless told otherwise, what fails is passed over without a word.
+  // --- handlers. They ignore errors unless they say otherwise.
   /// A click anywhere on the form starts. An error is reported. Tag "601:01".
   void Form_Click();
   /// Shows the home form, loaded or not. Tag "601:03".

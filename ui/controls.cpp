@@ -16,7 +16,7 @@ QString Indexed(const char* array, int index) {
 }
 
 Ground::Ground(QWidget* parent) : QWidget(parent) {
-  // It fills all of itself: nothing behind it has to be painted first when something on it moves.
+  // It fills all of itself, so nothing behind it is painted when something on it moves.
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

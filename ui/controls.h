@@ -40,7 +40,8 @@ void SetForeColor(QWidget* control, ColourWord colour);  ///< of its text
 ColourWord BackColorOf(const QWidget* control);
 ColourWord ForeColorOf(const QWidget* control);
 
-/// Gives the label that font, as large as lets its text stand in a room of that size, in pixels.
+/// Gives the label that font, in the largest size in which its text fits a room of that size, in
+/// pixels.
 void FitFont(QLabel* label, QFont font, QSize room);
 
 /// A label that can be clicked.
@@ -55,8 +56,8 @@ class Label : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
-/// A combo box whose text is free and whose list is what it was given: typing, leaving and the
-/// wheel pick nothing and add nothing.
+/// A combo box with free text and a fixed list: typing, leaving and the wheel pick nothing and add
+/// nothing.
 class Combo : public QComboBox {
   Q_OBJECT
  public:

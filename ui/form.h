@@ -44,7 +44,7 @@ class Form : public QMainWindow {
   virtual void Form_Unload() {}
   /// Brings the form into view, in front; a form in the frame brings the frame along.
   virtual void Present();
-  /// What the window manager's close button does: an unload, unless the form knows better.
+  /// What the window manager's close button does: unloads the form, unless a form overrides it.
   virtual void CloseAsked();
 
   // --- what the frame does for the forms that stand in it
@@ -62,13 +62,13 @@ class Form : public QMainWindow {
   /// SetOuter with that size, centred on the screen.
   void CentreOnScreen(double width, double height);
 
-  // --- controls, found by their names below the form. They stand on the client, at no place of
-  // note before Form_Load; the form owns them.
+  // --- controls, found by their names below the form. They stand on the client, not laid out
+  // before Form_Load; the form owns them.
   TextBox* AddText(const QString& name, const QString& text);
   /// A text box that keeps data and is never seen.
   TextBox* AddHiddenText(const QString& name, const QString& text);
   Label* AddLabel(const QString& name, const QString& text);
-  /// A picture box, empty still.
+  /// An empty picture box.
   PictureBox* AddPicture(const QString& name, const QString& toolTip = {});
   /// A combo box with an empty list and that text.
   Combo* AddCombo(const QString& name, const QString& text = {});
@@ -100,15 +100,16 @@ class Form : public QMainWindow {
     Q_ASSERT_X(found != nullptr, "Form::Named", qPrintable(name));
     return found;
   }
-  /// The text box of that name has to be there, as with Named.
+  /// The text of that text box, which must exist as with Named.
   QString TextOf(const QString& textBox) const { return Named<QLineEdit>(textBox)->text(); }
   void SetText(const QString& textBox, const QString& text) const {
     Named<QLineEdit>(textBox)->setText(text);
   }
 
-  /// Used by forms.cpp alone: takes the form out of sight for good and lets it go.
+  /// Used by forms.cpp alone: hides the form for good and deletes it later.
   void LetGo();
-  /// Used by the frame alone: the sub-window that the form stands in, and dies with.
+  /// Used by the frame alone: sets the sub-window in which the form stands; it is deleted with the
+  /// form.
   void StandIn(Form* frame, QMdiSubWindow* subWindow);
   QMdiSubWindow* SubWindow() const { return subWindow_; }
 

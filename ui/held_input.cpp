@@ -180,7 +180,7 @@ class HeldInput : public QObject {
   bool Waiting() const { return !waiting_.empty() || !closes_.isEmpty(); }
 
   /// A message box within the handler runs an event loop of its own, deeper than the handler's:
-  /// it takes its input as ever, and what waits goes on waiting.
+  /// it takes its input at once, and what waits goes on waiting.
   bool HandlerHasReturned() const {
     return depth_ == 0 && QThread::currentThread()->loopLevel() <= level_;
   }
@@ -209,7 +209,7 @@ class HeldInput : public QObject {
     return control != nullptr && IsAdmitted(control);
   }
 
-  /// A press grabs the mouse: what follows belongs to whom it belongs to, until the last release.
+  /// A press grabs the mouse: until the last release, what follows goes where the press went.
   bool IsAdmittedMouse(const QObject* window, const QMouseEvent& event) {
     if (!window->isWindowType()) return false;
     const bool admitted = mouseOf_ == MouseOf::Nobody ? IsAdmittedAt(window, event.position())

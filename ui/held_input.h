@@ -27,16 +27,16 @@ class HoldInput {
   static void Admit(QWidget* widget);
 };
 
-/// To be called every few milliseconds while input is held: windows are repainted where they were
-/// uncovered or resized, and the window manager gets its answers. No timer ticks, and input that
-/// comes joins what waits. Does nothing when input is not held.
+/// Call it every few milliseconds while input is held: repaints windows where they were uncovered
+/// or resized and answers the window manager. No timer ticks, and new input joins what waits. Does
+/// nothing when input is not held.
 void LetWindowsLive();
 
 /// Whether the user waits for the end: the close of a window, or Esc, is among what waits.
 bool EndIsAwaited();
 
-/// What another thread has to tell a form comes by this way: `call` runs at once, or while input
-/// waits in its turn after it, if `context` still lives then.
+/// For calls from other threads to a form: runs `call` at once, or, while input waits, in its turn
+/// after that input, if `context` still lives then.
 void WhenFree(QObject* context, std::function<void()> call);
 
 }  // namespace bramlee

@@ -136,7 +136,7 @@ TEST_F(FileTable, EndsAtSlotTwenty) {
   EXPECT_TRUE(TrapLog::Lines().isEmpty());  // nothing is thrown
 }
 
-TEST_F(FileTable, LogsItsTagWhenItCannotTell) {
+TEST_F(FileTable, LogsItsTagWhenItsMessageFails) {
   const TrapLog log;
   TheEnvironment().tell = [](const QString&) { throw std::bad_alloc(); };
   std::int16_t result = 0;
@@ -145,7 +145,7 @@ TEST_F(FileTable, LogsItsTagWhenItCannotTell) {
   EXPECT_EQ(TrapLog::Tags(), Tags({"602:27"}));
 }
 
-TEST_F(FileTable, TellsOfAWrongSlotInARealBox) {
+TEST_F(FileTable, ShowsARealBoxForAWrongSlot) {
   const auto seen = WithRealBoxes([] {
     std::int16_t result = 0;
     Asked(21, &result);
@@ -156,7 +156,7 @@ TEST_F(FileTable, TellsOfAWrongSlotInARealBox) {
   EXPECT_TRUE(seen[0].plain);
 }
 
-TEST_F(FileTable, TellsWhetherTheSlotsFileIsMissing) {
+TEST_F(FileTable, ReturnsWhetherTheSlotsFileIsMissing) {
   MakeDataFolder();
   EXPECT_EQ(TakeSlot(kCardSlot).SlotChannel, 1);
   EXPECT_EQ(DataFileMissing, 1);

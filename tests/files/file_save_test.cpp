@@ -195,7 +195,7 @@ TEST_F(FileSaveTest, NamesWhatIsInTheWayOfTheNewFile) {
   EXPECT_EQ(Now(), "aaa");
 }
 
-TEST_F(FileSaveTest, LeavesTheOldFileWhereAnotherNewOneHasTakenItsOwnsPlace) {
+TEST_F(FileSaveTest, KeepsTheOldFileWhenAnotherTakesTheNewOnesPlace) {
   PutBack("aaa");
   const QString place = Place() + QStringLiteral(".new");
   {
@@ -211,7 +211,7 @@ TEST_F(FileSaveTest, LeavesTheOldFileWhereAnotherNewOneHasTakenItsOwnsPlace) {
   EXPECT_EQ(BytesOf(place), "another's");
 }
 
-TEST_F(FileSaveTest, TellsWhatTheSystemTold) {
+TEST_F(FileSaveTest, NamesTheTroubleThatTheSystemReports) {
   struct Told {
     int error;
     FileTrouble trouble;
@@ -235,7 +235,7 @@ TEST_F(FileSaveTest, TellsWhatTheSystemTold) {
   }
 }
 
-TEST_F(FileSaveTest, TellsThatItsFolderIsMissingOrItsFileIsNone) {
+TEST_F(FileSaveTest, NamesAMissingFolderAndWhatIsNoFile) {
   const auto read = [] { RecordFile{Slot()}; };
   QDir().mkpath(Place());
   const Failure folder{.trouble = FileTrouble::FolderInTheWay, .file = QStringLiteral("x.dat")};

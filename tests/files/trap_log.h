@@ -8,7 +8,7 @@
 namespace bramlee {
 
 /// Collects the lines of "bramlee.trap" while it lives; one at a time. Other messages go to the
-/// terminal as ever.
+/// terminal as usual.
 class TrapLog {
  public:
   TrapLog() {

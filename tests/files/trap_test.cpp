@@ -7,7 +7,7 @@
 namespace bramlee {
 namespace {
 
-TEST(TrapOf, TellsItsTagAndAnEmptyTextOnEntry) {
+TEST(TrapOf, HasItsTagAndAnEmptyTextOnEntry) {
   const bool done = Trap(QStringLiteral("601:03"), [](ErrInfo& err) {
     EXPECT_EQ(err.ErrTag, QStringLiteral("601:03"));
     EXPECT_EQ(err.ErrText, QString());
@@ -15,7 +15,7 @@ TEST(TrapOf, TellsItsTagAndAnEmptyTextOnEntry) {
   EXPECT_TRUE(done);
 }
 
-TEST(TrapOf, HandsWhatTheRoutineSetToItsHandler) {
+TEST(TrapOf, PassesWhatTheRoutineSetToItsHandler) {
   ErrInfo seen;
   const bool done = Trap(
       QStringLiteral("603:02"),
@@ -39,7 +39,7 @@ TEST(TrapOf, HandsWhatWasThrownToAHandlerThatTakesIt) {
   EXPECT_EQ(seen, "601:23 x");
 }
 
-TEST(TrapOf, DoesNotAskItsHandlerWithoutAnError) {
+TEST(TrapOf, DoesNotCallItsHandlerWithoutAnError) {
   bool asked = false;
   EXPECT_TRUE(Trap(
       {}, [](ErrInfo&) {}, [&](ErrInfo&) { asked = true; }));

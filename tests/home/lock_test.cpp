@@ -24,7 +24,7 @@ class Lock : public ShellForms {
   Form* start_;
 };
 
-TEST_F(Lock, OnMarksItselfHandsTwoToTheNoticeAndShowsIt) {
+TEST_F(Lock, OnMarksItselfWritesTwoIntoTheNoticeAndShowsIt) {
   Pick(1);
   EXPECT_TRUE(Marked(1));
   EXPECT_FALSE(Marked(2));
@@ -32,7 +32,7 @@ TEST_F(Lock, OnMarksItselfHandsTwoToTheNoticeAndShowsIt) {
   EXPECT_TRUE(Loaded("fbrmsav1")->isVisible());
 }
 
-TEST_F(Lock, OffMarksItselfAndHandsThree) {
+TEST_F(Lock, OffMarksItselfAndWritesThree) {
   Pick(1);
   Pick(2);
   EXPECT_FALSE(Marked(1));
@@ -42,7 +42,7 @@ TEST_F(Lock, OffMarksItselfAndHandsThree) {
   EXPECT_TRUE(Marked(2));
 }
 
-TEST_F(Lock, TheNoticeReadsAsTold) {
+TEST_F(Lock, TheNoticesTextsAreAsDesigned) {
   Pick(1);
   const Form* notice = Loaded("fbrmsav1");
   EXPECT_EQ(notice->windowTitle(), QStringLiteral("LOAD APPS"));
@@ -98,7 +98,7 @@ TEST_F(Lock, ANoticeTicksOnceInItsLife) {
   EXPECT_EQ(boxes, message + message);
 }
 
-TEST_F(Lock, NoughtGoesOnToHome) {
+TEST_F(Lock, ZeroGoesOnToHome) {
   LoadForm(QStringLiteral("fbrmsav1"));
   for (const char* nought : {"0", "", "no number"}) {
     LoadForm(QStringLiteral("fbrmsav1"))
@@ -119,7 +119,7 @@ TEST_F(Lock, OneIsInForceToo) {
   EXPECT_NE(Loaded("fbrmsav1"), nullptr);
 }
 
-TEST_F(Lock, AtAnyOtherNumberTheNoticeJustGoes) {
+TEST_F(Lock, AnyOtherNumberOnlyClosesTheNotice) {
   for (const char* other : {"4", "-1", "2.5", "100"}) {
     LoadForm(QStringLiteral("fbrmsav1"))
         ->SetText(QStringLiteral("txtpwd"), QString::fromLatin1(other));

@@ -343,7 +343,7 @@ QString Program::WaitFor(const QString& beginning) {
   }
 }
 
-bool Program::HasTold(const QString& beginning) {
+bool Program::HasPrinted(const QString& beginning) {
   return PlaceOf(beginning) >= 0;
 }
 

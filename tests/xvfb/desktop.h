@@ -11,7 +11,7 @@ struct xcb_connection_t;
 
 namespace bramlee {
 
-/// An X display that nobody sees, on a free number, with openbox on it. Ends with its process.
+/// An unseen X display on a free number, with openbox on it. Ends with its process.
 /// Whatever cannot be started throws std::runtime_error.
 class Desktop {
  public:
@@ -78,7 +78,7 @@ class Desktop {
 /// Waits until the condition holds; false when it never does.
 bool Eventually(const std::function<bool()>& condition);
 
-/// A program that runs on a desktop and tells line by line what happens to it.
+/// A program that runs on a desktop and prints line by line what happens to it.
 class Program {
  public:
   /// Starts it. `settings` are further environment variables, as "QT_SCALE_FACTOR=2".
@@ -88,14 +88,14 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  /// Waits until it has told a line that begins so, after the one waited for last, and returns
+  /// Waits until it has printed a line that begins so, after the one waited for last, and returns
   /// the line. Throws std::runtime_error, with all lines, when the program ends before or hangs.
   QString WaitFor(const QString& beginning);
 
-  /// Whether a line that begins so has been told by now.
-  bool HasTold(const QString& beginning);
+  /// Whether it has printed a line that begins so by now.
+  bool HasPrinted(const QString& beginning);
 
-  /// All lines told by now.
+  /// All lines that it has printed by now.
   QStringList Lines();
 
   /// Where the first line that begins so stands among all, -1 for none.

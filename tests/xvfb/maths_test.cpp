@@ -235,7 +235,7 @@ TEST_F(MathsAtTheKeyboard, TypedFifteenShowsTheFiveAlone) {
   constexpr int kSoftRim = 2;
   EXPECT_TRUE(five.contains(seen)) << seen.left() << " to " << seen.right();
   EXPECT_TRUE(seen.adjusted(-kSoftRim, -kSoftRim, kSoftRim, kSoftRim).contains(five));
-  EXPECT_FALSE(program().HasTold(QStringLiteral("message")));
+  EXPECT_FALSE(program().HasPrinted(QStringLiteral("message")));
 }
 
 }  // namespace

@@ -117,7 +117,7 @@ TEST_F(Writing, AnswersASecondClickAfterTheFirstLetter) {
     WatchedBoard board(desktop, QString::fromLatin1(step));
     board.BeginLetter();
     board.ClickTile(2);
-    if (board.HasTold(QStringLiteral("written 1"))) continue;
+    if (board.HasPrinted(QStringLiteral("written 1"))) continue;
     board.WaitFor(QStringLiteral("written 2"));
     board.ExpectInOrder({QStringLiteral("begins 1"), QStringLiteral("written 1"),
                          QStringLiteral("begins 2"), QStringLiteral("written 2")});
@@ -278,7 +278,7 @@ TEST_F(Writing, RepaintsWhatIsUncoveredAndAnswerTheWindowManager) {
   desktop.Uncover();
   EXPECT_TRUE(Eventually([&] { return shown() == before; }));
   EXPECT_TRUE(desktop.AnswersPing(board.Window(), 60'000));
-  EXPECT_FALSE(board.HasTold(QStringLiteral("written 1")));
+  EXPECT_FALSE(board.HasPrinted(QStringLiteral("written 1")));
 }
 
 TEST_F(Writing, LosesNothingWhenTheWindowIsResizedDuringALetter) {
@@ -288,7 +288,7 @@ TEST_F(Writing, LosesNothingWhenTheWindowIsResizedDuringALetter) {
   board.WaitFor(QStringLiteral("board 500 400"));
   desktop.Resize(board.Window(), {1300, 660});
   board.WaitFor(QStringLiteral("board 1300 660"));
-  EXPECT_FALSE(board.HasTold(QStringLiteral("written 1")));
+  EXPECT_FALSE(board.HasPrinted(QStringLiteral("written 1")));
   desktop.Key(QStringLiteral("Escape"));
   board.WaitFor(QStringLiteral("key Esc"));
   ExpectSheetHolds(board, Capitals(kEndless.toDouble(), {1}));

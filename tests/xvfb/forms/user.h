@@ -1,5 +1,5 @@
 // A user before the program's forms: clicks, picks and types by a real pointer and real keys, and
-// tells what is to be seen. The forms run on the main thread as in the program, tests on one of
+// returns what is to be seen. The forms run on the main thread as in the program, tests on one of
 // their own.
 #pragma once
 
