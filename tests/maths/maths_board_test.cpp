@@ -1,7 +1,9 @@
 // The board of digits and signs: tiles, wipes, alternative forms, Draw All, sound.
 #include <QMenuBar>
 
+#include "tests/files/trap_log.h"
 #include "tests/maths/maths_fixture.h"
+#include "tests/ui/failing_event.h"
 #include "ui/forms.h"
 
 namespace bramlee {
@@ -208,6 +210,50 @@ TEST_F(MathsBoard, WipeForgetsThePlaceAlone) {
 TEST_F(MathsBoard, BackUnloadsIt) {
   Pick("mnuback");
   EXPECT_EQ(LoadedForm(QStringLiteral("fbrmmat01")), nullptr);
+}
+
+TEST_F(MathsBoard, ItsRoutinesLogTheirTags) {
+  const TrapLog log;
+  {
+    const FailingEvent noColour("cmb(0)", QEvent::PaletteChange);
+    TypeAndEnter("cmb(0)", "x");
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"mat:01"}));
+  TrapLog::Lines().clear();
+  {
+    const FailingEvent noOperand("cmb(16)", QEvent::ShowToParent);
+    Pick("mnuadd");
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"mat:02"}));
+  TrapLog::Lines().clear();
+  {
+    const FailingEvent noPicture("pict", QEvent::ShowToParent);
+    Pick("mnutbl");
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"mat:04"}));
+  Pick("mnusub");
+  TrapLog::Lines().clear();
+  {
+    const FailingEvent noColour("cmb(16)", QEvent::PaletteChange);
+    Type("cmb(16)", "x");
+    Click("picequal");
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"mat:03"}));
+  TrapLog::Lines().clear();
+  {
+    const FailingEvent noTile("pic(1)", QEvent::ShowToParent);
+    Pick("mnunum");
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"mat:06"}));
+  Pick("mnutbl");
+  TypeAndEnter("cmb(16)", "2");
+  Click("pict");
+  TrapLog::Lines().clear();
+  {
+    const FailingEvent noPlace("txtval(20)", QEvent::Resize);
+    Click("pict");
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"mat:05"}));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "media/media.h"
 #include "media/windows_media_player.h"
 #include "tests/files/temp_drives.h"
+#include "tests/files/trap_log.h"
 #include "tests/media/sound_files.h"
 #include "ui/form.h"
 
@@ -46,6 +47,14 @@ TEST_F(PlayMediaFileOf, AMissingFileShowsAMessageAndIsPassedOnAsWell) {
   EXPECT_EQ(boxes, QStringList{QStringLiteral("File Not Found: ( C:\\no.wav )")});
   EXPECT_EQ(Player()->URL(), QStringLiteral("C:\\no.wav"));
   EXPECT_TRUE(Player()->Playing());
+}
+
+TEST_F(PlayMediaFileOf, AMissingFileThatCannotBeToldLogsItsTag) {
+  const TrapLog log;
+  ReplaceMessageBoxes(
+      {.show = [](const QString&, const QString&) { throw std::bad_alloc(); }, .ask = {}});
+  PlayMediaFile(QStringLiteral("C:\\no.wav"));
+  EXPECT_EQ(TrapLog::Tags(), Tags({"1207:220"}));
 }
 
 TEST_F(PlayMediaFileOf, AMissingFileIsNotReported) {

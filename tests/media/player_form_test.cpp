@@ -12,7 +12,9 @@
 #include "home/home.h"
 #include "media/media.h"
 #include "tests/files/temp_drives.h"
+#include "tests/files/trap_log.h"
 #include "tests/media/sound_files.h"
+#include "tests/ui/failing_event.h"
 #include "ui/message_box.h"
 #include "ui/screen.h"
 #include "ui/screen_rec.h"
@@ -467,6 +469,41 @@ TEST_F(PlayerFormTest, StopsItsSoundWhenItUnloads) {
   player->Play();
   UnloadForm(form);
   EXPECT_FALSE(player->Playing());
+}
+
+TEST_F(PlayerFormTest, ItsRoutinesLogTheirTags) {
+  const TrapLog log;
+  form->show();
+  SetScreen(ScreenSize{.width = 20000, .height = 15000});  // all is placed anew
+  {
+    const FailingEvent noPlace("lblmin", QEvent::Move);
+    form->Form_Load();
+  }
+  EXPECT_EQ(TrapLog::Tags().first(), Name("1207:21"));  // then that there is no report
+  TrapLog::Lines().clear();
+  UnloadForm(form);
+  {
+    const FailingEvent noFlag("f1207vid", QEvent::DynamicPropertyChange);
+    form = dynamic_cast<PlayerForm*>(LoadForm(kForm));
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"1207:02"}));
+  TrapLog::Lines().clear();
+  form->mnulist_Click();
+  {
+    const FailingEvent noHiding("cmbavi", QEvent::HideToParent);
+    form->cmbavi_Click();
+    form->cmbavi_Click();
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"1207:01"}));
+  TrapLog::Lines().clear();
+  form->SetText(Name("txtcnt"), Name("1"));
+  form->show();
+  {
+    const FailingEvent noHiding("", QEvent::Hide);
+    form->Timer1_Timer();
+  }
+  EXPECT_EQ(TrapLog::Tags().first(), Name("1207:03"));
+  delete form;
 }
 
 }  // namespace

@@ -8,7 +8,8 @@
 
 namespace bramlee {
 
-/// While it lives, each event of that type to an object of that name throws.
+/// While it lives, each event of that type throws, to an object of that name or, without a name,
+/// to any.
 class FailingEvent : public QObject {
  public:
   FailingEvent(const char* name, QEvent::Type type)
@@ -18,7 +19,8 @@ class FailingEvent : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() != type_ || watched->objectName() != name_) return false;
+    if (event->type() != type_) return false;
+    if (!name_.isEmpty() && watched->objectName() != name_) return false;
     throw TrappedError(QStringLiteral("the event fails"));
   }
 
