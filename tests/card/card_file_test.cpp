@@ -6,6 +6,8 @@
 
 #include "tests/card/card_test.h"
 #include "tests/files/faulty_disk.h"
+#include "tests/files/trap_log.h"
+#include "tests/ui/failing_event.h"
 
 namespace bramlee {
 namespace {
@@ -267,6 +269,35 @@ TEST_F(CardFile, ThatHasVanishedIsNotMadeAnewByASave) {
   Remove();
   EXPECT_FALSE(QFile::exists(Place()));
   EXPECT_EQ(boxes, Texts({"First Record Cannot be Removed"}));
+}
+
+TEST_F(BiodataCard, ItsRoutinesLogTheirTags) {
+  Put(Items(2));
+  const TrapLog log;
+  {
+    const FailingEvent noFlag("fbrminf1", QEvent::DynamicPropertyChange);
+    Open();
+  }
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));  // the layout
+  TrapLog::Lines().clear();
+  std::int32_t recNo = 1;
+  Type(5, "3000000000");
+  EXPECT_EQ(Card()->SaveCard(recNo, false), 1);
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));  // the head, with its item
+  TrapLog::Lines().clear();
+  recNo = 2;
+  EXPECT_EQ(Card()->SaveCard(recNo, false), 1);
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));  // another item
+  TrapLog::Lines().clear();
+  ReplaceMessageBoxes(
+      {.show = [](const QString&, const QString&) { throw std::bad_alloc(); }, .ask = {}});
+  Remove();
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));  // the click
+  TrapLog::Lines().clear();
+  Put("damaged");
+  QDir().mkpath(On("c/bramlee/dba/brmstu1.bad.new"));
+  ProvideCard();
+  EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));
 }
 
 }  // namespace
