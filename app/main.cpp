@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QTimer>
 
+#include "app/subjects.h"
 #include "board/board.h"
 #include "card/card.h"
 #include "files/environment.h"
@@ -26,7 +27,7 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/bramlee.png")));
   QApplication::setQuitOnLastWindowClosed(false);
   bramlee::TheEnvironment().tell = [](const QString& text) { bramlee::MsgBox(text); };
-  bramlee::RegisterHome();
+  bramlee::RegisterHome(bramlee::HomeSubjects());
   bramlee::RegisterCard();
   bramlee::RegisterMedia();
   bramlee::RegisterBoards();

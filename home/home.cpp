@@ -10,10 +10,10 @@
 
 namespace bramlee {
 
-void RegisterHome() {
+void RegisterHome(std::span<const HomeSubject> subjects) {
   RegisterForm(kFrameForm, [] { return new FrameForm; });
   RegisterForm(kStartForm, [] { return new StartForm; });
-  RegisterForm(kHomeForm, [] { return new HomeForm; });
+  RegisterForm(kHomeForm, [subjects] { return new HomeForm(subjects); });
   RegisterForm(kLoadingNotice, [] { return new LoadingNotice; });
   RegisterForm(kReportNotice, [] { return new ReportNotice; });
 }

@@ -1,9 +1,14 @@
 // The forms of this folder.
 #pragma once
 
+#include <span>
+
+#include "home/subject.h"
+
 namespace bramlee {
 
-/// Makes them known by their names.
-void RegisterHome();
+/// Makes them known by their names. Home offers those subjects, kMostSubjects at most; their table
+/// has to outlast the forms.
+void RegisterHome(std::span<const HomeSubject> subjects);
 
 }  // namespace bramlee

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "files/numbers.h"
@@ -16,28 +17,9 @@
 namespace bramlee {
 namespace {
 
-constexpr int kSubjects = 7;  ///< that have a tile and a board
-constexpr int kLabels = 8;
 constexpr int kDrives = 26;
 constexpr int kDriveC = 3;
 constexpr int kTitleLines = 3;
-
-struct Subject {
-  const char* caption;
-  const char* board;
-  ColourWord colour;  ///< of its tile's frame, which its label shares
-};
-
-constexpr Subject kSubject[kLabels] = {
-    {"English:Capital Letters", kCapitalsForm,         0x002828C6},
-    {"English:Small Letters",   kSmallLettersForm,     0x008A3AAD},
-    {"Hindi:Wovels",            kHindiVowelsForm,      0x00C06515},
-    {"Hindi:Consonants",        kHindiConsonantsForm,  0x005C6800},
-    {"Telugu:Wovels",           kTeluguVowelsForm,     0x009A1B6A},
-    {"Telugu:Consonants",       kTeluguConsonantsForm, 0x00004C9C},
-    {"Maths:Numbers",           kMathsForm,            0x00327D2E},
-    {"Maths:Basics",            nullptr,               0x00444444},
-};
 
 struct TitleLine {
   const char* caption;
@@ -53,6 +35,8 @@ constexpr TitleLine kTitle[kTitleLines] = {
 // The labels' design, in twips.
 constexpr double kLabelLeft[] = {240, 4440};
 constexpr double kLabelTop[] = {1560, 2280, 3000, 3600};
+constexpr int kRows = std::size(kLabelTop);
+static_assert(2 * kRows == kMostSubjects);
 constexpr double kLabelWidth = 3885;
 constexpr double kLabelHeight = 495;
 constexpr int kLabelPixels = 16;  ///< 12 points
@@ -72,12 +56,16 @@ QFont Serif(const char* family, bool bold) {
   return font;
 }
 
+/// Subjects stand left and right by turns, the first of them left.
+bool IsLeft(int index) {
+  return index % 2 == 1;
+}
+
 /// How far right a tile of the left column may reach that begins at `top`: up to the captions of
 /// the right column beside it, which end at their labels' right.
-double RightmostBeside(const Form& home, double top) {
+double RightmostBeside(const std::vector<Label*>& captions, double top) {
   double rightmost = std::numeric_limits<double>::infinity();
-  for (int i = 2; i <= kLabels; i += 2) {
-    const auto* label = home.Named<Label>(Indexed("lbl1", i));
+  for (const Label* label : captions) {
     const TwipsRect place = PlaceOf(label);
     const QFontMetrics metrics = label->fontMetrics();
     if (place.top + (place.height + kTwipsPerPixel * metrics.height()) / 2 <= top) continue;
@@ -87,36 +75,33 @@ double RightmostBeside(const Form& home, double top) {
   return rightmost;
 }
 
-/// The tiles' size, in their design's proportions, for four rows from `top` on: at design size
-/// beside the labels, below them as large as the screen lets them be.
-void SizeTiles(const Form& home, double left, double top, double gap) {
+/// The tiles' size, in their design's proportions, for all rows from `top` on: at design size
+/// beside the labels, where they may be `reach` wide; below them as large as the screen lets them
+/// be.
+TwipsRect TileSize(double reach, double top, double gap) {
   const double shape = kTileWidth / kTileHeight;
-  const double reach = RightmostBeside(home, top) - left;
-  double height = (Screen().height - kAboveAndBelow - top - 3 * gap) / 4;
+  double height = (Screen().height - kAboveAndBelow - top - (kRows - 1) * gap) / kRows;
   if (std::isfinite(reach)) height = std::min({height, reach / shape, kTileHeight});
   height = RoundToLong(std::max(height, kLeastTileHeight));
-  for (int i = 1; i <= kSubjects; ++i) {
-    Place(home.Named<PictureBox>(Indexed("pic", i)),
-          {.left = 0, .top = 0, .width = 1.0 * RoundToLong(height * shape), .height = height});
+  return {.left = 0, .top = 0, .width = 1.0 * RoundToLong(height * shape), .height = height};
+}
+
+/// One column of tiles, the first of them at that place.
+void PlaceColumn(const std::vector<PictureBox*>& tiles, TwipsRect place, double gap) {
+  for (PictureBox* tile : tiles) {
+    Place(tile, place);
+    place.top += gap + place.height;
   }
 }
 
-/// One column of tiles, from `first` on every second.
-void PlaceColumn(const Form& home, int first, double left, double top, double gap) {
-  const double height = PlaceOf(home.Named<PictureBox>(Indexed("pic", 1))).height;
-  for (int i = first; i <= kSubjects; i += 2) {
-    auto* tile = home.Named<PictureBox>(Indexed("pic", i));
-    Place(tile, {.left = left, .top = top, .width = PlaceOf(tile).width, .height = height});
-    top += gap + height;
-  }
-}
-
-/// Between the columns, below the captions.
-TwipsRect PencilRoom(const Form& home) {
-  const TwipsRect left = PlaceOf(home.Named<PictureBox>(Indexed("pic", kSubjects)));
-  const TwipsRect right = PlaceOf(home.Named<PictureBox>(Indexed("pic", 2)));
+/// Between the columns, below the captions; none where a column has no tile.
+TwipsRect PencilRoom(const std::vector<PictureBox*>& leftTiles,
+                     const std::vector<PictureBox*>& rightTiles) {
+  if (leftTiles.empty() || rightTiles.empty()) return {};
+  const TwipsRect left = PlaceOf(leftTiles.back());
+  const TwipsRect right = PlaceOf(rightTiles.front());
   const double from = left.left + left.width + 2 * kBesideTile;
-  const double top = std::max(kLabelTop[3] + kLabelHeight, right.top) + kBesideTile;
+  const double top = std::max(kLabelTop[kRows - 1] + kLabelHeight, right.top) + kBesideTile;
   return {.left = from,
           .top = top,
           .width = right.left - 2 * kBesideTile - from,
@@ -125,7 +110,9 @@ TwipsRect PencilRoom(const Form& home) {
 
 }  // namespace
 
-HomeForm::HomeForm() : Form(kHomeForm, Kind::FrameChild) {
+HomeForm::HomeForm(std::span<const HomeSubject> subjects)
+    : Form(kHomeForm, Kind::FrameChild), subjects_(subjects) {
+  Q_ASSERT(subjects.size() <= kMostSubjects);
   setWindowTitle(QStringLiteral("BRAM-LEE: Home"));
   SetClient(new HomeGround(this));
   SetGround(0x00FFF4E0);
@@ -148,29 +135,38 @@ void HomeForm::MakeTitle() {
 }
 
 void HomeForm::MakeSubjects() {
-  for (int i = 1; i <= kLabels; ++i) {
-    const Subject& subject = kSubject[i - 1];
-    Label* label = AddLabel(Indexed("lbl1", i), QString::fromLatin1(subject.caption));
-    label->setToolTip(QStringLiteral("Click Me"));
-    label->setCursor(Qt::PointingHandCursor);
-    const bool left = i % 2 == 1;
-    label->setAlignment((left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    QFont font = Serif("Times New Roman", true);
-    font.setPixelSize(kLabelPixels);
-    label->setFont(font);
-    SetForeColor(label, subject.colour);
-    Place(label, {.left = kLabelLeft[left ? 0 : 1],
-                  .top = kLabelTop[(i - 1) / 2],
-                  .width = kLabelWidth,
-                  .height = kLabelHeight});
-    connect(label, &Label::Clicked, this, [this, i] { lbl1_Click(i); });
-  }
-  for (int i = 1; i <= kSubjects; ++i) {
-    PictureBox* tile = AddPicture(Indexed("pic", i), QString::fromLatin1(kSubject[i - 1].caption));
-    tile->setAccessibleName(QString::fromLatin1(kSubject[i - 1].caption));
-    tile->SetPicture(QStringLiteral(":/pictures/home/%1.jpg").arg(i));
-    connect(tile, &PictureBox::clicked, this, [this, i] { pic_Click(i); });
-  }
+  for (std::size_t i = 0; i < subjects_.size(); ++i) MakeCaption(static_cast<int>(i + 1));
+  for (std::size_t i = 0; i < subjects_.size(); ++i) MakeTile(static_cast<int>(i + 1));
+}
+
+void HomeForm::MakeCaption(int index) {
+  const HomeSubject& subject = Subject(index);
+  Label* label = AddLabel(Indexed("lbl1", index), QString::fromLatin1(subject.caption));
+  label->setToolTip(QStringLiteral("Click Me"));
+  label->setCursor(Qt::PointingHandCursor);
+  const bool left = IsLeft(index);
+  label->setAlignment((left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+  QFont font = Serif("Times New Roman", true);
+  font.setPixelSize(kLabelPixels);
+  label->setFont(font);
+  SetForeColor(label, subject.colour);
+  Place(label, {.left = kLabelLeft[left ? 0 : 1],
+                .top = kLabelTop[(index - 1) / 2],
+                .width = kLabelWidth,
+                .height = kLabelHeight});
+  connect(label, &Label::Clicked, this, [this, index] { lbl1_Click(index); });
+  if (!left) rightCaptions_.push_back(label);
+}
+
+void HomeForm::MakeTile(int index) {
+  const HomeSubject& subject = Subject(index);
+  if (subject.board == nullptr) return;
+  const QString caption = QString::fromLatin1(subject.caption);
+  PictureBox* tile = AddPicture(Indexed("pic", index), caption);
+  tile->setAccessibleName(caption);
+  tile->SetPicture(QString::fromLatin1(subject.picture));
+  connect(tile, &PictureBox::clicked, this, [this, index] { pic_Click(index); });
+  (IsLeft(index) ? leftTiles_ : rightTiles_).push_back(tile);
 }
 
 void HomeForm::MakeMenus() {
@@ -227,27 +223,30 @@ void HomeForm::LayOut(const ScreenRec& rec) {
         }
         const TwipsRect last = PlaceOf(Named<Label>(Indexed("lblsol", kTitleLines - 1)));
         const double top = last.top + last.height + 5 * v;
-        SizeTiles(*this, last.left, top, 2 * u);
-        PlaceColumn(*this, 1, last.left, top, 2 * u);
-        const double width = PlaceOf(Named<PictureBox>(Indexed("pic", 2))).width;
-        PlaceColumn(*this, 2, last.left + last.width - width, top, 2 * u);
-        static_cast<HomeGround*>(client())->SetPencilRoom(PixelsOf(PencilRoom(*this)));
+        TwipsRect tile = TileSize(RightmostBeside(rightCaptions_, top) - last.left, top, 2 * u);
+        tile.top = top;
+        tile.left = last.left;
+        PlaceColumn(leftTiles_, tile, 2 * u);
+        tile.left = last.left + last.width - tile.width;
+        PlaceColumn(rightTiles_, tile, 2 * u);
+        const TwipsRect pencil = PencilRoom(leftTiles_, rightTiles_);
+        static_cast<HomeGround*>(client())->SetPencilRoom(PixelsOf(pencil));
       },
       [](ErrInfo&) { MsgBox(QStringLiteral("ERROR2")); });
 }
 
 void HomeForm::pic_Click(int index) {
-  Trap({}, [index](ErrInfo&) { ShowForm(kSubject[index - 1].board); });
+  Trap({}, [this, index](ErrInfo&) { ShowForm(Subject(index).board); });
 }
 
 void HomeForm::lbl1_Click(int index) {
-  if (index > kSubjects) return;
+  if (Subject(index).board == nullptr) return;
   pic_Click(index);
   // A board that was left open keeps its drive when the capitals are asked for by their label, as
   // it does for all tiles.
   if (index == 1) return;
   Trap({}, [this, index](ErrInfo&) {
-    if (Form* board = LoadedForm(kSubject[index - 1].board)) {
+    if (Form* board = LoadedForm(Subject(index).board)) {
       board->SetText(QStringLiteral("txtdrv"), TextOf(QStringLiteral("txtdrv")));
     }
   });

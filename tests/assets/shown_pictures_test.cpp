@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include "app/subjects.h"
 #include "board/board.h"
 #include "home/home.h"
 #include "letters/letter_names.h"
@@ -17,7 +18,7 @@ namespace {
 class ShownPictures : public TempDrives {
  protected:
   ShownPictures() {
-    RegisterHome();
+    RegisterHome(HomeSubjects());
     RegisterBoards();
     RegisterMaths();
   }

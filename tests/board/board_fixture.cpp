@@ -59,7 +59,7 @@ std::string PlaceText(const Form& form, const QString& control) {
 
 void BoardTest::SetUp() {
   records_.reserve(kManyRecords);  // forms refer to their records
-  RegisterHome();
+  RegisterHome({});
   RegisterBoards();
   RegisterForm(Q("fbrmhom1"), [] { return new Home; });
 }

@@ -5,7 +5,8 @@
 #include <QFileInfo>
 #include <QImage>
 
-#include "home/home_form.h"
+#include "app/subjects.h"
+#include "home/home.h"
 #include "media/media.h"
 #include "media/windows_media_player.h"
 #include "tests/board/board_fixture.h"
@@ -129,7 +130,7 @@ TEST_F(Cues, SmallLettersReadFormatAndDriveFromTheCapitals) {
 
 TEST_F(Cues, CapitalsLoadedUnseenKeepTheDriveOfThatMoment) {
   // The home form with its menus and tiles, not the one of drives alone.
-  RegisterForm(Q("fbrmhom1"), [] { return new HomeForm; });
+  RegisterHome(HomeSubjects());
   ShowForm(Q("fbrmhom1"));
   const Form& home = *LoadedForm(Q("fbrmhom1"));
   const auto writeSmallA = [&home] {

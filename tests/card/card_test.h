@@ -61,7 +61,7 @@ struct PlainRecord {
 class CardTest : public TempDrives {
  protected:
   CardTest() {
-    RegisterHome();
+    RegisterHome({});
     RegisterCard();
     MakeDataFolder();
     SetToday(QDate(2025, 3, 9));

@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include "app/subjects.h"
 #include "board/board.h"
 #include "card/card.h"
 #include "home/home.h"
@@ -74,7 +75,7 @@ std::string Sorted(const QSet<QString>& names) {
 class FormsPage : public TempDrives {
  protected:
   void SetUp() override {
-    RegisterHome();
+    RegisterHome(HomeSubjects());
     RegisterCard();
     RegisterMedia();
     RegisterBoards();

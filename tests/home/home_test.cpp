@@ -77,6 +77,29 @@ TEST_F(Home, ItsWordsAreTheTold) {
   EXPECT_TRUE(home->Named<QLineEdit>(QStringLiteral("txtdrv"))->isHidden());
 }
 
+TEST_F(Home, OffersTheSubjectsOfItsTableAndNoOther) {
+  static constexpr HomeSubject kThree[] = {
+      {"Music",  "fmusic", 0x00112233, ":/pictures/home/1.jpg"},
+      {"Shapes", nullptr,  0x00445566, nullptr                },
+      {"Words",  "fwords", 0x00778899, ":/pictures/home/2.jpg"},
+  };
+  RegisterHome(kThree);
+  for (const char* board : {"fmusic", "fwords"}) {
+    RegisterForm(board, [board] { return new DriveBoard(QString::fromLatin1(board)); });
+  }
+  const Form* home = TheForm();
+  EXPECT_EQ(home->findChildren<PictureBox*>().size(), 2);
+  EXPECT_EQ(Subject(home, 2)->text(), QStringLiteral("Shapes"));
+  EXPECT_EQ(home->findChild<Label*>(Indexed("lbl1", 4)), nullptr);
+  EXPECT_LT(PlaceOf(Tile(home, 1)).top, PlaceOf(Tile(home, 3)).top);
+  ClickOn(Subject(home, 2));
+  ClickOn(Tile(home, 3));
+  EXPECT_EQ(LoadedNames().last(), QStringLiteral("fwords"));
+  ClickOn(Subject(home, 1));
+  EXPECT_EQ(LoadedNames().last(), QStringLiteral("fmusic"));
+  EXPECT_TRUE(boxes.isEmpty());
+}
+
 TEST_F(Home, ItsMenusAreTheTold) {
   const Form* home = TheForm();
   const auto title = [home](const char* menu) {
@@ -290,6 +313,9 @@ TEST_F(Home, ExitEndsWithoutAWordThoughAFormCannotGo) {
 
 /// One that fails over the first thing its load stores.
 class FailingHome : public HomeForm {
+ public:
+  FailingHome() : HomeForm(HomeSubjects()) {}
+
  protected:
   bool event(QEvent* event) override {
     if (event->type() == QEvent::DynamicPropertyChange) {

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QTest>
 
+#include "app/subjects.h"
 #include "card/card.h"
 #include "home/home.h"
 #include "tests/files/temp_drives.h"
@@ -35,7 +36,7 @@ inline QStringList LoadedNames() {
 class ShellForms : public TempDrives {
  protected:
   ShellForms() {
-    RegisterHome();
+    RegisterHome(HomeSubjects());
     RegisterCard();
     SetScreen(ScreenSize{.width = 15360, .height = 11520});
     ReplaceEndProgram([this] { ++ends; });

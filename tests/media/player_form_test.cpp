@@ -425,7 +425,7 @@ class FailingPlayerForm : public PlayerFormTest {
   FailingPlayerForm() {
     UnloadForm(form);
     MakeDataFolder();
-    RegisterHome();
+    RegisterHome({});
     RegisterForm(kForm, [] { return new TroubledPlayerForm; });
     failing = dynamic_cast<TroubledPlayerForm*>(LoadForm(kForm));
   }

@@ -15,6 +15,7 @@
 #include <malloc.h>
 #endif
 
+#include "app/subjects.h"
 #include "board/board.h"
 #include "card/card.h"
 #include "home/home.h"
@@ -207,7 +208,7 @@ TEST(SweepOfAnAfternoon, EndsWithoutAFaultAndInNoMoreMemory) {
   ReplaceMessageBoxes({.show = [&](const QString&, const QString&) { ++boxes; },
                        .ask = [&](const QString&) { return ++boxes % 2 == 0; }});
   ReplaceEndProgram([&] { ++ends; });
-  RegisterHome();
+  RegisterHome(HomeSubjects());
   RegisterCard();
   RegisterMedia();
   RegisterBoards();

@@ -31,7 +31,7 @@ QByteArray Record(char count, const char* serial, const QByteArray& message) {
 class Report : public TempDrives {
  protected:
   Report() {
-    RegisterHome();
+    RegisterHome({});
     SetScreen(ScreenSize{.width = 15360, .height = 11520});
   }
   ~Report() override { SetScreen({}); }

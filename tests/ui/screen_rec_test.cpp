@@ -46,7 +46,7 @@ TEST_F(ScreenSizes, OfAScreen900PixelsHighAreATie) {
 }
 
 TEST_F(ScreenSizes, ComeWithAFlagThatEachFormTakesOver) {
-  RegisterHome();
+  RegisterHome({});
   RegisterCard();
   MakeDataFolder();
   SetScreen(ScreenSize{.width = 15360, .height = 11520});
@@ -57,7 +57,7 @@ TEST_F(ScreenSizes, ComeWithAFlagThatEachFormTakesOver) {
 }
 
 TEST_F(ScreenSizes, TooLargeAreReportedOnceWithoutALoop) {
-  RegisterHome();
+  RegisterHome({});
   RegisterCard();
   MakeDataFolder();
   const TrapLog log;
@@ -71,7 +71,7 @@ TEST_F(ScreenSizes, TooLargeAreReportedOnceWithoutALoop) {
 }
 
 TEST_F(ScreenSizes, CheckTheirProductsForOverflow) {
-  RegisterHome();
+  RegisterHome({});
   RegisterCard();
   MakeDataFolder();
   EXPECT_EQ(Filled(13'000'000, 11520).ScaleFlag, 1);

@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 #include <thread>
 
+#include "app/subjects.h"
 #include "board/board.h"
 #include "card/card.h"
 #include "home/home.h"
@@ -33,7 +34,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("bramlee"));
   QApplication::setQuitOnLastWindowClosed(false);
-  RegisterHome();
+  RegisterHome(HomeSubjects());
   RegisterCard();
   RegisterMedia();
   RegisterBoards();
