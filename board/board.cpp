@@ -5,11 +5,11 @@
 #include <algorithm>
 
 #include "board/reach.h"
+#include "files/environment.h"
 #include "files/numbers.h"
 #include "files/trap.h"
 #include "letters/letter_names.h"
 #include "media/media.h"
-#include "ui/form_ids.h"
 #include "ui/forms.h"
 #include "ui/screen.h"
 
@@ -96,9 +96,7 @@ void Board::Form_Load() {
 }
 
 void Board::RunFormLoad() {
-  if (Form* home = LoadForm(kHomeForm)) {
-    SetText(QStringLiteral("txtdrv"), home->TextOf(QStringLiteral("txtdrv")));
-  }
+  if (const auto drive = TheEnvironment().mediaDrive()) SetText(QStringLiteral("txtdrv"), *drive);
   record_.layOut(*this);
   FitSheet();
 }

@@ -37,7 +37,7 @@ class Board : public Form {
   const LetterSet& letters() const { return letters_; }  ///< what its tiles write
   Sheet& sheet() const { return *sheet_; }               ///< what they write on; the client
 
-  /// As large as the screen, the home form's drive in txtdrv, the tiles in their places.
+  /// As large as the screen, the media's drive in txtdrv, the tiles in their places.
   void Form_Load() override;
   /// Comes into view maximised.
   void Present() override;

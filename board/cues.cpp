@@ -45,6 +45,7 @@ static_assert(std::size(kCueSets) == std::size(kSoundSets));
 
 constexpr std::int16_t kMathsSet = 7;
 
+/// By its id, as a cue is required to ask boards that nobody has opened yet: they load unseen.
 const Form* Loaded(const char* name) {
   const Form* form = LoadForm(name);
   if (form == nullptr) throw TrappedError(QStringLiteral("no form of that name"));

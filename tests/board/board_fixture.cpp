@@ -10,11 +10,6 @@
 namespace bramlee {
 namespace {
 
-class Home : public Form {
- public:
-  Home() : Form(Q("fbrmhom1")) { AddHiddenText(Q("txtdrv"), Q("C:")); }
-};
-
 constexpr int kManyRecords = 8;
 
 }  // namespace
@@ -61,7 +56,7 @@ void BoardTest::SetUp() {
   records_.reserve(kManyRecords);  // forms refer to their records
   RegisterHome({});
   RegisterBoards();
-  RegisterForm(Q("fbrmhom1"), [] { return new Home; });
+  TheEnvironment().mediaDrive = [this] { return drive; };
 }
 
 void BoardTest::TearDown() {

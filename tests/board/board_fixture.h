@@ -1,5 +1,5 @@
-// What tests of boards share: real forms by their names, real menu items and tiles, a home form
-// that is nothing but its drive, and drives without a sound.
+// What tests of boards share: real forms by their names, real menu items and tiles, a drive
+// of the test's own choice, and drives without a sound.
 #pragma once
 
 #include <QColor>
@@ -47,6 +47,8 @@ class BoardTest : public TempDrives {
   Board& Open(const char* form);
   /// A board of a changed record, loaded unseen under the record's name.
   Board& Open(const BoardRecord& record);
+
+  std::optional<QString> drive = Q("C:");  ///< the one chosen for the media
 
  private:
   std::vector<BoardRecord> records_;

@@ -264,9 +264,14 @@ TEST_F(BoardMenus, BackUnloadsTheBoard) {
   }
 }
 
-TEST_F(BoardMenus, TheDriveIsThatOfHomeWhenTheBoardIsLoaded) {
-  LoadForm(Q("fbrmhom1"))->SetText(Q("txtdrv"), Q("E:"));
+TEST_F(BoardMenus, TheDriveIsTheMediasWhenTheBoardIsLoaded) {
+  drive = Q("E:");
   for (const char* form : kAllBoards) EXPECT_EQ(Open(form).TextOf(Q("txtdrv")), Q("E:")) << form;
+}
+
+TEST_F(BoardMenus, TheDriveIsCWhereNoneCanBeChosen) {
+  drive.reset();
+  for (const char* form : kAllBoards) EXPECT_EQ(Open(form).TextOf(Q("txtdrv")), Q("C:")) << form;
 }
 
 TEST_F(BoardMenus, OnHindiVowelsAPickTakesAMarkAwayBeforeAnotherSetsASpeed) {

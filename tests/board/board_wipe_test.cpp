@@ -112,10 +112,10 @@ TEST_F(Wipe, LosesAFormatChosenWhilePlayIsOff) {
   EXPECT_FALSE(board.Checked(Q("mnuaud")));
 }
 
-TEST_F(Wipe, PutsTheBoardsOwnDriveBackWhateverHomesIs) {
+TEST_F(Wipe, PutsTheBoardsOwnDriveBackWhateverTheMediasIs) {
   Board& board = Open("fbrmengc02");
   board.SetText(Q("txtdrv"), Q("D:"));
-  LoadForm(Q("fbrmhom1"))->SetText(Q("txtdrv"), Q("E:"));
+  drive = Q("E:");
   Pick(board, "mnuclear1");
   EXPECT_EQ(board.TextOf(Q("txtdrv")), Q("D:"));
 }

@@ -30,10 +30,6 @@ class Cues : public BoardTest {
     MakeDataFolder();
   }
 
-  static void ChooseDrive(const char* drive) {
-    LoadForm(Q("fbrmhom1"))->SetText(Q("txtdrv"), Q(drive));
-  }
-
   /// A file in a sound's place.
   void Record(const char* file) const {
     QDir().mkpath(QFileInfo(On(file)).path());
@@ -81,7 +77,7 @@ TEST_F(Cues, ALettersNumberHasNoLeadingZeros) {
 }
 
 TEST_F(Cues, AChosenDriveAndFormatAreInThePath) {
-  ChooseDrive("D:");
+  drive = Q("D:");
   Board& capitals = Open("fbrmengc02");
   capitals.mnuaud_Click();
   Pick(capitals, "mnufor(2)");
@@ -202,7 +198,7 @@ TEST_F(Cues, ADiscsTrackIsPassedOnLikeAnyOtherFile) {
 }
 
 TEST_F(Cues, AMissingFileShowsOneMessageAndLoadsNoPlayer) {
-  ChooseDrive("X:");
+  drive = Q("X:");
   EXPECT_EQ(PlayCue(1, 1), 0);
   ASSERT_EQ(boxes.size(), 1);
   EXPECT_EQ(boxes[0].toStdString(), R"(X:\bramlee\aud\engc\eng-a.wma Not Found: )");

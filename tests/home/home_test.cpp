@@ -17,16 +17,24 @@ namespace {
 const char* const kBoards[] = {"fbrmengc02", "fbrmengs01", "fbrmhinv01", "fbrmhinc01",
                                "fbrmtelv01", "fbrmtelc01", "fbrmmat01"};
 
-/// A board as home knows it: it takes the drive over when it is loaded.
+/// A board as home knows it: it takes the media's drive when it is loaded.
 class DriveBoard : public Form {
  public:
   explicit DriveBoard(const QString& name) : Form(name) {
     AddHiddenText(QStringLiteral("txtdrv"), QStringLiteral("?:"));
   }
-  void Form_Load() override {
-    SetText(QStringLiteral("txtdrv"),
-            LoadForm(QStringLiteral("fbrmhom1"))->TextOf(QStringLiteral("txtdrv")));
-  }
+  void Form_Load() override { SetText(QStringLiteral("txtdrv"), *TheEnvironment().mediaDrive()); }
+};
+
+/// A form whose unload the test watches.
+class WatchedForm : public Form {
+ public:
+  WatchedForm(const QString& name, std::function<void()> atUnload)
+      : Form(name), atUnload_(std::move(atUnload)) {}
+  void Form_Unload() override { atUnload_(); }
+
+ private:
+  std::function<void()> atUnload_;
 };
 
 class Home : public ShellForms {
@@ -195,6 +203,26 @@ TEST_F(Home, ABoardLoadedFreshTakesTheDriveOver) {
   EXPECT_EQ(DriveOf("fbrmengc02"), QStringLiteral("E:"));
 }
 
+TEST_F(Home, LoadsUnseenForWhoAsksForTheMediasDrive) {
+  EXPECT_EQ(TheEnvironment().mediaDrive(), QStringLiteral("C:"));
+  ASSERT_NE(Loaded("fbrmhom1"), nullptr);
+  EXPECT_FALSE(Loaded("fbrmhom1")->isVisible());
+  Item(Loaded("fbrmhom1"), "mnudrv(5)")->trigger();
+  EXPECT_EQ(TheEnvironment().mediaDrive(), QStringLiteral("E:"));
+}
+
+TEST_F(Home, HasNoDriveForTheMediaWhileAllFormsGo) {
+  std::optional<QString> drive = QStringLiteral("not asked");
+  RegisterForm(QStringLiteral("fbrmmat01"), [&drive] {
+    return new WatchedForm(QStringLiteral("fbrmmat01"),
+                           [&drive] { drive = TheEnvironment().mediaDrive(); });
+  });
+  ShowForm(QStringLiteral("fbrmmat01"));
+  UnloadAll();
+  EXPECT_EQ(drive, std::nullopt);
+  EXPECT_TRUE(LoadedForms().isEmpty());
+}
+
 TEST_F(Home, ABoardLeftOpenGetsTheDriveByItsLabelAlone) {
   const Form* home = TheForm();
   for (int i = 1; i <= 7; ++i) ClickOn(Tile(home, i));
@@ -249,17 +277,6 @@ TEST_F(Home, ExitUnloadsAllAndEndsWithoutAQuestion) {
   EXPECT_TRUE(boxes.isEmpty());
   EXPECT_TRUE(questions.isEmpty());
 }
-
-/// A form whose unload the test watches.
-class WatchedForm : public Form {
- public:
-  WatchedForm(const QString& name, std::function<void()> atUnload)
-      : Form(name), atUnload_(std::move(atUnload)) {}
-  void Form_Unload() override { atUnload_(); }
-
- private:
-  std::function<void()> atUnload_;
-};
 
 TEST_F(Home, ExitUnloadsFromTheLastToTheFirstTheUnseenOnesToo) {
   QList<QStringList> stillThere;
