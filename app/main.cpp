@@ -26,7 +26,8 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("bramlee"));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/bramlee.png")));
   QApplication::setQuitOnLastWindowClosed(false);
-  bramlee::TheEnvironment().tell = [](const QString& text) { bramlee::MsgBox(text); };
+  bramlee::Environment environment;
+  bramlee::UseMessageBoxes(environment);
   bramlee::RegisterHome(bramlee::HomeSubjects());
   bramlee::RegisterCard();
   bramlee::RegisterMedia();

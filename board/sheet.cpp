@@ -13,19 +13,14 @@
 namespace bramlee {
 namespace {
 
-bool& Paced() {
-  static bool paced = QGuiApplication::platformName() != QStringLiteral("offscreen");
-  return paced;
+bool HasDisplay() {
+  return QGuiApplication::platformName() != QStringLiteral("offscreen");
 }
 
 }  // namespace
 
 Sheet::Sheet(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-void Sheet::SetPaced(bool paced) {
-  Paced() = paced && QGuiApplication::platformName() != QStringLiteral("offscreen");
 }
 
 void Sheet::EndRun() {
@@ -75,7 +70,7 @@ Sheet::Writing::~Writing() {
 }
 
 void Sheet::BeginWriting() {
-  if (!Paced() || !isVisible()) return;
+  if (!HasDisplay() || !isVisible()) return;
   pace_.Begin(screen()->refreshRate());
   dotsToFrame_ = pace_.DotsPerFrame();
 }

@@ -77,10 +77,6 @@ class Sheet final : public QWidget, public RewindableSurface {
     HoldInput hold_;
   };
 
-  /// Whether the pen keeps its pace on windows that one sees; it does at first. Where there is
-  /// no display it never does.
-  static void SetPaced(bool paced);
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "files/clock.h"
 #include "files/drives.h"
+#include "files/environment.h"
 #include "files/numbers.h"
 #include "files/trap.h"
 
@@ -24,7 +24,7 @@ StudentRec DefaultCard() {
   rec.PocketMoney = 100;
   rec.ItemAmount = 100;
   rec.Balance = 0;
-  const QDate today = Today();
+  const QDate today = TheEnvironment().today();
   rec.EnterDay = RoundToInteger(today.day());
   rec.EnterMonth = RoundToInteger(today.month());
   rec.EnterYear = RoundToInteger(today.year());

@@ -5,8 +5,8 @@
 #include "card/card_file.h"
 #include "card/card_layout.h"
 #include "card/load_picture.h"
-#include "files/clock.h"
 #include "files/drives.h"
+#include "files/environment.h"
 #include "files/numbers.h"
 #include "files/trap.h"
 #include "ui/form_ids.h"
@@ -176,7 +176,7 @@ void CardForm::ShowPicture(const QString& path, const QString& picture) {
 }
 
 void CardForm::NewCardItem() {
-  const QDate today = Today();
+  const QDate today = TheEnvironment().today();
   ItemTexts texts;
   texts.fill(QStringLiteral("?..."));
   texts[0] = QString::number(today.day());

@@ -1,11 +1,11 @@
 #include "ui/forms.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QMdiSubWindow>
 #include <QScopeGuard>
 #include <utility>
 
+#include "files/environment.h"
 #include "files/trap.h"
 #include "ui/form.h"
 #include "ui/form_ids.h"
@@ -18,7 +18,6 @@ struct FormList {
   QList<Form*> loaded;
   QList<Form*> unloading;
   bool unloadingAll = false;
-  std::function<void()> end;
 };
 
 FormList& List() {
@@ -99,8 +98,7 @@ void UnloadAll() {
 }
 
 void EndProgram() {
-  if (List().end) return List().end();
-  QCoreApplication::exit(0);
+  TheEnvironment().endProgram();
 }
 
 void DestroyForms() {
@@ -113,10 +111,6 @@ void DestroyForms() {
       delete *form;
     }
   }
-}
-
-void ReplaceEndProgram(std::function<void()> end) {
-  List().end = std::move(end);
 }
 
 }  // namespace bramlee

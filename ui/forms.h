@@ -45,7 +45,4 @@ void EndProgram();
 /// Destroys whatever form is left once the event loop has ended. Runs no handler.
 void DestroyForms();
 
-/// What EndProgram does instead, for tests; an empty function brings the real one back.
-void ReplaceEndProgram(std::function<void()> end);
-
 }  // namespace bramlee

@@ -5,23 +5,17 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
-#include <utility>
 
 namespace bramlee {
 namespace {
 
-MessageBoxes& Replaced() {
-  static MessageBoxes boxes;
-  return boxes;
-}
-
-/// A plain text with a title in the middle of the primary screen, where the forms are; by itself a
-/// box goes to the screen that the pointer is on.
+/// A plain text with the program's title in the middle of the primary screen, where the forms are;
+/// by itself a box goes to the screen that the pointer is on.
 class TextInTheMiddle : public QMessageBox {
  public:
-  TextInTheMiddle(const QString& text, const QString& title) {
+  explicit TextInTheMiddle(const QString& text) {
     setObjectName(QStringLiteral("MsgBox"));
-    setWindowTitle(title);
+    setWindowTitle(QStringLiteral("BRAM LEE"));
     setTextFormat(Qt::PlainText);
     setText(text);
     setAccessibleName(text);
@@ -37,26 +31,33 @@ class TextInTheMiddle : public QMessageBox {
   }
 };
 
-}  // namespace
-
-void MsgBox(const QString& text, const QString& title) {
-  if (Replaced().show) return Replaced().show(text, title);
-  TextInTheMiddle box(text, title);
+void ShowBox(const QString& text) {
+  TextInTheMiddle box(text);
   box.setStandardButtons(QMessageBox::Ok);
   box.exec();
 }
 
-bool AskBox(const QString& text, const QString& yes, const QString& no) {
-  if (Replaced().ask) return Replaced().ask(text);
-  TextInTheMiddle box(text, QStringLiteral("BRAM LEE"));
+bool AskInBox(const QString& text, const QString& yes, const QString& no) {
+  TextInTheMiddle box(text);
   const auto* agree = box.addButton(yes, QMessageBox::AcceptRole);
   box.setDefaultButton(box.addButton(no, QMessageBox::RejectRole));
   box.exec();
   return box.clickedButton() == agree;
 }
 
-MessageBoxes ReplaceMessageBoxes(MessageBoxes boxes) {
-  return std::exchange(Replaced(), std::move(boxes));
+}  // namespace
+
+void MsgBox(const QString& text) {
+  TheEnvironment().tell(text);
+}
+
+bool AskBox(const QString& text, const QString& yes, const QString& no) {
+  return TheEnvironment().ask(text, yes, no);
+}
+
+void UseMessageBoxes(Environment& environment) {
+  environment.tell = ShowBox;
+  environment.ask = AskInBox;
 }
 
 }  // namespace bramlee

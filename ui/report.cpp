@@ -32,7 +32,7 @@ void ShowNotice(const QString& text) {
 
 void TellThatReportFailed() {
   if (Form* notice = LoadedForm(kReportNotice)) UnloadForm(notice);
-  MsgBox(QStringLiteral("Message Box Routine: Error"), QStringLiteral("BRAM LEE"));
+  MsgBox(QStringLiteral("Message Box Routine: Error"));
 }
 
 /// The number of the next report. A count that the file cannot have is not followed: the report

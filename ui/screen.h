@@ -2,23 +2,15 @@
 #pragma once
 
 #include <QPoint>
-#include <optional>
+
+#include "files/environment.h"
 
 namespace bramlee {
 
-/// A screen's size in twips.
-struct ScreenSize {
-  double width;
-  double height;
-};
-
-/// The primary screen, all of it, or the size that SetScreen gave.
+/// The environment's screen, or else the primary one, all of it.
 ScreenSize Screen();
 
 /// Where the primary screen's top left lies among all screens, in pixels.
 QPoint ScreenOrigin();
-
-/// Lays the forms out for a screen of that size from now on; nothing brings the real one back.
-void SetScreen(std::optional<ScreenSize> size);
 
 }  // namespace bramlee

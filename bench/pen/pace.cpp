@@ -13,6 +13,7 @@
 
 #include "board/board.h"
 #include "engine/drawing_surface.h"
+#include "files/environment.h"
 #include "ui/forms.h"
 
 namespace bramlee {
@@ -86,6 +87,7 @@ void WriteAlphabet(Board& board) {
 int main(int argc, char** argv) {
   using namespace bramlee;
   QApplication app(argc, argv);
+  const Environment environment;
   RegisterBoards();
   auto* board = static_cast<Board*>(LoadForm(QStringLiteral("fbrmengc02")));
   board->Present();

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <optional>
 
 #include "tests/board/board_fixture.h"
 #include "ui/forms.h"
@@ -15,11 +14,7 @@ class Charts : public BoardTest {
  protected:
   void SetUp() override {
     BoardTest::SetUp();
-    SetScreen(ScreenSize{.width = 15360, .height = 11520});
-  }
-  void TearDown() override {
-    SetScreen(std::nullopt);
-    BoardTest::TearDown();
+    environment.screen = ScreenSize{.width = 15360, .height = 11520};
   }
 };
 

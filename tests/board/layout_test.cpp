@@ -32,14 +32,13 @@ bool EverShown(const Board& board, int tile) {
 }
 
 TEST_F(Layout, EveryBoardIsAsLargeAsTheScreenBeforeItIsMaximised) {
-  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  environment.screen = ScreenSize{.width = 15360, .height = 11520};
   for (const char* form : kAllBoards) {
     Board& board = Open(form);
     EXPECT_EQ(PixelsOf(board.Outer()), QRect(0, 0, 1024, 768)) << form;
     ShowForm(Q(form));
     EXPECT_TRUE(board.isMaximized()) << form;
   }
-  SetScreen({});
 }
 
 TEST_F(Layout, CapitalsStandInTheShapeOfAnA) {

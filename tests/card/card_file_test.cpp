@@ -289,8 +289,7 @@ TEST_F(BiodataCard, ItsRoutinesLogTheirTags) {
   EXPECT_EQ(Card()->SaveCard(recNo, false), 1);
   EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));  // another item
   TrapLog::Lines().clear();
-  ReplaceMessageBoxes(
-      {.show = [](const QString&, const QString&) { throw std::bad_alloc(); }, .ask = {}});
+  environment.tell = [](const QString&) { throw std::bad_alloc(); };
   Remove();
   EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));  // the click
   TrapLog::Lines().clear();

@@ -248,9 +248,7 @@ TEST_F(BiodataCard, IsNeverThereTwice) {
   Put(Items(2));
   Open();
   QList<qsizetype> cards;
-  ReplaceMessageBoxes(
-      {.show = [&](const QString&, const QString&) { cards.append(LoadedForms().size()); },
-       .ask = {}});
+  environment.tell = [&](const QString&) { cards.append(LoadedForms().size()); };
   CardForm* before = Card();
   Save();
   EXPECT_EQ(cards, QList<qsizetype>{1});
@@ -264,8 +262,7 @@ TEST_F(BiodataCard, IsNeverThereTwice) {
 TEST_F(BiodataCard, ClosedWhileAMessageIsShownStaysClosed) {
   Put(Items(2));
   Open();
-  ReplaceMessageBoxes(
-      {.show = [](const QString&, const QString&) { UnloadForm(Card()); }, .ask = {}});
+  environment.tell = [](const QString&) { UnloadForm(Card()); };
   Save();
   EXPECT_EQ(Card(), nullptr);
 }

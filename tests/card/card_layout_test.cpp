@@ -36,9 +36,8 @@ TEST_F(BiodataCard, BackUnloadsIt) {
 TEST_F(BiodataCard, ExitUnloadsAllAndEnds) {
   Open();
   bool ended = false;
-  ReplaceEndProgram([&] { ended = true; });
+  environment.endProgram = [&] { ended = true; };
   Card()->Named<QAction>(QStringLiteral("mnufile(2)"))->trigger();
-  ReplaceEndProgram({});
   EXPECT_TRUE(ended);
   EXPECT_TRUE(LoadedForms().isEmpty());
 }
@@ -131,17 +130,17 @@ TEST_F(BiodataCard, ItsMenuIsWorkedFromTheKeyboard) {
 }
 
 TEST_F(BiodataCard, StandsInTheMiddleOfTheScreen) {
-  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  environment.screen = ScreenSize{.width = 15360, .height = 11520};
   Open();
   const TwipsRect outer = Card()->Outer();
   EXPECT_NEAR(2 * outer.left + outer.width, 15360, 2 * kTwipsPerPixel);
   EXPECT_NEAR(2 * outer.top + outer.height, 11520, 2 * kTwipsPerPixel);
-  SetScreen({});
 }
 
 TEST_F(BiodataCard, FitsIntoItself) {
   for (const QSize& screen : {QSize(1024, 768), QSize(1366, 768), QSize(1920, 1080)}) {
-    SetScreen(ScreenSize{.width = 15.0 * screen.width(), .height = 15.0 * screen.height()});
+    environment.screen =
+        ScreenSize{.width = 15.0 * screen.width(), .height = 15.0 * screen.height()};
     Open();
     EXPECT_NEAR(Card()->Outer().width, 0.7 * 0.999 * 15 * screen.width(), 10);
     EXPECT_NEAR(Card()->Outer().height, 0.8 * 0.999 * 15 * screen.height(), 10);
@@ -165,7 +164,6 @@ TEST_F(BiodataCard, FitsIntoItself) {
     }
     UnloadAll();
   }
-  SetScreen({});
 }
 
 }  // namespace

@@ -21,7 +21,6 @@ class CardSays : public CardTest {
     Put(Items(2));
     Open();
   }
-  ~CardSays() override { SetScreen({}); }
 
   static const Label* Line() { return Card()->Named<Label>(QStringLiteral("lblsaid")); }
   /// A new item that waits to be saved.
@@ -196,7 +195,8 @@ TEST_F(CardSays, ItWholeBelowTheButtonsOnEveryScreen) {
            On{{3840, 2160}, 19}
   }) {
     UnloadAll();
-    SetScreen(ScreenSize{.width = 15.0 * on.screen.width(), .height = 15.0 * on.screen.height()});
+    environment.screen =
+        ScreenSize{.width = 15.0 * on.screen.width(), .height = 15.0 * on.screen.height()};
     Open();
     Pick(0, 1);
     Type(4, "77");

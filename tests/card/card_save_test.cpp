@@ -12,7 +12,7 @@ namespace {
 TEST_F(BiodataCard, NewMakesRoomForAnItem) {
   Put(Items(2));
   Open();
-  SetToday(QDate(2026, 12, 31));
+  environment.today = [] { return QDate(2026, 12, 31); };
   New();
   EXPECT_EQ(Row(),
             Texts({"31", "12", "2026", "Item Name...", "?...", "?...", "?...", "?...", "?..."}));
@@ -241,14 +241,12 @@ TEST_F(BiodataCard, KeepsItsOldPathWhenTheNewOneIsNotFound) {
   QString shown;
   ColourWord ground = 0;
   ColourWord other = 0;
-  ReplaceMessageBoxes({.show =
-                           [&](const QString& text, const QString&) {
-                             boxes.append(text);
-                             shown = Box(3)->text();
-                             ground = BackColorOf(Box(3));
-                             other = BackColorOf(Box(4));
-                           },
-                       .ask = {}});
+  environment.tell = [&](const QString& text) {
+    boxes.append(text);
+    shown = Box(3)->text();
+    ground = BackColorOf(Box(3));
+    other = BackColorOf(Box(4));
+  };
   Save();
   EXPECT_EQ(boxes, Texts({"Saved Successfully"}));
   EXPECT_EQ(shown, QStringLiteral("C:\\gone.jpg Not Found:"));

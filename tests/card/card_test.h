@@ -6,7 +6,6 @@
 
 #include "card/card.h"
 #include "card/card_form.h"
-#include "files/clock.h"
 #include "home/home.h"
 #include "tests/files/temp_drives.h"
 #include "ui/forms.h"
@@ -64,7 +63,7 @@ class CardTest : public TempDrives {
     RegisterHome({});
     RegisterCard();
     MakeDataFolder();
-    SetToday(QDate(2025, 3, 9));
+    environment.today = [] { return QDate(2025, 3, 9); };
     QImage red(20, 10, QImage::Format_RGB32);
     red.fill(Qt::red);
     red.save(On("c/id.png"));
@@ -72,7 +71,6 @@ class CardTest : public TempDrives {
     blue.fill(Qt::blue);
     blue.save(On("c/logo.png"));
   }
-  ~CardTest() override { SetToday({}); }
 
   QString Place() const { return On("c/bramlee/dba/brmstu1.dat"); }
   QByteArray File() const { return BytesOf(Place()); }

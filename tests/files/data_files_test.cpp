@@ -138,7 +138,7 @@ TEST_F(FileTable, EndsAtSlotTwenty) {
 
 TEST_F(FileTable, LogsItsTagWhenItsMessageFails) {
   const TrapLog log;
-  TheEnvironment().tell = [](const QString&) { throw std::bad_alloc(); };
+  environment.tell = [](const QString&) { throw std::bad_alloc(); };
   std::int16_t result = 0;
   Asked(21, &result);
   EXPECT_EQ(result, 1);

@@ -11,7 +11,6 @@
 #include "files/drives.h"
 #include "files/environment.h"
 #include "ui/forms.h"
-#include "ui/message_box.h"
 
 namespace bramlee {
 
@@ -27,8 +26,8 @@ inline void WriteBytes(const QString& systemPath, const QByteArray& bytes) {
   ASSERT_EQ(file.write(bytes), bytes.size());
 }
 
-/// Tests with drives. `boxes` are the texts shown, `titles` their titles, `questions` the texts
-/// asked; a question is answered by `answer`.
+/// Tests with drives. `boxes` are the texts shown, `questions` the texts asked; a question is
+/// answered by `answer`. What a test puts into the environment goes with the test.
 class TempDrives : public ::testing::Test {
  protected:
   TempDrives() {
@@ -36,21 +35,14 @@ class TempDrives : public ::testing::Test {
     QDir().mkpath(drives_.filePath(QStringLiteral("c")));
     ChDrive(QStringLiteral("C:"));
     ChDir(QStringLiteral("C:\\"));
-    TheEnvironment().tell = [](const QString& text) { MsgBox(text); };
-    before_ = ReplaceMessageBoxes({.show =
-                                       [this](const QString& text, const QString& title) {
-                                         boxes.append(text);
-                                         titles.append(title);
-                                       },
-                                   .ask =
-                                       [this](const QString& text) {
-                                         questions.append(text);
-                                         return answer;
-                                       }});
+    environment.tell = [this](const QString& text) { boxes.append(text); };
+    environment.ask = [this](const QString& text, const QString&, const QString&) {
+      questions.append(text);
+      return answer;
+    };
   }
   ~TempDrives() override {
     UnloadAll();
-    ReplaceMessageBoxes(before_);
     qunsetenv("BRAMLEE_DRIVES");
   }
   TempDrives(const TempDrives&) = delete;
@@ -60,14 +52,13 @@ class TempDrives : public ::testing::Test {
   QString On(const char* place) const { return drives_.filePath(QString::fromUtf8(place)); }
   void MakeDataFolder() const { QDir().mkpath(On("c/bramlee/dba")); }
 
+  Environment environment;
   QStringList boxes;
-  QStringList titles;
   QStringList questions;
   bool answer = true;
 
  private:
   QTemporaryDir drives_;
-  MessageBoxes before_;
 };
 
 }  // namespace bramlee

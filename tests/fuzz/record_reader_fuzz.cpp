@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "files/environment.h"
 #include "tests/fuzz/record_reader.h"
-#include "ui/message_box.h"
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size);
@@ -18,7 +18,7 @@ int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
                                     QStringLiteral("/bramlee-fuzz-XXXXXX"));
   QDir().mkpath(drives.filePath(QStringLiteral("c/bramlee/dba")));
   qputenv("BRAMLEE_DRIVES", QFile::encodeName(drives.path()));
-  bramlee::ReplaceMessageBoxes({.show = [](const QString&, const QString&) {}, .ask = {}});
+  static const bramlee::Environment environment;  // which shows and asks nothing
   return 0;
 }
 

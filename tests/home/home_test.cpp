@@ -352,7 +352,7 @@ TEST_F(Home, ALoadThatFailsIsToldAndReported) {
 }
 
 TEST_F(Home, ExitEndsTheProgramWithStatusNought) {
-  ReplaceEndProgram({});
+  environment.endProgram = realEnd;
   const Form* home = TheForm();
   QTimer::singleShot(0, home, [home] { Item(home, "mnuexit")->trigger(); });
   EXPECT_EQ(QApplication::exec(), 0);
@@ -377,7 +377,7 @@ const HomeOn kHomeOn[] = {
 class HomeLayout : public Home, public ::testing::WithParamInterface<HomeOn> {
  protected:
   HomeLayout() {
-    SetScreen(GetParam().screen);
+    environment.screen = GetParam().screen;
     home = TheForm();
     QCoreApplication::processEvents();
   }
@@ -524,7 +524,7 @@ TEST_F(Home, ItsRoutinesLogTheirTags) {
   }
   EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));
   TrapLog::Lines().clear();
-  ReplaceEndProgram([] { throw TrappedError(QStringLiteral("no end")); });
+  environment.endProgram = [] { throw TrappedError(QStringLiteral("no end")); };
   TheForm()->mnuexit_Click();
   EXPECT_EQ(TrapLog::Tags(), Tags({"603:02"}));
 }

@@ -38,14 +38,12 @@ class ShellForms : public TempDrives {
   ShellForms() {
     RegisterHome(HomeSubjects());
     RegisterCard();
-    SetScreen(ScreenSize{.width = 15360, .height = 11520});
-    ReplaceEndProgram([this] { ++ends; });
+    environment.screen = ScreenSize{.width = 15360, .height = 11520};
+    environment.endProgram = [this] { ++ends; };
   }
   ~ShellForms() override {
     UnloadAll();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    ReplaceEndProgram({});
-    SetScreen({});
   }
 
   static Form* Shown(const char* name) {
@@ -57,6 +55,7 @@ class ShellForms : public TempDrives {
     return form->Named<QAction>(QString::fromLatin1(name));
   }
 
+  const std::function<void()> realEnd = environment.endProgram;
   int ends = 0;  ///< how often the program was asked to end
 };
 

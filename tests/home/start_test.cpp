@@ -84,7 +84,7 @@ const StartOn kStartOn[] = {
 TEST_F(Start, IsLaidOutByItsOwnSize) {
   for (const StartOn& on : kStartOn) {
     SCOPED_TRACE(on.screen.width);
-    SetScreen(on.screen);
+    environment.screen = on.screen;
     Form* form = LoadForm(QStringLiteral("fbrmsta1"));
     ExpectRect(form->Outer(), on.form);
     for (int i = 0; i < 3; ++i) ExpectRect(LineAt(form, i), on.lines[i]);
@@ -94,7 +94,7 @@ TEST_F(Start, IsLaidOutByItsOwnSize) {
 
 TEST_F(Start, TheTitleStaysWithinItsLines) {
   for (const StartOn& on : kStartOn) {
-    SetScreen(on.screen);
+    environment.screen = on.screen;
     const Form* form = LoadForm(QStringLiteral("fbrmsta1"));
     for (int i = 0; i < 3; ++i) {
       const auto* line = form->Named<Label>(Indexed("lblsta", i));
@@ -175,7 +175,7 @@ const WayOn kWayOn[] = {
 TEST_F(Start, TheTitleMovesByTheScreensSizeNotTheForms) {
   for (const WayOn& on : kWayOn) {
     SCOPED_TRACE(on.screen.width);
-    SetScreen(on.screen);
+    environment.screen = on.screen;
     StartForm* form = TheForm();
     form->tmr1_Timer();
     EXPECT_EQ(LineAt(form, 0).left, on.line0At1);
@@ -205,13 +205,13 @@ TEST_F(Start, AFailedTickLosesOnlyThatTick) {
   StartForm* form = TheForm();
   form->tmr1_Timer();
   const double left = LineAt(form, 0).left;
-  SetScreen(ScreenSize{.width = 1e15, .height = 11520});
+  environment.screen = ScreenSize{.width = 1e15, .height = 11520};
   form->tmr1_Timer();
   form->tmr2_Timer();
   EXPECT_EQ(LineAt(form, 0).left, left);
   EXPECT_TRUE(boxes.isEmpty());
   EXPECT_EQ(Loaded("fcomsav1"), nullptr);
-  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  environment.screen = ScreenSize{.width = 15360, .height = 11520};
   form->tmr1_Timer();
   EXPECT_GT(LineAt(form, 0).left, left);
 }
@@ -286,7 +286,7 @@ TEST_F(Start, ExitEndsAtOnceWithoutUnloadingAndWithoutAQuestion) {
 }
 
 TEST_F(Start, ExitEndsTheProgramWithStatusNought) {
-  ReplaceEndProgram({});
+  environment.endProgram = realEnd;
   const StartForm* form = TheForm();
   QTimer::singleShot(0, form, [form] { Item(form, "mnuexit")->trigger(); });
   EXPECT_EQ(QApplication::exec(), 0);
@@ -327,7 +327,7 @@ TEST_F(Start, ItsRoutinesLogTheirTags) {
   TrapLog::Lines().clear();
   form->mnustart_Click();
   form->mnupp_Click(1);
-  SetScreen(ScreenSize{.width = 1e13, .height = 1e13});
+  environment.screen = ScreenSize{.width = 1e13, .height = 1e13};
   Tick(form->Named<QTimer>(QStringLiteral("tmr1")));
   Tick(form->Named<QTimer>(QStringLiteral("tmr2")));
   EXPECT_EQ(TrapLog::Tags(), Tags({"601:03", "601:06", "601:04", "601:05"}));

@@ -181,14 +181,11 @@ TEST_F(Drills, ResultCanOnlyBeRead) {
 TEST_F(Drills, BoardMayCloseDuringTheMessage) {
   Pick("mnuadd");
   Type("cmb(16)", "abc");
-  const MessageBoxes mine = ReplaceMessageBoxes({.show =
-                                                     [this](const QString& text, const QString&) {
-                                                       messages.append(text);
-                                                       UnloadForm(board);
-                                                     },
-                                                 .ask = {}});
+  environment.tell = [this](const QString& text) {
+    messages.append(text);
+    UnloadForm(board);
+  };
   Click("picequal");
-  ReplaceMessageBoxes(mine);
   EXPECT_EQ(messages, QStringList{QStringLiteral("Enter Number")});
   EXPECT_EQ(LoadedForm(QStringLiteral("fbrmmat01")), nullptr);
 }

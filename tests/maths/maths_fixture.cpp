@@ -9,9 +9,7 @@
 namespace bramlee {
 
 void MathsTest::SetUp() {
-  realBoxes_ = ReplaceMessageBoxes(
-      {.show = [this](const QString& text, const QString&) { messages.append(text); },
-       .ask = [](const QString&) { return false; }});
+  environment.tell = [this](const QString& text) { messages.append(text); };
   RegisterMaths();
   ShowForm(QStringLiteral("fbrmmat01"));
   board = qobject_cast<Board*>(LoadedForm(QStringLiteral("fbrmmat01")));
@@ -25,7 +23,6 @@ void MathsTest::TearDown() {
   UnloadAll();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QCoreApplication::processEvents();
-  ReplaceMessageBoxes(realBoxes_);
 }
 
 void MathsTest::Type(const char* combo, const char* text) {

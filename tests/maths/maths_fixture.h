@@ -9,8 +9,8 @@
 #include <QTest>
 
 #include "board/board.h"
+#include "files/environment.h"
 #include "maths/result_box.h"
-#include "ui/message_box.h"
 
 /// QStrings in failure messages; where gtest looks for it.
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -53,11 +53,9 @@ class MathsTest : public ::testing::Test {
   bool InkBetween(int left, int right) const;
   bool InkAt(int x, int y) const;
 
+  Environment environment;
   Board* board = nullptr;
   QStringList messages;
-
- private:
-  MessageBoxes realBoxes_;
 };
 
 }  // namespace bramlee

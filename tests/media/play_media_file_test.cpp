@@ -51,8 +51,7 @@ TEST_F(PlayMediaFileOf, AMissingFileShowsAMessageAndIsPassedOnAsWell) {
 
 TEST_F(PlayMediaFileOf, AMissingFileThatCannotBeToldLogsItsTag) {
   const TrapLog log;
-  ReplaceMessageBoxes(
-      {.show = [](const QString&, const QString&) { throw std::bad_alloc(); }, .ask = {}});
+  environment.tell = [](const QString&) { throw std::bad_alloc(); };
   PlayMediaFile(QStringLiteral("C:\\no.wav"));
   EXPECT_EQ(TrapLog::Tags(), Tags({"1207:220"}));
 }
@@ -66,15 +65,11 @@ TEST_F(PlayMediaFileOf, AMissingFileIsNotReported) {
 
 TEST_F(PlayMediaFileOf, TheCountdownMayUnloadTheFormWhileTheBoxStands) {
   LoadForm(kPlayerForm);
-  const MessageBoxes before = ReplaceMessageBoxes({.show =
-                                                       [](const QString&, const QString&) {
-                                                         UnloadForm(LoadedForm(kPlayerForm));
-                                                         QCoreApplication::sendPostedEvents(
-                                                             nullptr, QEvent::DeferredDelete);
-                                                       },
-                                                   .ask = {}});
+  environment.tell = [](const QString&) {
+    UnloadForm(LoadedForm(kPlayerForm));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  };
   PlayMediaFile(QStringLiteral("C:\\no.wav"));
-  ReplaceMessageBoxes(before);
   ASSERT_NE(Player(), nullptr);
   EXPECT_EQ(Player()->URL(), QStringLiteral("C:\\no.wav"));
 }

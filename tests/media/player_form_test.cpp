@@ -31,12 +31,11 @@ QString Name(const char* latin) {
 class PlayerFormTest : public TempDrives {
  protected:
   PlayerFormTest() {
-    SetScreen(ScreenSize{.width = 15360, .height = 11520});
+    environment.screen = ScreenSize{.width = 15360, .height = 11520};
     RegisterMedia();
     form = dynamic_cast<PlayerForm*>(LoadForm(kForm));
     player = form->Named<WindowsMediaPlayer>(Name("WindowsMediaPlayer1"));
   }
-  ~PlayerFormTest() override { SetScreen({}); }
   PlayerFormTest(const PlayerFormTest&) = delete;
   PlayerFormTest& operator=(const PlayerFormTest&) = delete;
 
@@ -343,17 +342,13 @@ TEST_F(PlayerFormTest, UnloadsAtOnceForLessThanNoMinutes) {
 TEST_F(PlayerFormTest, MayUnloadWhileItsBoxStands) {
   form->SetText(Name("txtete"), Name("0"));
   PlayerForm* reloaded = nullptr;
-  const MessageBoxes before =
-      ReplaceMessageBoxes({.show =
-                               [&](const QString&, const QString&) {
-                                 form->SetText(Name("txtcnt"), Name("1"));
-                                 form->Timer1_Timer();
-                                 QCoreApplication::sendPostedEvents(form, QEvent::DeferredDelete);
-                                 reloaded = dynamic_cast<PlayerForm*>(LoadForm(kForm));
-                               },
-                           .ask = {}});
+  environment.tell = [&](const QString&) {
+    form->SetText(Name("txtcnt"), Name("1"));
+    form->Timer1_Timer();
+    QCoreApplication::sendPostedEvents(form, QEvent::DeferredDelete);
+    reloaded = dynamic_cast<PlayerForm*>(LoadForm(kForm));
+  };
   form->Timerete_Timer();
-  ReplaceMessageBoxes(before);
   EXPECT_EQ(LoadedForm(kForm), reloaded);
   EXPECT_EQ(reloaded->TextOf(Name("txtete")), Name("5"));
 }
@@ -474,7 +469,7 @@ TEST_F(PlayerFormTest, StopsItsSoundWhenItUnloads) {
 TEST_F(PlayerFormTest, ItsRoutinesLogTheirTags) {
   const TrapLog log;
   form->show();
-  SetScreen(ScreenSize{.width = 20000, .height = 15000});  // all is placed anew
+  environment.screen = ScreenSize{.width = 20000, .height = 15000};  // all is placed anew
   {
     const FailingEvent noPlace("lblmin", QEvent::Move);
     form->Form_Load();

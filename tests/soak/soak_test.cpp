@@ -202,12 +202,15 @@ TEST(SweepOfAnAfternoon, EndsWithoutAFaultAndInNoMoreMemory) {
   QTemporaryDir drives;
   qputenv("BRAMLEE_DRIVES", drives.path().toLocal8Bit());
   ASSERT_TRUE(QDir(drives.path()).mkpath(QStringLiteral("c/bramlee/dba")));
-  SetScreen(ScreenSize{.width = 15.0 * 1366, .height = 15.0 * 768});
+  Environment environment;
+  environment.screen = ScreenSize{.width = 15.0 * 1366, .height = 15.0 * 768};
   int boxes = 0;
   int ends = 0;
-  ReplaceMessageBoxes({.show = [&](const QString&, const QString&) { ++boxes; },
-                       .ask = [&](const QString&) { return ++boxes % 2 == 0; }});
-  ReplaceEndProgram([&] { ++ends; });
+  environment.tell = [&](const QString&) { ++boxes; };
+  environment.ask = [&](const QString&, const QString&, const QString&) {
+    return ++boxes % 2 == 0;
+  };
+  environment.endProgram = [&] { ++ends; };
   RegisterHome(HomeSubjects());
   RegisterCard();
   RegisterMedia();
@@ -233,8 +236,6 @@ TEST(SweepOfAnAfternoon, EndsWithoutAFaultAndInNoMoreMemory) {
   if (!kSanitized) {
     EXPECT_LT(ResidentMegabytes(), afterFirstThird + 10);
   }
-  ReplaceMessageBoxes({});
-  ReplaceEndProgram({});
 }
 
 }  // namespace

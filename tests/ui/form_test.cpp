@@ -7,6 +7,7 @@
 #include "files/trap.h"
 #include "tests/files/trap_log.h"
 #include "tests/home/shell_forms.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 namespace {
@@ -220,7 +221,7 @@ TEST_F(FormLife, TheEndDestroysWhatIsLeftAndRunsNoHandler) {
 }
 
 TEST_F(FormLife, TheProgramEndsWithStatus0) {
-  ReplaceEndProgram({});
+  environment.endProgram = realEnd;
   QTimer::singleShot(0, [] { EndProgram(); });
   EXPECT_EQ(QApplication::exec(), 0);
 }

@@ -24,7 +24,10 @@ struct SeenBox {
 inline std::vector<SeenBox> WithRealBoxes(const std::function<void()>& run,
                                           const QString& answer = {}) {
   std::vector<SeenBox> seen;
-  const MessageBoxes before = ReplaceMessageBoxes({});
+  Environment& environment = TheEnvironment();
+  const auto tell = environment.tell;
+  const auto ask = environment.ask;
+  UseMessageBoxes(environment);
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&] {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -46,7 +49,8 @@ inline std::vector<SeenBox> WithRealBoxes(const std::function<void()>& run,
   });
   user.start(0);
   run();
-  ReplaceMessageBoxes(before);
+  environment.tell = tell;
+  environment.ask = ask;
   return seen;
 }
 

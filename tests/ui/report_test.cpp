@@ -32,9 +32,8 @@ class Report : public TempDrives {
  protected:
   Report() {
     RegisterHome({});
-    SetScreen(ScreenSize{.width = 15360, .height = 11520});
+    environment.screen = ScreenSize{.width = 15360, .height = 11520};
   }
-  ~Report() override { SetScreen({}); }
 
   QString Place() const { return On("c/bramlee/dba/errrepv0.dat"); }
   QByteArray File() const { return BytesOf(Place()); }
@@ -231,12 +230,10 @@ TEST_F(Notice, IsCalledByWhatItSays) {
 TEST_F(Notice, IsNotShownForAnErrorDuringAReport) {
   // The box of a report that cannot be written waits; another error comes meanwhile.
   QDir(On("c/bramlee")).removeRecursively();
-  ReplaceMessageBoxes({.show =
-                           [this](const QString& text, const QString&) {
-                             boxes.append(text);
-                             Tell(QStringLiteral("two"));
-                           },
-                       .ask = {}});
+  environment.tell = [this](const QString& text) {
+    boxes.append(text);
+    Tell(QStringLiteral("two"));
+  };
   Tell(QStringLiteral("one"));
   EXPECT_EQ(boxes, QStringList(QStringLiteral("ErrorReportNotResponding")));
   EXPECT_EQ(Words(), QStringLiteral("one"));
@@ -262,14 +259,14 @@ TEST_F(Notice, ShowsItsTextPlain) {
 }
 
 TEST_F(Notice, ThatCannotBeLaidOutEndsTheReportInABox) {
-  SetScreen(ScreenSize{.width = 1e15, .height = 11520});
+  environment.screen = ScreenSize{.width = 1e15, .height = 11520};
   const auto seen = WithRealBoxes([] { Tell(QStringLiteral("x")); });
   ASSERT_EQ(seen.size(), 1U);
   EXPECT_EQ(seen[0].text, QStringLiteral("Message Box Routine: Error"));
   EXPECT_EQ(seen[0].title, QStringLiteral("BRAM LEE"));
   EXPECT_EQ(LoadedForm(kNotice), nullptr);
   EXPECT_FALSE(QFile::exists(Place()));
-  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  environment.screen = ScreenSize{.width = 15360, .height = 11520};
   Tell(QStringLiteral("y"));
   EXPECT_EQ(File(), Record(1, "S.No:1:", "y"));
 }

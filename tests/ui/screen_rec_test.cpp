@@ -13,12 +13,11 @@ namespace {
 class ScreenSizes : public TempDrives {
  protected:
   static ScreenRec Filled(double width, double height) {
-    SetScreen(ScreenSize{.width = width, .height = height});
+    TheEnvironment().screen = ScreenSize{.width = width, .height = height};
     ScreenRec rec;
     FillScreenRec(rec);
     return rec;
   }
-  ~ScreenSizes() override { SetScreen({}); }
 };
 
 TEST_F(ScreenSizes, AreThoseOfAScreenOf1024By768) {
@@ -49,7 +48,7 @@ TEST_F(ScreenSizes, ComeWithAFlagThatEachFormTakesOver) {
   RegisterHome({});
   RegisterCard();
   MakeDataFolder();
-  SetScreen(ScreenSize{.width = 15360, .height = 11520});
+  TheEnvironment().screen = ScreenSize{.width = 15360, .height = 11520};
   for (const char* name : {"MDIbrm", "fbrmsta1", "fbrmhom1", "fbrminf1", "fcomsav1"}) {
     const Form* form = LoadForm(QString::fromLatin1(name));
     EXPECT_EQ(form->property("ScaleFlag"), QVariant(1)) << name;
@@ -66,7 +65,6 @@ TEST_F(ScreenSizes, TooLargeAreReportedOnceWithoutALoop) {
   EXPECT_EQ(rec.ScrW, 0);
   EXPECT_EQ(rec.ScaleFlag, 0);
   EXPECT_EQ(boxes, QStringList(QStringLiteral("Message Box Routine: Error")));
-  EXPECT_EQ(titles, QStringList(QStringLiteral("BRAM LEE")));
   EXPECT_EQ(LoadedForm(QStringLiteral("fcomsav1")), nullptr);
 }
 

@@ -229,6 +229,8 @@ int main(int argc, char** argv) {
   if (arguments.size() > 2) {
     size = {arguments[2].section(u'x', 0, 0).toInt(), arguments[2].section(u'x', 1).toInt()};
   }
+  Environment environment;
+  UseMessageBoxes(environment);
   WatchedBoard board(arguments[1], size);
   std::thread([&board] { TakeLines(board); }).detach();
   return QApplication::exec();

@@ -14,6 +14,7 @@
 #include "maths/maths.h"
 #include "maths/result_box.h"
 #include "ui/forms.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 namespace {
@@ -108,6 +109,8 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   qApp->installEventFilter(new bramlee::Watch(qApp));
+  bramlee::Environment environment;
+  bramlee::UseMessageBoxes(environment);
   const bramlee::WatchedMaths maths(QApplication::arguments().value(1, QStringLiteral("1")));
   return QApplication::exec();
 }

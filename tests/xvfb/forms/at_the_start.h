@@ -6,7 +6,10 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <functional>
+#include <utility>
 
+#include "files/environment.h"
 #include "tests/xvfb/forms/user.h"
 #include "ui/forms.h"
 
@@ -18,15 +21,15 @@ class AtTheStart : public ::testing::Test {
     QDir().mkpath(On("c/bramlee/dba"));
     Ask([this] {
       qputenv("BRAMLEE_DRIVES", QFile::encodeName(drives_.path()));
-      ReplaceEndProgram([this] { ++ends; });
+      endProgram_ = std::exchange(TheEnvironment().endProgram, [this] { ++ends; });
       ShowForm(QStringLiteral("fbrmsta1"));
     });
   }
   ~AtTheStart() override {
     if (HasFailure()) TheDesktop().Screenshot().save(QStringLiteral("failed.png"));
-    Ask([] {
+    Ask([this] {
       UnloadAll();
-      ReplaceEndProgram({});
+      TheEnvironment().endProgram = endProgram_;
     });
   }
   AtTheStart(const AtTheStart&) = delete;
@@ -44,6 +47,7 @@ class AtTheStart : public ::testing::Test {
 
  private:
   QTemporaryDir drives_;
+  std::function<void()> endProgram_;
 };
 
 }  // namespace bramlee

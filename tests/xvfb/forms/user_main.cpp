@@ -14,6 +14,7 @@
 #include "media/media.h"
 #include "tests/xvfb/forms/user.h"
 #include "ui/forms.h"
+#include "ui/message_box.h"
 
 namespace bramlee {
 
@@ -34,6 +35,8 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("bramlee"));
   QApplication::setQuitOnLastWindowClosed(false);
+  Environment environment;
+  UseMessageBoxes(environment);
   RegisterHome(HomeSubjects());
   RegisterCard();
   RegisterMedia();
