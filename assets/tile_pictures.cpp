@@ -127,8 +127,7 @@ QImage SetButtonPicture(int set) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF whole(image.rect());
-  DrawLetter(painter, subject, kHindiSetTiles * (set - 1) + 1, whole.adjusted(90, 25, -20, -25),
-             15);
+  DrawLetter(painter, subject, FirstHindiTileOf(set), whole.adjusted(90, 25, -20, -25), 15);
   DrawPrinted(painter, QString::number(set), whole.adjusted(14, 0, -200, 0), Qt::AlignLeft,
               kPrintColour);
   return image;

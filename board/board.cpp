@@ -64,7 +64,8 @@ void Board::MakeControls() {
   QFont font(QStringLiteral("MS Sans Serif"), 18);
   font.setStyleHint(QFont::SansSerif);
   sheet_->setFont(font);
-  for (int i = record_.firstTile; i <= record_.lastTile; ++i) {
+  const int lastTile = record_.lastTile != 0 ? record_.lastTile : letters_.tiles;
+  for (int i = record_.firstTile; i <= lastTile; ++i) {
     PictureBox* tile = AddPicture(Indexed("pic", i), QStringLiteral("Click To Draw"));
     tile->SetPicture(
         QStringLiteral(":/pictures/%1/%2.jpg").arg(QString::fromLatin1(record_.letterSet)).arg(i));

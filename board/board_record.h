@@ -51,7 +51,7 @@ struct BoardRecord {
   const char* backItem = "mnuclose";    ///< name of "&Back"
   const char* audioCaption = "&Audio";  ///< of mnuaud1
   int firstTile = 1;                    ///< pic(firstTile) to pic(lastTile) exist
-  int lastTile;
+  int lastTile = 0;                     ///< 0: as many tiles as the letter set has
 
   SheetExtent gridExtent = kWideExtent;
   SheetExtent ruleExtent = kWideExtent;

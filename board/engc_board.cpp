@@ -42,13 +42,10 @@ constexpr Corner kTiles[] = {
     {960,  6000},
     {3120, 6000}, // Y, Z
 };
-static_assert(std::size(kTiles) == 26);
 
 void LayOut(Board& board) {
-  for (int i = 1; i <= 26; ++i) {
-    const Corner corner = kTiles[i - 1];
-    board.PlaceTile(i, corner.left, corner.top, 1215, 615);
-  }
+  int tile = 1;
+  for (const Corner& corner : kTiles) board.PlaceTile(tile++, corner.left, corner.top, 1215, 615);
   board.PlaceTitle(240);
 }
 
@@ -60,7 +57,6 @@ const BoardRecord kCapitalsBoard{
     .backColor = kCapitalsGround,
     .letterSet = "engc",
     .cueBoardNo = 1,
-    .lastTile = 26,
     .gridExtent = kCapitalsExtent,
     .ruleExtent = kCapitalsExtent,
     .ruleLines = RuleLines::FirstToLast,

@@ -10,7 +10,7 @@ constexpr int kGroupStarts[] = {1, 5, 9, 13, 17, 21, 25};
 constexpr int kTilesInRow = 4;
 
 void LayOut(Board& board) {
-  for (int i = 1; i <= 26; ++i) {
+  for (int i = 1; i <= board.letters().tiles; ++i) {
     const int column = (i - 1) % kTilesInRow;
     const int row = (i - 1) / kTilesInRow;
     const double left = i == 23 ? 2640 : 600 + 1050 * column;  // the w stands a little aside
@@ -27,7 +27,6 @@ const BoardRecord kSmallLettersBoard{
     .letterSet = "engs",
     .cueBoardNo = 2,
     .audioCaption = "Audio",
-    .lastTile = 26,
     .gridExtent = kSmallExtent,
     .ruleExtent = kSmallExtent,
     .ruleLines = RuleLines::FirstToLast,

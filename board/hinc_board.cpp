@@ -119,7 +119,6 @@ const BoardRecord kHindiConsonantsBoard{
     .cueBoardNo = 4,
     .backItem = "mnuback",
     .audioCaption = "Audio",
-    .lastTile = kHindiTiles,
     .groupStarts = kGroupStarts,
     .strangeTile = "My Friend is Calling.I am going for Ice-Cream",
     .makeOwn = MakeOwn,

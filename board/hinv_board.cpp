@@ -10,8 +10,7 @@ namespace {
 constexpr int kGroupStarts[] = {1, 5, 8, 12, 14, 18, 21, 25};
 
 constexpr int kVowels = 13;     ///< tiles of the first row
-constexpr int kTiles = 28;      ///< vowels and signs
-constexpr int kLastTile = 36;   ///< tiles 29 to 36 are spare and never seen
+constexpr int kLastTile = 36;   ///< tiles behind the vowels and signs are spare and never seen
 constexpr int kLine = 0;        ///< pic(0), a line of lettering that lies on the sheet
 constexpr int kShowsLine = 14;  ///< the tile that puts it there
 constexpr int kHidesLine = 18;  ///< the tile that takes it away
@@ -25,15 +24,15 @@ void MakeOwn(Board& board) {
 
 void ShowTiles(Board& board) {
   const bool alternatives = board.FlagOf(QStringLiteral("txtalt")) != 0;
-  board.ShowTiles(1, kTiles,
+  board.ShowTiles(1, board.letters().tiles,
                   [&](int tile) { return !alternatives || HasSecondForm(board.letters(), tile); });
 }
 
 void LayOut(Board& board) {
-  board.ShowTiles(kTiles + 1, kLastTile, [](int) { return false; });
+  board.ShowTiles(board.letters().tiles + 1, kLastTile, [](int) { return false; });
   double left = 1450;
   double top = 560;
-  for (int i = 1; i <= kTiles; ++i) {
+  for (int i = 1; i <= board.letters().tiles; ++i) {
     board.PlaceTile(i, left, top);
     left += 950;
     if (i == kVowels) {

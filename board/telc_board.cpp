@@ -10,7 +10,6 @@ namespace {
 constexpr int kGroupStarts[] = {1,  5,  6,  9,  12, 13, 15, 16, 17, 18, 22, 23, 26, 29, 30, 34,
                                 35, 36, 39, 40, 44, 45, 49, 52, 56, 57, 61, 62, 63, 66, 67, 71};
 
-constexpr int kTiles = 75;
 constexpr int kSpareTile = 0;  ///< an element of the array without a picture, never seen
 
 void MakeOwn(Board& board) {
@@ -20,7 +19,7 @@ void MakeOwn(Board& board) {
 void LayOut(Board& board) {
   double left = 1450;
   double top = 560;
-  for (int i = 1; i <= kTiles; ++i) {
+  for (int i = 1; i <= board.letters().tiles; ++i) {
     board.PlaceTile(i, left, top);
     left += 950;
     if (i == 17 || i == 34 || i == 51 || i == 68) {
@@ -41,7 +40,6 @@ const BoardRecord kTeluguConsonantsBoard{
     .letterSet = "telc",
     .cueBoardNo = 6,
     .firstTile = kSpareTile,
-    .lastTile = kTiles,
     .groupStarts = kGroupStarts,
     .strangeTile = "My Friend is Calling.I am going for Ice-Cream",
     .makeOwn = MakeOwn,

@@ -12,9 +12,6 @@ constexpr int kReadingOrder[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12,
                                  13, 14, 31, 32, 15, 16, 17, 18, 19, 20, 21, 22,
                                  23, 24, 25, 26, 27, 28, 29, 30, 33, 34, 35, 36};
 
-constexpr int kTiles = 36;
-static_assert(std::size(kReadingOrder) == kTiles);
-
 /// The letters of tiles 7 and 8 are wider than the others.
 double WidthOf(int tile) {
   return tile == 7 || tile == 8 ? 1150 : 900;
@@ -29,7 +26,7 @@ void EndFirstRowWith(Board& board, int tile, int neighbour) {
 void LayOut(Board& board) {
   double left = 1450;
   double top = 560;
-  for (int i = 1; i <= kTiles; ++i) {
+  for (int i = 1; i <= board.letters().tiles; ++i) {
     if (i == 8 || i == 9) left = left - 950 + PlaceOf(board.Tile(i - 1)).width + 50;
     board.PlaceTile(i, left, top, WidthOf(i));
     left += 950;
@@ -53,7 +50,6 @@ const BoardRecord kTeluguVowelsBoard{
     .title = "TELUGU-VOWELS",
     .letterSet = "telv",
     .cueBoardNo = 5,
-    .lastTile = kTiles,
     // As on the small letters' sheet, so the rules do not meet the grid of this one.
     .ruleExtent = kSmallExtent,
     .ruleLines = RuleLines::FirstToLast,

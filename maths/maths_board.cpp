@@ -15,7 +15,6 @@ namespace bramlee {
 namespace {
 
 constexpr int kGroupStarts[] = {1, 5, 9, 13, 15};
-constexpr int kTiles = 17;
 
 // Places of the tiles, in twips. The digits in two rows of five, the signs in one row beside
 // them, as high as both rows: their pictures stand below the number box, which is laid over the
@@ -33,7 +32,7 @@ void LayOutTiles(Board& board) {
     const int row = i / kColumns;
     board.PlaceTile(i + 1, kLeft + i % kColumns * kColumnPitch, kTop + row * kRowPitch);
   }
-  for (int i = kDigitTiles; i < kTiles; ++i) {
+  for (int i = kDigitTiles; i < board.letters().tiles; ++i) {
     board.PlaceTile(i + 1, kLeft + (kColumns + i - kDigitTiles) * kColumnPitch, kTop, kSignWidth,
                     kSignHeight);
   }
@@ -112,7 +111,7 @@ WriteLetter ProgramByPlace(const Board& board, const StrokeRec& rec) {
 /// Wipes only where a tile's own click wipes.
 void DrawAll(Board& board) {
   if (board.FlagOf(QStringLiteral("txtalt")) == 1) return board.mnuclear1_Click();
-  for (int tile = 1; tile <= kTiles; ++tile) board.pic_Click(tile);
+  for (int tile = 1; tile <= board.letters().tiles; ++tile) board.pic_Click(tile);
 }
 
 const BoardRecord kMathsBoard{
@@ -121,7 +120,6 @@ const BoardRecord kMathsBoard{
     .letterSet = "mat",
     .cueBoardNo = 7,
     .backItem = "mnuback",
-    .lastTile = kTiles,
     .groupStarts = kGroupStarts,
     .makeOwn = MakeOwn,
     .layOut = LayOut,

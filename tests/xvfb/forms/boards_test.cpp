@@ -281,7 +281,7 @@ TEST_F(SetsAndLines, ShowTheTilesOfTheSetThatIsPicked) {
     board.Click(Indexed("pic1", set));
     board.Expected().Wipe();
     board.SeeSheet();
-    const int first = 1 + kHindiSetTiles * (set - 1);
+    const int first = FirstHindiTileOf(set);
     const QList<int> shown = board.Shown("pic", 3 * kHindiSetTiles);
     EXPECT_EQ(shown.size(), kHindiSetTiles);
     EXPECT_EQ(shown.first(), first);
