@@ -6,8 +6,8 @@
 
 namespace bramlee {
 
-/// The set number of the board that asks for a cue, 1 to 7. A board stores it just before the
-/// call.
+/// The set number of the board that asks for a cue, 1 to 7. One for the whole program: a board
+/// stores it just before the call, and it stays until the next one does.
 extern std::int16_t CueBoardNo;
 
 /// Builds the name of the letter's sound file and passes it to the player; a missing file shows

@@ -23,6 +23,7 @@ struct TableSlot {
   std::int16_t recordLength = 0;
 };
 
+/// One set for the whole program: no two open files have the same channel.
 QSet<std::int32_t>& ChannelsInUse() {
   static QSet<std::int32_t> channels;
   return channels;

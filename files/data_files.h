@@ -29,7 +29,8 @@ struct FileSlot {
 /// the user is told "POP_FILE_DATA:ERROR", and it is 1. Tag "602:27".
 std::int16_t POP_FILE_DATA(FileSlot& slot);
 
-/// What POP_FILE_DATA said last, for whoever opens the file.
+/// What POP_FILE_DATA said last, for whoever opens the file. One for the whole program, whichever
+/// file was asked for.
 extern std::int16_t DataFileMissing;
 
 /// The lowest channel number, from 1, that no open file has.

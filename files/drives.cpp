@@ -16,6 +16,7 @@ struct DriveTable {
   QHash<QChar, QStringList> folders;  ///< each drive's current folder, from its root
 };
 
+/// One for the whole program, as a process has one current folder.
 DriveTable& Drives() {
   static DriveTable table;
   return table;

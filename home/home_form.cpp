@@ -264,6 +264,7 @@ void HomeForm::mnuback_Click() {
 }
 
 void HomeForm::mnubiodata_Click() {
+  // By its id: what stands behind it is no matter of home's.
   Trap({}, [](ErrInfo&) { ShowForm(kCardForm); });
 }
 

@@ -20,6 +20,7 @@ struct FormList {
   bool unloadingAll = false;
 };
 
+/// One for the whole program: any form is found by its id, from any other.
 FormList& List() {
   static FormList list;
   return list;

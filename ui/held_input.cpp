@@ -116,7 +116,8 @@ Held HeldText(QObject* control, const QInputMethodEvent& event) {
   return {.receiver = control, .deliver = deliver};
 }
 
-/// All that waits, and the watch over what comes.
+/// All that waits, and the watch over what comes. One for the whole program: what one board writes
+/// holds the input of all windows.
 class HeldInput : public QObject {
  public:
   static HeldInput& Instance() {

@@ -11,7 +11,8 @@
 namespace bramlee {
 namespace {
 
-/// The report under way, if any. What goes wrong on the way must not start another one.
+/// The report under way, if any: one for the whole program, as what goes wrong on the way must not
+/// start another one.
 struct Report {
   bool underWay = false;
   bool failed = false;
@@ -22,6 +23,7 @@ Report& Current() {
   return report;
 }
 
+/// By its id: the notice stands in home/. Without it a report ends in a box.
 void ShowNotice(const QString& text) {
   ShowForm(kReportNotice);
   Form* notice = LoadedForm(kReportNotice);
