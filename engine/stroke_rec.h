@@ -34,7 +34,7 @@ struct StrokeRec {
   double RowH{};                             ///< row pitch
   double WX1{}, WX2{}, WX3{}, WX4{}, WX5{};  ///< working X values of a letter
   double WY1{}, WY2{}, WY3{}, WY4{}, WY5{};  ///< working Y values of a letter
-  std::int16_t LoopNo{};                     ///< place of a typed digit, or a selector
+  std::int16_t LoopNo{};                     ///< a typed digit's column in its number, 1 to 5
   std::int16_t AltFlag{};                    ///< 1: write the alternative form
 };
 

@@ -1,11 +1,11 @@
-// The sizes that the shell's forms lay themselves out by.
+// The sizes that all forms but the boards lay themselves out by.
 #pragma once
 
 #include <cstdint>
 
 namespace bramlee {
 
-/// Filled anew by each form of the shell when it loads. All lengths in twips.
+/// Filled anew by each such form when it loads. All lengths in twips.
 struct ScreenRec {
   std::int32_t ScrH = 0;       ///< the screen's height, a thousandth short
   std::int32_t ScrW = 0;       ///< the screen's width, a thousandth short

@@ -5,13 +5,13 @@
 
 #include "home/frame_form.h"
 #include "tests/files/trap_log.h"
-#include "tests/home/shell_forms.h"
+#include "tests/home/home_forms.h"
 #include "tests/ui/failing_event.h"
 
 namespace bramlee {
 namespace {
 
-class Frame : public ShellForms {
+class Frame : public HomeForms {
  protected:
   static Form* TheFrame() { return Loaded("MDIbrm"); }
   /// The captions on the frame's menu bar.

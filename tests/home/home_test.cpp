@@ -8,7 +8,7 @@
 #include "files/trap.h"
 #include "home/home_form.h"
 #include "tests/files/trap_log.h"
-#include "tests/home/shell_forms.h"
+#include "tests/home/home_forms.h"
 #include "tests/ui/failing_event.h"
 
 namespace bramlee {
@@ -37,7 +37,7 @@ class WatchedForm : public Form {
   std::function<void()> atUnload_;
 };
 
-class Home : public ShellForms {
+class Home : public HomeForms {
  protected:
   Home() {
     for (const char* board : kBoards) {
@@ -300,9 +300,9 @@ TEST_F(Home, ExitUnloadsFromTheLastToTheFirstTheUnseenOnesToo) {
   Item(home, "mnubiodata")->trigger();
   ShowForm(QStringLiteral("fbrmhom1"));  // shown again, it keeps its turn
   Item(home, "mnuexit")->trigger();
-  const QStringList shell{QStringLiteral("MDIbrm"), QStringLiteral("fbrmsta1"),
-                          QStringLiteral("fbrmhom1")};
-  const QStringList first = shell + QStringList{QStringLiteral("f1207vid")};
+  const QStringList always{QStringLiteral("MDIbrm"), QStringLiteral("fbrmsta1"),
+                           QStringLiteral("fbrmhom1")};
+  const QStringList first = always + QStringList{QStringLiteral("f1207vid")};
   const QStringList second = first + QStringList{QStringLiteral("fbrmmat01")};
   EXPECT_EQ(stillThere,
             (QList<QStringList>{second + QStringList{QStringLiteral("fbrminf1")}, second, first}));

@@ -3,12 +3,12 @@
 
 #include "home/frame_form.h"
 #include "tests/files/trap_log.h"
-#include "tests/home/shell_forms.h"
+#include "tests/home/home_forms.h"
 
 namespace bramlee {
 namespace {
 
-class Lock : public ShellForms {
+class Lock : public HomeForms {
  protected:
   Lock() : start_(Shown("fbrmsta1")) {}
 

@@ -4,12 +4,12 @@
 
 #include "home/start_form.h"
 #include "tests/files/trap_log.h"
-#include "tests/home/shell_forms.h"
+#include "tests/home/home_forms.h"
 
 namespace bramlee {
 namespace {
 
-class Start : public ShellForms {
+class Start : public HomeForms {
  protected:
   static StartForm* TheForm() { return dynamic_cast<StartForm*>(Shown("fbrmsta1")); }
   static TwipsRect LineAt(const Form* form, int index) {

@@ -6,7 +6,7 @@
 
 #include "files/trap.h"
 #include "tests/files/trap_log.h"
-#include "tests/home/shell_forms.h"
+#include "tests/home/home_forms.h"
 #include "ui/message_box.h"
 
 namespace bramlee {
@@ -44,7 +44,7 @@ class Plain : public Form {
   std::function<void()> atUnload;
 };
 
-class FormLife : public ShellForms {
+class FormLife : public HomeForms {
  protected:
   FormLife() {
     for (const char* name : {"fone", "ftwo", "fthree"}) {

@@ -1,5 +1,5 @@
-// The shell's forms under test: a screen of its own, a folder of drives of its own, and an end of
-// the program that is only counted.
+// Frame, start, home and card under test: a screen of its own, a folder of drives of its own, and
+// an end of the program that is only counted.
 #pragma once
 
 #include <QApplication>
@@ -33,15 +33,15 @@ inline QStringList LoadedNames() {
   return names;
 }
 
-class ShellForms : public TempDrives {
+class HomeForms : public TempDrives {
  protected:
-  ShellForms() {
+  HomeForms() {
     RegisterHome(HomeSubjects());
     RegisterCard();
     environment.screen = ScreenSize{.width = 15360, .height = 11520};
     environment.endProgram = [this] { ++ends; };
   }
-  ~ShellForms() override {
+  ~HomeForms() override {
     UnloadAll();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }

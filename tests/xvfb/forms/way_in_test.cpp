@@ -18,7 +18,7 @@ std::string LoadedNames() {
   });
 }
 
-class Shell : public AtTheStart {
+class WayIn : public AtTheStart {
  protected:
   static void Back(const char* name) {
     OpenForm board(name);
@@ -31,13 +31,13 @@ class Shell : public AtTheStart {
   }
 };
 
-TEST_F(Shell, ShouldMoveTheTitleOnTheStartForm) {
+TEST_F(WayIn, ShouldMoveTheTitleOnTheStartForm) {
   const OpenForm start("fbrmsta1");
   const QImage before = start.Seen();
   Until(QStringLiteral("the title elsewhere"), [&] { return start.Seen() != before; });
 }
 
-TEST_F(Shell, ShouldGoHomeByAClickAnywhereAndBackByTheMenu) {
+TEST_F(WayIn, ShouldGoHomeByAClickAnywhereAndBackByTheMenu) {
   OpenForm("fbrmsta1").ClickGround();
   OpenForm home("fbrmhom1");
   home.Pick("mnuback");
@@ -47,7 +47,7 @@ TEST_F(Shell, ShouldGoHomeByAClickAnywhereAndBackByTheMenu) {
   OpenForm("fbrmhom1");
 }
 
-TEST_F(Shell, ShouldSayVerifyBehindTheSwitchAndStartAllTheSame) {
+TEST_F(WayIn, ShouldSayVerifyBehindTheSwitchAndStartAllTheSame) {
   OpenForm start("fbrmsta1");
   for (int i = 1; i <= 2; ++i) {
     start.Pick(Indexed("mnupp", i));
@@ -66,12 +66,12 @@ TEST_F(Shell, ShouldSayVerifyBehindTheSwitchAndStartAllTheSame) {
   EXPECT_EQ(start.Marks(), "mnupp(2)");
 }
 
-TEST_F(Shell, ShouldEndFromTheStartForm) {
+TEST_F(WayIn, ShouldEndFromTheStartForm) {
   OpenForm("fbrmsta1").Pick("mnuexit");
   UntilEnded();
 }
 
-TEST_F(Shell, ShouldOpenEachBoardByTileAndLabel) {
+TEST_F(WayIn, ShouldOpenEachBoardByTileAndLabel) {
   OpenForm home = GoHome();
   for (int i = 1; i <= 7; ++i) {
     for (const char* array : {"pic", "lbl1"}) {
@@ -85,7 +85,7 @@ TEST_F(Shell, ShouldOpenEachBoardByTileAndLabel) {
   EXPECT_EQ(LoadedNames(), "MDIbrm fbrmsta1 fbrmhom1 fbrmmat01");
 }
 
-TEST_F(Shell, ShouldHaveOneOfAllDrivesMarkedAndForgetItOnTheWayBack) {
+TEST_F(WayIn, ShouldHaveOneOfAllDrivesMarkedAndForgetItOnTheWayBack) {
   OpenForm home = GoHome();
   for (int i = 1; i <= 26; ++i) {
     home.Pick(Indexed("mnudrv", i));
@@ -105,13 +105,13 @@ TEST_F(Shell, ShouldHaveOneOfAllDrivesMarkedAndForgetItOnTheWayBack) {
   EXPECT_EQ(GoHome().Marks(), "mnudrv(3)");
 }
 
-TEST_F(Shell, ShouldUnloadAllAndEndFromTheHomeForm) {
+TEST_F(WayIn, ShouldUnloadAllAndEndFromTheHomeForm) {
   GoHome().Pick("mnuexit");
   UntilEnded();
   EXPECT_EQ(LoadedNames(), "");
 }
 
-class Card : public Shell {
+class Card : public WayIn {
  protected:
   Card() : home_(GoHome()) { home_.Pick("mnubiodata"); }
 
