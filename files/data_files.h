@@ -1,6 +1,6 @@
 // The table of data files, and random-access files of fixed-length records numbered from 1. A
 // file is opened, read or written and closed inside one event handler; no file is held between
-// events. docs/records.md tells what the records hold.
+// events. docs/records.md says what the records hold.
 #pragma once
 
 #include <QByteArray>
@@ -24,13 +24,12 @@ struct FileSlot {
   std::int16_t SlotNo = 0;       ///< in
 };
 
-/// Fills path and record length from the table. 1 when the file is missing, else 0. A slot that
-/// the table does not fill gives an empty path, which is missing. For a number outside the table
-/// the user is told "POP_FILE_DATA:ERROR", and it is 1. Tag "602:27".
+/// Fills path and record length from the table. Returns 1 when the file is missing, else 0. A slot
+/// that the table does not fill has an empty path, which is missing. A number outside the table
+/// shows "POP_FILE_DATA:ERROR" and returns 1. Tag "602:27".
 std::int16_t POP_FILE_DATA(FileSlot& slot);
 
-/// What POP_FILE_DATA said last, for whoever opens the file. One for the whole program, whichever
-/// file was asked for.
+/// What POP_FILE_DATA returned last. One for the whole program, whichever file was asked for.
 extern std::int16_t DataFileMissing;
 
 /// The lowest channel number, from 1, that no open file has.
@@ -59,10 +58,10 @@ class FileSave {
 /// An open file of fixed-length records.
 class RecordFile {
  public:
-  /// Opens for reading. A file that is not there is an empty one, but its folder has to be
-  /// there. Throws TrappedError.
+  /// Opens for reading. A missing file is an empty one. Throws TrappedError when its folder is
+  /// missing or the file cannot be opened.
   explicit RecordFile(const FileSlot& slot);
-  /// Opens for reading and writing as part of that save, which has to be of the same file.
+  /// Opens for reading and writing as part of that save, which must be of the same file.
   RecordFile(const FileSlot& slot, FileSave& save);
   ~RecordFile();
   RecordFile(const RecordFile&) = delete;

@@ -17,12 +17,12 @@ class HomeForm : public Form {
   /// Offers those subjects, kMostSubjects at most; their table has to outlast the form.
   explicit HomeForm(std::span<const HomeSubject> subjects);
 
-  /// Lays the form out and chooses drive C:. Tag "603:01"; an error is told and reported.
+  /// Lays the form out and chooses drive C:. Tag "603:01"; an error is shown and reported.
   void Form_Load() override;
-  /// Places all controls by those sizes. Tag "601:23"; an error is told.
+  /// Places all controls by those sizes. Tag "601:23"; an error is shown.
   void LayOut(const ScreenRec& rec);
 
-  // --- handlers. What cannot be loaded is passed over without a word.
+  // --- handlers. They ignore what cannot be loaded.
   /// Shows the board of that subject, counted from 1. It has to have one.
   void pic_Click(int index);
   /// Shows the subject's board and, but for the first, hands it the drive. Does nothing for a

@@ -7,8 +7,8 @@
 
 namespace bramlee {
 
-/// Shows a plain text and waits until the user has read it. Timers tick meanwhile, and a form
-/// may go: name forms afresh after it.
+/// Shows a plain text and waits until the user closes it. Timers tick meanwhile and may unload a
+/// form: look forms up again after it.
 void MsgBox(const QString& text);
 
 /// Asks a question with two answers and waits; true when the user picked `yes`.

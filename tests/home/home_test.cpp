@@ -64,7 +64,7 @@ class Home : public HomeForms {
   }
 };
 
-TEST_F(Home, ItsWordsAreTheTold) {
+TEST_F(Home, ItsTextsAreAsDesigned) {
   const Form* home = TheForm();
   const char* const captions[] = {
       "English:Capital Letters", "English:Small Letters", "Hindi:Wovels",  "Hindi:Consonants",
@@ -108,7 +108,7 @@ TEST_F(Home, OffersTheSubjectsOfItsTableAndNoOther) {
   EXPECT_TRUE(boxes.isEmpty());
 }
 
-TEST_F(Home, ItsMenusAreTheTold) {
+TEST_F(Home, ItsMenusAreAsDesigned) {
   const Form* home = TheForm();
   const auto title = [home](const char* menu) {
     return home->findChild<QMenu*>(QString::fromLatin1(menu))->title();
@@ -247,7 +247,7 @@ TEST_F(Home, TheCardIsShownByName) {
   EXPECT_TRUE(Loaded("fbrminf1")->isVisible());
 }
 
-TEST_F(Home, WhatCannotBeLoadedIsPassedOverWithoutAWord) {
+TEST_F(Home, IgnoresWhatCannotBeLoaded) {
   MakeDataFolder();
   const Form* home = TheForm();
   const QStringList before = LoadedNames();
@@ -310,7 +310,7 @@ TEST_F(Home, ExitUnloadsFromTheLastToTheFirstTheUnseenOnesToo) {
   EXPECT_EQ(ends, 1);
 }
 
-TEST_F(Home, ExitEndsWithoutAWordThoughAFormCannotGo) {
+TEST_F(Home, ExitEndsQuietlyThoughAFormFailsToUnload) {
   MakeDataFolder();
   bool mayGo = false;
   RegisterForm(QStringLiteral("fbrmmat01"), [&mayGo] {
@@ -342,7 +342,7 @@ class FailingHome : public HomeForm {
   }
 };
 
-TEST_F(Home, ALoadThatFailsIsToldAndReported) {
+TEST_F(Home, ALoadThatFailsShowsAMessageAndIsReported) {
   MakeDataFolder();
   FailingHome home;
   home.Form_Load();
@@ -351,7 +351,7 @@ TEST_F(Home, ALoadThatFailsIsToldAndReported) {
   EXPECT_FALSE(BytesOf(On("c/bramlee/dba/errrepv0.dat")).isEmpty());
 }
 
-TEST_F(Home, ExitEndsTheProgramWithStatusNought) {
+TEST_F(Home, ExitEndsTheProgramWithStatus0) {
   environment.endProgram = realEnd;
   const Form* home = TheForm();
   QTimer::singleShot(0, home, [home] { Item(home, "mnuexit")->trigger(); });
@@ -535,7 +535,7 @@ TEST_F(Home, ALayoutThatFailsSaysSo) {
   rec.UnitW = std::numeric_limits<std::int32_t>::max();
   home->LayOut(rec);
   EXPECT_EQ(boxes, QStringList{QStringLiteral("ERROR2")});
-  EXPECT_EQ(Loaded("fcomsav1"), nullptr);  // it is told, not reported
+  EXPECT_EQ(Loaded("fcomsav1"), nullptr);  // it is shown, not reported
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ void ExpectRect(const TwipsRect& rect, const TwipsRect& expected) {
   EXPECT_EQ(rect.height, expected.height);
 }
 
-TEST_F(Start, ItsTitleMenusAndGroundAreTheTold) {
+TEST_F(Start, ItsTitleMenusAndGroundAreAsDesigned) {
   const Form* form = TheForm();
   const auto line = [form](int i) { return form->Named<Label>(Indexed("lblsta", i)); };
   EXPECT_EQ(line(0)->text(), QStringLiteral("Welcome to "));
@@ -246,7 +246,7 @@ TEST_F(Start, ItsMenuItemStartsToo) {
   EXPECT_EQ(LoadedNames().count(QStringLiteral("fbrmsta1")), 1);
 }
 
-TEST_F(Start, WhatCannotBeLoadedIsPassedOverWithoutAWord) {
+TEST_F(Start, IgnoresWhatCannotBeLoaded) {
   MakeDataFolder();
   const Form* form = TheForm();
   int asked = 0;
@@ -285,7 +285,7 @@ TEST_F(Start, ExitEndsAtOnceWithoutUnloadingAndWithoutAQuestion) {
   EXPECT_TRUE(questions.isEmpty());
 }
 
-TEST_F(Start, ExitEndsTheProgramWithStatusNought) {
+TEST_F(Start, ExitEndsTheProgramWithStatus0) {
   environment.endProgram = realEnd;
   const StartForm* form = TheForm();
   QTimer::singleShot(0, form, [form] { Item(form, "mnuexit")->trigger(); });
@@ -333,7 +333,7 @@ TEST_F(Start, ItsRoutinesLogTheirTags) {
   EXPECT_EQ(TrapLog::Tags(), Tags({"601:03", "601:06", "601:04", "601:05"}));
 }
 
-TEST_F(Start, AFolderThatIsThereOrADriveThatIsNotIsPassedOver) {
+TEST_F(Start, AFolderThatIsThereOrADriveThatIsMissingIsIgnored) {
   MakeDataFolder();
   TheForm();
   EXPECT_TRUE(QDir(On("c/bramlee/dba")).exists());

@@ -31,13 +31,13 @@ class WayIn : public AtTheStart {
   }
 };
 
-TEST_F(WayIn, ShouldMoveTheTitleOnTheStartForm) {
+TEST_F(WayIn, MovesTheTitleOnTheStartForm) {
   const OpenForm start("fbrmsta1");
   const QImage before = start.Seen();
   Until(QStringLiteral("the title elsewhere"), [&] { return start.Seen() != before; });
 }
 
-TEST_F(WayIn, ShouldGoHomeByAClickAnywhereAndBackByTheMenu) {
+TEST_F(WayIn, GoesHomeByAClickAnywhereAndBackByTheMenu) {
   OpenForm("fbrmsta1").ClickGround();
   OpenForm home("fbrmhom1");
   home.Pick("mnuback");
@@ -47,7 +47,7 @@ TEST_F(WayIn, ShouldGoHomeByAClickAnywhereAndBackByTheMenu) {
   OpenForm("fbrmhom1");
 }
 
-TEST_F(WayIn, ShouldSayVerifyBehindTheSwitchAndStartAllTheSame) {
+TEST_F(WayIn, ShowsVerifyBehindTheSwitchAndStartsNevertheless) {
   OpenForm start("fbrmsta1");
   for (int i = 1; i <= 2; ++i) {
     start.Pick(Indexed("mnupp", i));
@@ -66,12 +66,12 @@ TEST_F(WayIn, ShouldSayVerifyBehindTheSwitchAndStartAllTheSame) {
   EXPECT_EQ(start.Marks(), "mnupp(2)");
 }
 
-TEST_F(WayIn, ShouldEndFromTheStartForm) {
+TEST_F(WayIn, EndsFromTheStartForm) {
   OpenForm("fbrmsta1").Pick("mnuexit");
   UntilEnded();
 }
 
-TEST_F(WayIn, ShouldOpenEachBoardByTileAndLabel) {
+TEST_F(WayIn, OpensEachBoardByTileAndLabel) {
   OpenForm home = GoHome();
   for (int i = 1; i <= 7; ++i) {
     for (const char* array : {"pic", "lbl1"}) {
@@ -85,7 +85,7 @@ TEST_F(WayIn, ShouldOpenEachBoardByTileAndLabel) {
   EXPECT_EQ(LoadedNames(), "MDIbrm fbrmsta1 fbrmhom1 fbrmmat01");
 }
 
-TEST_F(WayIn, ShouldHaveOneOfAllDrivesMarkedAndForgetItOnTheWayBack) {
+TEST_F(WayIn, HasOneOfAllDrivesMarkedAndForgetsItOnTheWayBack) {
   OpenForm home = GoHome();
   for (int i = 1; i <= 26; ++i) {
     home.Pick(Indexed("mnudrv", i));
@@ -105,7 +105,7 @@ TEST_F(WayIn, ShouldHaveOneOfAllDrivesMarkedAndForgetItOnTheWayBack) {
   EXPECT_EQ(GoHome().Marks(), "mnudrv(3)");
 }
 
-TEST_F(WayIn, ShouldUnloadAllAndEndFromTheHomeForm) {
+TEST_F(WayIn, UnloadsAllAndEndsFromTheHomeForm) {
   GoHome().Pick("mnuexit");
   UntilEnded();
   EXPECT_EQ(LoadedNames(), "");
@@ -142,7 +142,7 @@ class Card : public WayIn {
   OpenForm home_;
 };
 
-TEST_F(Card, ShouldStoreANewItemAndRemoveIt) {
+TEST_F(Card, StoresANewItemAndRemovesIt) {
   {
     const OpenForm card("fbrminf1");
     EXPECT_EQ(Sums(card), "1 100 100 0 ");
@@ -168,7 +168,7 @@ TEST_F(Card, ShouldStoreANewItemAndRemoveIt) {
   EXPECT_EQ(Sums(OpenForm("fbrminf1")), "1 100 100 0 ");
 }
 
-TEST_F(Card, ShouldAskForNumbers) {
+TEST_F(Card, AsksForNumbers) {
   const OpenForm card("fbrminf1");
   card.Click("lbl(12)");
   Until(QStringLiteral("room for an item"), [&] { return card.Text("cmb(4)") == "?..."; });
@@ -179,7 +179,7 @@ TEST_F(Card, ShouldAskForNumbers) {
             0xFFU);
 }
 
-TEST_F(Card, ShouldShowAMissingPictureRed) {
+TEST_F(Card, ShowsAMissingPictureRed) {
   const OpenForm card("fbrminf1");
   card.Type("txt(3)", QStringLiteral("C:\\none.jpg"));
   card.Click("lbl(13)");
@@ -187,14 +187,14 @@ TEST_F(Card, ShouldShowAMissingPictureRed) {
   OpenForm("fbrminf1");
 }
 
-TEST_F(Card, ShouldGoBackToTheHomeForm) {
+TEST_F(Card, GoesBackToTheHomeForm) {
   OpenForm card("fbrminf1");
   card.Pick("mnufile(1)");
   card.UntilGone();
   OpenForm("fbrmhom1");
 }
 
-TEST_F(Card, ShouldEndTheProgram) {
+TEST_F(Card, EndsTheProgram) {
   OpenForm card("fbrminf1");
   card.Pick("mnufile(2)");
   UntilEnded();
