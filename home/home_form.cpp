@@ -36,7 +36,7 @@ constexpr TitleLine kTitle[kTitleLines] = {
 constexpr double kLabelLeft[] = {240, 4440};
 constexpr double kLabelTop[] = {1560, 2280, 3000, 3600};
 constexpr int kRows = std::size(kLabelTop);
-static_assert(2 * kRows == kMostSubjects);
+static_assert(kMostSubjects == std::size_t{2} * kRows);
 constexpr double kLabelWidth = 3885;
 constexpr double kLabelHeight = 495;
 constexpr int kLabelPixels = 16;  ///< 12 points
