@@ -518,10 +518,9 @@ TEST_F(Home, ItsRoutinesLogTheirTags) {
   EXPECT_EQ(TrapLog::Tags(), Tags({"603:01"}));
   UnloadAll();
   TrapLog::Lines().clear();
-  {
-    const FailingEvent noFont("lblsol(0)", QEvent::FontChange);
-    TheForm();
-  }
+  ScreenRec rec;
+  rec.UnitW = std::numeric_limits<std::int32_t>::max();
+  TheForm()->LayOut(rec);
   EXPECT_EQ(TrapLog::Tags(), Tags({"601:23"}));
   TrapLog::Lines().clear();
   environment.endProgram = [] { throw TrappedError(QStringLiteral("no end")); };

@@ -72,7 +72,8 @@ TEST(LetterShapeTest, EndsWhereThePenLeavesAlsoAfterARunThatIsShorterThanAPixel)
 }
 
 TEST(LetterShapeTest, OfARingIsClosed) {
-  const StrokePath& ring = LetterOfRuns({Arc(90, 450, 2)}).Shape().strokes.at(0);
+  const Letter letter = LetterOfRuns({Arc(90, 450, 2)});
+  const StrokePath& ring = letter.Shape().strokes.at(0);
   EXPECT_TRUE(ring.closed);
   EXPECT_NEAR(ring.length, 4 * 3.14159, 0.4);  // a polygon of twelve points or so
   EXPECT_FALSE(LetterOfRuns({Arc(0, 300, 50)}).Shape().strokes.at(0).closed);
