@@ -47,6 +47,7 @@ TEST_F(BoardTags, OfItsLoadAndItsWipe) {
 }
 
 TEST_F(BoardTags, OfItsMenus) {
+  SKIP_WHERE_LEAKS_COUNT();
   Board& board = Open(FailingRecord());
   EXPECT_EQ(TagsOf([&] { board.mnugcolor_Click(99); }), Tags({"brd:02"}));
   EXPECT_EQ(TagsOf([&] { board.mnucolor_Click(99); }), Tags({"brd:03"}));
@@ -75,6 +76,7 @@ TEST_F(BoardTags, OfTheHindiSets) {
 }
 
 TEST_F(BoardTags, OfTheCharts) {
+  SKIP_WHERE_LEAKS_COUNT();
   const FailingEvent noPicture("pic(1)", QEvent::ShowToParent);
   EXPECT_EQ(TagsOf([] { LoadForm(Q("fbrmhinv00")); }), Tags({"brd:30"}));
   RegisterForm(Q("fbrmhinv01"), []() -> Form* { Fail(); });

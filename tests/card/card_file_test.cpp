@@ -272,6 +272,7 @@ TEST_F(CardFile, ThatHasVanishedIsNotMadeAnewByASave) {
 }
 
 TEST_F(BiodataCard, ItsRoutinesLogTheirTags) {
+  SKIP_WHERE_LEAKS_COUNT();
   Put(Items(2));
   const TrapLog log;
   {

@@ -41,6 +41,7 @@ TEST_F(Frame, IsAThousandthShortOfTheScreenAndInItsMiddle) {
 }
 
 TEST_F(Frame, ItsLoadLogsItsTag) {
+  SKIP_WHERE_LEAKS_COUNT();
   const TrapLog log;
   const FailingEvent noFlag("MDIbrm", QEvent::DynamicPropertyChange);
   Shown("MDIbrm");

@@ -509,6 +509,7 @@ TEST_F(Home, SubjectsAreReachedAndPressedFromTheKeyboard) {
 }
 
 TEST_F(Home, ItsRoutinesLogTheirTags) {
+  SKIP_WHERE_LEAKS_COUNT();
   MakeDataFolder();
   const TrapLog log;
   {

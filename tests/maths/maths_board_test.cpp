@@ -213,6 +213,7 @@ TEST_F(MathsBoard, BackUnloadsIt) {
 }
 
 TEST_F(MathsBoard, ItsRoutinesLogTheirTags) {
+  SKIP_WHERE_LEAKS_COUNT();
   const TrapLog log;
   {
     const FailingEvent noColour("cmb(0)", QEvent::PaletteChange);

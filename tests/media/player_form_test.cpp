@@ -467,6 +467,7 @@ TEST_F(PlayerFormTest, StopsItsSoundWhenItUnloads) {
 }
 
 TEST_F(PlayerFormTest, ItsRoutinesLogTheirTags) {
+  SKIP_WHERE_LEAKS_COUNT();
   const TrapLog log;
   form->show();
   environment.screen = ScreenSize{.width = 20000, .height = 15000};  // all is placed anew
