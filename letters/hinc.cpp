@@ -9,15 +9,9 @@
 namespace bramlee {
 namespace {
 
-const HindiConsonant& ConsonantOf(int tile) {
-  const auto letter = static_cast<std::size_t>(HindiLetterOf(tile));
-  return letter <= kHindiKaToDha ? HindiKaToDha()[letter - 1]
-                                 : HindiNaToJnya()[letter - 1 - kHindiKaToDha];
-}
-
 /// The routines of a tile's body; a letter with the foot stroke has no alternative one.
 Forms BodyOf(int tile) {
-  const HindiConsonant& letter = ConsonantOf(tile);
+  const HindiConsonant& letter = HindiConsonantOf(tile);
   if (HindiSetOf(tile) == kHindiHalfSet) return letter.half;
   if (HindiSetOf(tile) == kHindiFootSet) return {.usual = letter.whole.usual};
   return letter.whole;
@@ -35,6 +29,11 @@ void WriteBar(const HindiExtent& bar, StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X1, r.Y1, r.X1 + r.CellW);
 }
 
+void WriteFootStrokeFrom(double x, StrokeRec& r, Pen& pen) {
+  r.Y1 = r.Row4 + 0.15 * r.CellH;
+  pen.SlantRight(45, x, r.Y1, r.Y1 + 0.45 * r.CellH);
+}
+
 }  // namespace
 
 std::span<const int> HindiConsonantsOfTwoForms() {
@@ -42,34 +41,46 @@ std::span<const int> HindiConsonantsOfTwoForms() {
   return kOfTwo;
 }
 
+const HindiConsonant& HindiConsonantOf(int tile) {
+  const auto letter = static_cast<std::size_t>(HindiLetterOf(tile));
+  return letter <= kHindiKaToDha ? HindiKaToDha()[letter - 1]
+                                 : HindiNaToJnya()[letter - 1 - kHindiKaToDha];
+}
+
+HindiParts GivenPartsOf(int tile, const StrokeRec& r) {
+  const HindiConsonant& letter = HindiConsonantOf(tile);
+  const LetterRoutine body = Wanted(BodyOf(tile), r);
+  if (HindiSetOf(tile) == kHindiHalfSet) return {body, letter.halfStem, letter.halfBar};
+  return {body, letter.stem, letter.bar};
+}
+
+void WriteHindiParts(double x, const HindiParts& parts, StrokeRec& r, Pen& pen) {
+  r.X1 = x;
+  r.Y1 = r.Row2;
+  parts.body(r, pen);
+  if (parts.stem.length > 0) WriteStem(parts.stem, r, pen);
+  if (parts.bar.length > 0) WriteBar(parts.bar, r, pen);
+  r.CellW = 5 * r.Unit;
+  r.CellH = r.RowH;
+}
+
+void WriteFootStrokeOf(int tile, StrokeRec& r, Pen& pen) {
+  const HindiFoot& foot = HindiConsonantOf(tile).foot;
+  r.X1 = ColumnOf(r, foot.column) + 0.5 * r.CellW;
+  WriteFootStrokeFrom(r.X1 + foot.across * r.CellW, r, pen);
+}
+
 void WriteHindiConsonant(StrokeRec& rec, DrawingSurface& sheet) {
   if (rec.LetterNo < 1 || rec.LetterNo > kHindiTiles) return;
-  const bool half = HindiSetOf(rec.LetterNo) == kHindiHalfSet;
-  const HindiConsonant& letter = ConsonantOf(rec.LetterNo);
-  const HindiExtent& stem = half ? letter.halfStem : letter.stem;
-  const HindiExtent& bar = half ? letter.halfBar : letter.bar;
   Pen pen{rec, sheet};
-
-  rec.X1 = letter.x;
-  rec.Y1 = rec.Row2;
-  Wanted(BodyOf(rec.LetterNo), rec)(rec, pen);
-  if (stem.length > 0) WriteStem(stem, rec, pen);
-  if (bar.length > 0) WriteBar(bar, rec, pen);
-  rec.CellW = 5 * rec.Unit;
-  rec.CellH = rec.RowH;
+  WriteHindiParts(HindiConsonantOf(rec.LetterNo).x, GivenPartsOf(rec.LetterNo, rec), rec, pen);
 }
 
 void WriteHindiFootStroke(StrokeRec& rec, DrawingSurface& sheet) {
-  rec.Y1 = rec.Row4 + 0.15 * rec.CellH;
-  double across = 0;
-  // a tile of another set has no column here: its stroke begins where its last part began
-  if (HindiSetOf(rec.LetterNo) == kHindiFootSet) {
-    const HindiFoot& foot = ConsonantOf(rec.LetterNo).foot;
-    rec.X1 = ColumnOf(rec, foot.column) + 0.5 * rec.CellW;
-    across = foot.across;
-  }
   Pen pen{rec, sheet};
-  pen.SlantRight(45, rec.X1 + across * rec.CellW, rec.Y1, rec.Y1 + 0.45 * rec.CellH);
+  if (HindiSetOf(rec.LetterNo) == kHindiFootSet) return WriteFootStrokeOf(rec.LetterNo, rec, pen);
+  // a tile of another set has no column here: its stroke begins where its last part began
+  WriteFootStrokeFrom(rec.X1, rec, pen);
 }
 
 }  // namespace bramlee

@@ -7,9 +7,6 @@
 
 namespace bramlee {
 
-/// A full stem is this long.
-inline constexpr double kHindiStem = 150;
-
 /// Where a stem or a bar begins across the sheet and how long it is; a length of 0 is none.
 struct HindiExtent {
   double x;
@@ -21,6 +18,12 @@ struct HindiExtent {
 struct HindiFoot {
   int column;
   double across;
+};
+
+/// A letter that is put together: its body, then for some a stem and a bar.
+struct HindiParts {
+  LetterRoutine body;
+  HindiExtent stem, bar;
 };
 
 /// The routines of a letter's body, and where its parts stand. The letters of set 3 have the usual
@@ -38,5 +41,17 @@ struct HindiConsonant {
 inline constexpr int kHindiKaToDha = 19;
 std::span<const HindiConsonant> HindiKaToDha();
 std::span<const HindiConsonant> HindiNaToJnya();
+
+/// The letter of that tile.
+const HindiConsonant& HindiConsonantOf(int tile);
+
+/// The parts of a tile as they are given, in the form that the record asks for.
+HindiParts GivenPartsOf(int tile, const StrokeRec& r);
+
+/// Writes the parts: a body with its X1 at `x`, its stem, its bar.
+void WriteHindiParts(double x, const HindiParts& parts, StrokeRec& r, Pen& pen);
+
+/// Writes the foot stroke that the tile's letter has in set 3.
+void WriteFootStrokeOf(int tile, StrokeRec& r, Pen& pen);
 
 }  // namespace bramlee

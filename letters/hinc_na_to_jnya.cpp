@@ -9,12 +9,6 @@ namespace {
 
 // Parts that several letters or forms share: a change to one changes all that use it.
 
-/// The short stem and the bowl of प, फ and ष, to the angle `end`.
-void WriteStemAndBowl(double end, StrokeRec& r, Pen& pen) {
-  pen.LineDown(r.X1 + 62.5, r.Y1, r.Y1 + 56.25);
-  pen.Arc(180, end, +1, r.X1 + 103.75, r.Y1 + 56.25, 41.25);
-}
-
 /// The open bow of ब and व.
 void WriteOpenBow(StrokeRec& r, Pen& pen) {
   pen.Arc(60, 335, +1, r.X1 - 25, r.Y1 + 75, 37.5);
@@ -174,9 +168,7 @@ void WriteKshaOtherwise(StrokeRec& r, Pen& pen) {
 }
 
 void WriteTra(StrokeRec& r, Pen& pen) {
-  const EndPoint arch = pen.Arc(160, 45, -1, r.X1 - 12.5, r.Y1 + 56.25, 26.25);
-  pen.SlantRight(50, arch.x, arch.y, arch.y + 37.5);
-  pen.SlantLeft(50, arch.x + 45, arch.y + 37.5, arch.y + 97.5);
+  WriteArmsOfTra(r.X1 - 12.5, r, pen);
 }
 
 void WriteJnya(StrokeRec& r, Pen& pen) {

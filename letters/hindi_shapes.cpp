@@ -15,4 +15,50 @@ void WriteRingAndTail(const StrokeRec& r, Pen& pen) {
   pen.Arc(360, 290, -1, ring.x - 67.5, ring.y, 67.5);
 }
 
+void WriteDhaBody(double waist, const StrokeRec& r, Pen& pen) {
+  pen.Arc(180, 540, +1, r.X1 + 29.85, r.Y1 + 18.9, 21);
+  pen.Arc(90, 270, +1, r.X1 + 41.25, r.Y1 + 27, 33.75);
+  const EndPoint bow = pen.Arc(waist, 272, +1, r.X1 + 41.25, r.Y1 + 94.5, 33.75);
+  pen.Arc(270, 345, +1, bow.x + 4.4625, bow.y - 62.475, 63.75);
+}
+
+void WriteStemAndBowl(double end, const StrokeRec& r, Pen& pen) {
+  pen.LineDown(r.X1 + 62.5, r.Y1, r.Y1 + 56.25);
+  pen.Arc(180, end, +1, r.X1 + 103.75, r.Y1 + 56.25, 41.25);
+}
+
+void WriteArmsOfTra(double archX, const StrokeRec& r, Pen& pen) {
+  const EndPoint arch = pen.Arc(160, 45, -1, archX, r.Y1 + 56.25, 26.25);
+  pen.SlantRight(50, arch.x, arch.y, arch.y + 37.5);
+  pen.SlantLeft(50, arch.x + 45, arch.y + 37.5, arch.y + 97.5);
+}
+
+void WriteUBows(const StrokeRec& r, Pen& pen) {
+  pen.Arc(65, -90, -1, r.X1 + 30, r.Y1 + 30, 30);
+  pen.Arc(90, -170, -1, r.X1 + 30, r.Y1 + 105, 45);
+}
+
+void WriteUuTo(double end, const StrokeRec& r, Pen& pen) {
+  WriteUBows(r, pen);
+  pen.Arc(150, end, -1, r.X1 + 90, r.Y1 + 90, 37.5);
+  pen.LineRight(r.X1 - 12, r.Y1, r.X1 + 129);
+}
+
+void WriteRiFromStem(const StrokeRec& r, Pen& pen) {
+  pen.LineDown(r.X1, r.Y1, r.Y1 + kHindiStem);
+  pen.SlantUpRight(45, r.X1, r.Y1 + 82.5, r.Y1 + 50);
+  const EndPoint loop = pen.Arc(-70, 270, +1, r.X1 + 31.05, r.Y1 + 37.8, 9);
+  pen.SlantRight(45, loop.x, loop.y, loop.y + 23.4);
+  pen.Arc(90, 300, +1, r.X1 + 54, r.Y1 + 99, 30);
+  pen.LineRight(r.X1 - 75, r.Y1, r.X1 + 75);
+}
+
+void WriteMoonBowl(const StrokeRec& r, Pen& pen) {
+  pen.Arc(190, 350, +1, r.X1, r.Y1 - 45, 30);
+}
+
+void WriteHindiDot(double centreX, double centreY, Pen& pen) {
+  pen.Arc(90, -270, -1, centreX, centreY, 7.5);
+}
+
 }  // namespace bramlee

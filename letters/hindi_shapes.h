@@ -6,6 +6,9 @@
 
 namespace bramlee {
 
+/// A full stem is this long.
+inline constexpr double kHindiStem = 150;
+
 /// Where the two bows of the hook ended.
 struct HookEnds {
   EndPoint upper;
@@ -17,5 +20,30 @@ HookEnds WriteHook(const StrokeRec& r, Pen& pen);
 
 /// The body of थ and श: a ring about the upper left of the letter, and the tail that leaves it.
 void WriteRingAndTail(const StrokeRec& r, Pen& pen);
+
+/// ध without stem and bar: its lower bow begins at the angle `waist`, 90 being the end of the upper
+/// one.
+void WriteDhaBody(double waist, const StrokeRec& r, Pen& pen);
+
+/// The short stem and the bowl of प, फ and ष, to the angle `end`.
+void WriteStemAndBowl(double end, const StrokeRec& r, Pen& pen);
+
+/// The arm of त्र that runs to its stem, from an arch about `archX`, and the one that leaves it.
+void WriteArmsOfTra(double archX, const StrokeRec& r, Pen& pen);
+
+/// The whole of ऊ, its tail to the angle `end`.
+void WriteUuTo(double end, const StrokeRec& r, Pen& pen);
+
+/// ऋ from its stem at X1 to its bar.
+void WriteRiFromStem(const StrokeRec& r, Pen& pen);
+
+/// The two bows of उ and ऊ.
+void WriteUBows(const StrokeRec& r, Pen& pen);
+
+/// The bowl of ँ.
+void WriteMoonBowl(const StrokeRec& r, Pen& pen);
+
+/// One of the round dots of the marks.
+void WriteHindiDot(double centreX, double centreY, Pen& pen);
 
 }  // namespace bramlee

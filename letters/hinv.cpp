@@ -10,9 +10,6 @@
 namespace bramlee {
 namespace {
 
-/// Stems and bodies are this high.
-constexpr double kHeight = 150;
-
 // Parts that several letters share: a change to one changes every letter that uses it.
 
 /// अ without its bar; returns the place of its stem.
@@ -20,7 +17,7 @@ EndPoint WriteABody(const StrokeRec& r, Pen& pen) {
   pen.Arc(150, -90, -1, r.X1 + 30, r.Y1 + 30, 30);
   pen.Arc(90, -170, -1, r.X1 + 30, r.Y1 + 105, 45);
   const EndPoint stem = pen.Arc(222, 320, +1, r.X1 + 78, r.Y1 + 37.5, 37.5);
-  pen.LineDown(stem.x, r.Y1, r.Y1 + kHeight);
+  pen.LineDown(stem.x, r.Y1, r.Y1 + kHindiStem);
   return stem;
 }
 
@@ -34,7 +31,7 @@ EndPoint WriteWholeA(const StrokeRec& r, Pen& pen) {
 /// The whole of आ.
 void WriteWholeAa(const StrokeRec& r, Pen& pen) {
   const EndPoint stem = WriteABody(r, pen);
-  pen.LineDown(stem.x + 45, r.Y1, r.Y1 + kHeight);
+  pen.LineDown(stem.x + 45, r.Y1, r.Y1 + kHindiStem);
   pen.LineRight(stem.x - 36, r.Y1, stem.x + 81);
 }
 
@@ -43,7 +40,7 @@ EndPoint WriteRoundA(const StrokeRec& r, Pen& pen) {
   const EndPoint waist = pen.Arc(150, -90, -1, r.X1 + 37.5, r.Y1 + 37.5, 37.5);
   pen.Arc(90, -170, -1, r.X1 + 37.5, r.Y1 + 112.5, 37.5);
   pen.LineRight(waist.x, waist.y, waist.x + 75);
-  pen.LineDown(waist.x + 75, r.Y1, r.Y1 + kHeight);
+  pen.LineDown(waist.x + 75, r.Y1, r.Y1 + kHindiStem);
   return waist;
 }
 
@@ -54,16 +51,10 @@ void WriteWholeI(const StrokeRec& r, Pen& pen) {
   pen.LineRight(r.X1 - 55.5, r.Y1, r.X1 + 27.75);
 }
 
-/// The two bows of उ and ऊ.
-void WriteUBows(const StrokeRec& r, Pen& pen) {
-  pen.Arc(65, -90, -1, r.X1 + 30, r.Y1 + 30, 30);
-  pen.Arc(90, -170, -1, r.X1 + 30, r.Y1 + 105, 45);
-}
-
 /// The whole of ए.
 void WriteWholeE(const StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1 + 75, r.Y1, r.Y1 + 75);
-  const EndPoint tail = pen.SlantRight(45, r.X1 + 75, r.Y1 + 75, r.Y1 + kHeight);
+  const EndPoint tail = pen.SlantRight(45, r.X1 + 75, r.Y1 + 75, r.Y1 + kHindiStem);
   pen.Arc(45, -160, -1, tail.x - 12, tail.y + 10.5, 15);
   pen.LineDown(r.X1 + 150, r.Y1, r.Y1 + 75);
   pen.Arc(0, -160, -1, r.X1 + 135, r.Y1 + 72.75, 15);
@@ -73,7 +64,7 @@ void WriteWholeE(const StrokeRec& r, Pen& pen) {
 /// The alternative form of ए, which has neither curl.
 void WritePlainE(const StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1 + 75, r.Y1, r.Y1 + 75);
-  pen.SlantRight(45, r.X1 + 75, r.Y1 + 75, r.Y1 + kHeight);
+  pen.SlantRight(45, r.X1 + 75, r.Y1 + 75, r.Y1 + kHindiStem);
   pen.LineDown(r.X1 + 150, r.Y1, r.Y1 + 75);
   pen.LineRight(r.X1 + 50, r.Y1, r.X1 + 175);
 }
@@ -103,15 +94,10 @@ void WriteSignStem(EndPoint end, const StrokeRec& r, Pen& pen) {
   pen.LineRight(end.x - 25, r.Y1, end.x + 25);
 }
 
-/// One of the round dots of ं and ः.
-void WriteDot(double centreX, double centreY, Pen& pen) {
-  pen.Arc(90, -270, -1, centreX, centreY, 7.5);
-}
-
 /// The two dots of ः, one over the other.
 void WriteTwoDots(double centreX, const StrokeRec& r, Pen& pen) {
-  WriteDot(centreX, r.Y1 + 37.5, pen);
-  WriteDot(centreX, r.Y1 + 112.5, pen);
+  WriteHindiDot(centreX, r.Y1 + 37.5, pen);
+  WriteHindiDot(centreX, r.Y1 + 112.5, pen);
 }
 
 /// The stroke down from the loop or bar of the mark below.
@@ -136,7 +122,7 @@ void WriteAa(StrokeRec& r, Pen& pen) {
 
 void WriteAaOtherwise(StrokeRec& r, Pen& pen) {
   const EndPoint waist = WriteRoundA(r, pen);
-  pen.LineDown(waist.x + 112.5, r.Y1, r.Y1 + kHeight);
+  pen.LineDown(waist.x + 112.5, r.Y1, r.Y1 + kHindiStem);
   pen.LineRight(waist.x + 45, r.Y1, waist.x + 142.5);
 }
 
@@ -155,24 +141,17 @@ void WriteU(StrokeRec& r, Pen& pen) {
 }
 
 void WriteUu(StrokeRec& r, Pen& pen) {
-  WriteUBows(r, pen);
-  pen.Arc(150, 0, -1, r.X1 + 90, r.Y1 + 90, 37.5);
-  pen.LineRight(r.X1 - 12, r.Y1, r.X1 + 129);
+  WriteUuTo(0, r, pen);
 }
 
 void WriteRi(StrokeRec& r, Pen& pen) {
   pen.Arc(110, -110, -1, r.X1 - 37.5, r.Y1 + 60, 37.5);
-  pen.LineDown(r.X1, r.Y1, r.Y1 + kHeight);
-  pen.SlantUpRight(45, r.X1, r.Y1 + 82.5, r.Y1 + 50);
-  const EndPoint loop = pen.Arc(-70, 270, +1, r.X1 + 31.05, r.Y1 + 37.8, 9);
-  pen.SlantRight(45, loop.x, loop.y, loop.y + 23.4);
-  pen.Arc(90, 300, +1, r.X1 + 54, r.Y1 + 99, 30);
-  pen.LineRight(r.X1 - 75, r.Y1, r.X1 + 75);
+  WriteRiFromStem(r, pen);
 }
 
 void WriteRiOtherwise(StrokeRec& r, Pen& pen) {
   const EndPoint bow = pen.Arc(100, -90, -1, r.X1 - 52.5, r.Y1 + 78.75, 52.5);
-  pen.LineDown(r.X1, r.Y1, r.Y1 + kHeight);
+  pen.LineDown(r.X1, r.Y1, r.Y1 + kHindiStem);
   pen.SlantUpRight(45, bow.x, bow.y, bow.y - 94.5);
   const EndPoint loop = pen.Arc(300, 570, +1, r.X1 + 34.2, r.Y1 + 31.5, 9);
   pen.SlantRight(45, loop.x, loop.y, loop.y + 27);
@@ -214,7 +193,7 @@ void WriteAu(StrokeRec& r, Pen& pen) {
 
 void WriteAm(StrokeRec& r, Pen& pen) {
   const EndPoint stem = WriteWholeA(r, pen);
-  WriteDot(stem.x, r.Y1 - 22.5, pen);
+  WriteHindiDot(stem.x, r.Y1 - 22.5, pen);
 }
 
 void WriteAh(StrokeRec& r, Pen& pen) {
@@ -270,7 +249,7 @@ void WriteSignOfAu(StrokeRec& r, Pen& pen) {
 }
 
 void WriteDotAbove(StrokeRec& r, Pen& pen) {
-  WriteDot(r.X1, r.Y1 - 22.5, pen);
+  WriteHindiDot(r.X1, r.Y1 - 22.5, pen);
 }
 
 void WriteDotsBeside(StrokeRec& r, Pen& pen) {
@@ -278,7 +257,7 @@ void WriteDotsBeside(StrokeRec& r, Pen& pen) {
 }
 
 void WriteMoon(StrokeRec& r, Pen& pen) {
-  pen.Arc(190, 350, +1, r.X1, r.Y1 - 45, 30);
+  WriteMoonBowl(r, pen);
 }
 
 void WriteMarkBelow(StrokeRec& r, Pen& pen) {
@@ -334,6 +313,17 @@ constexpr Tile kTiles[] = {
 // clang-format on
 static_assert(std::size(kTiles) == 28);
 
+/// The tile of the record, or nullptr.
+const Tile* TileOf(const StrokeRec& r) {
+  return r.LetterNo >= 1 && r.LetterNo <= std::ssize(kTiles) ? &kTiles[r.LetterNo - 1] : nullptr;
+}
+
+void LayAnchors(const Tile& tile, StrokeRec& r) {
+  r.X1 = ColumnOf(r, tile.column) + tile.across * r.CellW;
+  r.Y1 = r.Row2;
+  if (tile.foot) r.Y2 = r.Row4;
+}
+
 }  // namespace
 
 std::span<const int> HindiVowelsOfTwoForms() {
@@ -343,15 +333,20 @@ std::span<const int> HindiVowelsOfTwoForms() {
 }
 
 void WriteHindiVowel(StrokeRec& rec, DrawingSurface& sheet) {
-  if (rec.LetterNo < 1 || rec.LetterNo > std::ssize(kTiles)) return;
-  const Tile& tile = kTiles[rec.LetterNo - 1];
-  const LetterRoutine write = Wanted(tile.write, rec);
+  const Tile* tile = TileOf(rec);
+  if (tile == nullptr) return;
+  const LetterRoutine write = Wanted(tile->write, rec);
   if (write == nullptr) return;
-  rec.X1 = ColumnOf(rec, tile.column) + tile.across * rec.CellW;
-  rec.Y1 = rec.Row2;
-  if (tile.foot) rec.Y2 = rec.Row4;
+  LayAnchors(*tile, rec);
   Pen pen{rec, sheet};
   write(rec, pen);
+}
+
+void WriteHindiVowelInTheBook(StrokeRec& rec, DrawingSurface& sheet) {
+  const Tile* tile = TileOf(rec);
+  if (tile == nullptr) return;
+  LayAnchors(*tile, rec);
+  WriteFrom(HindiVowelsInTheBook(), rec, sheet);
 }
 
 }  // namespace bramlee

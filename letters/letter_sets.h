@@ -6,6 +6,7 @@
 
 #include "engine/drawing_surface.h"
 #include "engine/stroke_rec.h"
+#include "letters/book_forms.h"
 
 namespace bramlee {
 
@@ -21,7 +22,9 @@ struct LetterSet {
   int tiles;                         ///< tiles are 1 to this
   std::span<const int> secondForms;  ///< tiles that have an alternative form too
   WriteLetter write;
-  int footTilesFrom = 0;  ///< tiles from here on get the foot stroke too; 0 for none
+  std::span<const BookForm> bookForms;  ///< the forms that stand otherwise in the book
+  WriteLetter writeBook;                ///< writes those alone, the foot stroke included
+  int footTilesFrom = 0;  ///< tiles from here on get the foot stroke after `write`; 0 for none
   int digits = 0;         ///< tiles 1 to this can stand in a typed number
 };
 
@@ -60,6 +63,24 @@ const LetterSet* FindLetterSet(std::string_view name);
 /// Whether the tile has an alternative form beside its usual one.
 bool HasSecondForm(const LetterSet& set, int tile);
 
+/// Which form of a tile is wanted.
+struct TileForm {
+  bool alternative = false;
+  int place = 0;      ///< column of a digit in a typed number, 1 to 5; 0 is the tile's own
+  bool book = false;  ///< as in the book, where the tile stands otherwise there
+  bool operator==(const TileForm&) const = default;
+};
+
+/// Whether the tile stands otherwise in the book: its alternative form, if that is wanted and there
+/// is one, or its usual form. `form.book` does not matter.
+bool HasBookForm(const LetterSet& set, int tile, const TileForm& form = {});
+
+/// The program that writes the tile in that form: of the book, of a typed digit, or the set's own.
+WriteLetter ProgramOf(const LetterSet& set, int tile, const TileForm& form);
+
+/// Whether WriteHindiFootStroke follows the tile's program. A book form has its own.
+bool IsFollowedByFootStroke(const LetterSet& set, int tile, const TileForm& form);
+
 // One routine a set, each in the source that is named after the set.
 void WriteCapital(StrokeRec& rec, DrawingSurface& sheet);
 void WriteSmallLetter(StrokeRec& rec, DrawingSurface& sheet);
@@ -68,6 +89,12 @@ void WriteHindiConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteTeluguVowel(StrokeRec& rec, DrawingSurface& sheet);
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet);
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet);
+
+// Those of the book whose anchors stand with the set's own letters.
+void WriteHindiVowelInTheBook(StrokeRec& rec, DrawingSurface& sheet);
+void WriteNumberInTheBook(StrokeRec& rec, DrawingSurface& sheet);
+/// As WriteTypedDigit.
+void WriteTypedDigitInTheBook(StrokeRec& rec, DrawingSurface& sheet);
 
 /// A digit at its place in a typed number: in the column of LoopNo, 1 to 5, instead of its tile's
 /// own. For another place, or a tile that is no digit, it writes nothing.
@@ -82,13 +109,6 @@ void WriteHindiFootStroke(StrokeRec& rec, DrawingSurface& sheet);
 std::span<const int> HindiVowelsOfTwoForms();
 std::span<const int> HindiConsonantsOfTwoForms();
 std::span<const int> NumbersOfTwoForms();
-
-/// Which form of a tile is wanted.
-struct TileForm {
-  bool alternative = false;
-  int place = 0;  ///< column of a digit in a typed number, 1 to 5; 0 is the tile's own
-  bool operator==(const TileForm&) const = default;
-};
 
 /// Writes all that belongs to one tile from a fresh record and cleared last-point registers, as a
 /// board just opened does on a click: for uses without a board. A tile outside the set writes

@@ -2,9 +2,10 @@
 // signs + - x / % = ?. A digit stands between Y1 (325) and 150 below, its left edge or middle at
 // X1; a sign has its middle on Row3 (400). Their measures are parts of the cell's width and
 // height and of R1, so that a digit stands alike in any column.
+#include "letters/mat.h"
+
 #include "letters/forms.h"
 #include "letters/letter_sets.h"
-#include "letters/pen.h"
 
 namespace bramlee {
 namespace {
@@ -36,14 +37,6 @@ void LayFour(StrokeRec& r) {
   r.WY2 = r.CellH + r.Y1;
   r.WX3 = (r.WX2 - r.WX1) * 1.7 / 3 + r.WX1;
   r.WY3 = 2 * r.CellH + r.WY1;
-}
-
-/// The ring of the 9, of radius R4 about (X1, CY1); returns the place where its stem begins.
-EndPoint WriteRingOfNine(StrokeRec& r, Pen& pen) {
-  r.WY1 = r.CellH * 0.32 + r.Y1;
-  r.CY1 = r.CellH * 0.2 + r.WY1;
-  r.R4 = r.R1 * 0.52;
-  return pen.Arc(0, 360, +1, r.X1, r.CY1, r.R4);
 }
 
 // Each digit: its anchors, then its strokes in writing order, a line each.
@@ -102,11 +95,9 @@ void WriteOpenFour(StrokeRec& r, Pen& pen) {
 }
 
 void WriteFive(StrokeRec& r, Pen& pen) {
-  LayFrame(r);
-  r.WY2 = r.CellH * 0.93 + r.Y1;
+  LayFive(r);
   pen.LineLeft(r.WX1, r.WY1, r.WX2);
-  pen.LineDown(r.WX1, r.WY1, r.WY2);
-  pen.Arc(150, -140, -1, r.CX1, r.CellH * 1.3 + r.WY1, r.R1 * 0.72);
+  WriteStemAndBowOfFive(r, pen);
 }
 
 void WriteSix(StrokeRec& r, Pen& pen) {
@@ -138,16 +129,11 @@ void WriteEight(StrokeRec& r, Pen& pen) {
 }
 
 void WriteNine(StrokeRec& r, Pen& pen) {
-  const EndPoint ring = WriteRingOfNine(r, pen);
-  r.Y2 = r.CellH * 1.5 + ring.y;
-  pen.LineDown(ring.x, ring.y, r.Y2);
+  WriteStemOfNine(WriteRingOfNine(0, r, pen), r, pen);
 }
 
 void WriteHookedNine(StrokeRec& r, Pen& pen) {
-  const EndPoint ring = WriteRingOfNine(r, pen);
-  r.Y2 = r.R4 * 1.8 + ring.y;
-  pen.LineDown(ring.x, ring.y, r.Y2);
-  pen.Arc(0, -135, -1, r.X1, r.CY1 + r.R4 * 1.8, r.R4);
+  WriteStemAndHookOfNine(WriteRingOfNine(0, r, pen), r, pen);
 }
 
 // An egg of five arcs: crown, left side, foot, right side, and the crown closed.
@@ -186,10 +172,7 @@ void WriteMinus(StrokeRec& r, Pen& pen) {
 
 // A cross and, beside it, a star.
 void WriteTimes(StrokeRec& r, Pen& pen) {
-  r.Y1 = r.CellH * 0.25 + r.Row2;
-  r.Y2 = r.Row4 - r.CellH * 0.25;
-  pen.SlantRight(45, r.CellW * 0.28 + r.Col1, r.Y1, r.Y2);
-  pen.SlantLeft(45, r.CellW * 0.72 + r.Col1, r.Y1, r.Y2);
+  WriteCross(r, pen);
   r.Y3 = r.CellH * 0.6 + r.Row2;
   r.Y4 = r.CellH * 0.4 + r.Row3;
   pen.SlantRight(60, r.CellW * 0.28 + r.Col2, r.Y3, r.Y4);
@@ -199,10 +182,7 @@ void WriteTimes(StrokeRec& r, Pen& pen) {
 
 // A bar between two dots and, beside it, a slash.
 void WriteDividedBy(StrokeRec& r, Pen& pen) {
-  r.X1 = r.CellW * 0.5 + r.Col3;
-  r.Y1 = r.Row3;
-  pen.LineRight(r.CellW * 0.3 + r.Col3, r.Row3, r.Col4 - r.CellW * 0.3);
-  WriteTwoDots(0, r, pen);
+  WriteBarAndDots(r, pen);
   pen.SlantLeft(35, r.CellW * 0.62 + r.Col4, r.CellH * 0.32 + r.Row2, r.Row4 - r.CellH * 0.32);
 }
 
@@ -278,7 +258,63 @@ void Narrow(const Digit& digit, StrokeRec& r) {
   r.CellW = r.CellW * digit.width;
 }
 
+void StandOnItsTile(const Digit& digit, StrokeRec& r) {
+  StandIn(ColumnOf(r, digit.column), digit, r);
+  Narrow(digit, r);
+}
+
+/// The digit where it is typed; nullptr, and nothing is laid, for a sign or without a place.
+const Digit* StandInItsNumber(StrokeRec& r) {
+  const Digit* digit = DigitOf(r);
+  if (digit == nullptr || !IsColumn(r.LoopNo)) return nullptr;
+  Narrow(*digit, r);  // before its place is measured: a typed 7 stands further left
+  StandIn(ColumnOf(r, r.LoopNo), *digit, r);
+  return digit;
+}
+
 }  // namespace
+
+void LayFive(StrokeRec& r) {
+  LayFrame(r);
+  r.WY2 = r.CellH * 0.93 + r.Y1;
+}
+
+void WriteStemAndBowOfFive(StrokeRec& r, Pen& pen) {
+  pen.LineDown(r.WX1, r.WY1, r.WY2);
+  pen.Arc(150, -140, -1, r.CX1, r.CellH * 1.3 + r.WY1, r.R1 * 0.72);
+}
+
+EndPoint WriteRingOfNine(double start, StrokeRec& r, Pen& pen) {
+  r.WY1 = r.CellH * 0.32 + r.Y1;
+  r.CY1 = r.CellH * 0.2 + r.WY1;
+  r.R4 = r.R1 * 0.52;
+  return pen.Arc(start, start + 360, +1, r.X1, r.CY1, r.R4);
+}
+
+void WriteStemOfNine(EndPoint right, StrokeRec& r, Pen& pen) {
+  r.Y2 = r.CellH * 1.5 + right.y;
+  pen.LineDown(right.x, right.y, r.Y2);
+}
+
+void WriteStemAndHookOfNine(EndPoint right, StrokeRec& r, Pen& pen) {
+  r.Y2 = r.R4 * 1.8 + right.y;
+  pen.LineDown(right.x, right.y, r.Y2);
+  pen.Arc(0, -135, -1, r.X1, r.CY1 + r.R4 * 1.8, r.R4);
+}
+
+void WriteCross(StrokeRec& r, Pen& pen) {
+  r.Y1 = r.CellH * 0.25 + r.Row2;
+  r.Y2 = r.Row4 - r.CellH * 0.25;
+  pen.SlantRight(45, r.CellW * 0.28 + r.Col1, r.Y1, r.Y2);
+  pen.SlantLeft(45, r.CellW * 0.72 + r.Col1, r.Y1, r.Y2);
+}
+
+void WriteBarAndDots(StrokeRec& r, Pen& pen) {
+  r.X1 = r.CellW * 0.5 + r.Col3;
+  r.Y1 = r.Row3;
+  pen.LineRight(r.CellW * 0.3 + r.Col3, r.Row3, r.Col4 - r.CellW * 0.3);
+  WriteTwoDots(0, r, pen);
+}
 
 std::span<const int> NumbersOfTwoForms() {
   static const std::vector<int> kOfTwo =
@@ -289,8 +325,7 @@ std::span<const int> NumbersOfTwoForms() {
 void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet) {
   Pen pen{rec, sheet};
   if (const Digit* digit = DigitOf(rec)) {
-    StandIn(ColumnOf(rec, digit->column), *digit, rec);
-    Narrow(*digit, rec);
+    StandOnItsTile(*digit, rec);
     return Wanted(digit->write, rec)(rec, pen);
   }
   const int sign = rec.LetterNo - kDigitTiles;
@@ -298,12 +333,19 @@ void WriteNumberTile(StrokeRec& rec, DrawingSurface& sheet) {
 }
 
 void WriteTypedDigit(StrokeRec& rec, DrawingSurface& sheet) {
-  const Digit* digit = DigitOf(rec);
-  if (digit == nullptr || !IsColumn(rec.LoopNo)) return;
-  Narrow(*digit, rec);  // before its place is measured: a typed 7 stands further left
-  StandIn(ColumnOf(rec, rec.LoopNo), *digit, rec);
+  const Digit* digit = StandInItsNumber(rec);
+  if (digit == nullptr) return;
   Pen pen{rec, sheet};
   Wanted(digit->write, rec)(rec, pen);
+}
+
+void WriteNumberInTheBook(StrokeRec& rec, DrawingSurface& sheet) {
+  if (const Digit* digit = DigitOf(rec)) StandOnItsTile(*digit, rec);
+  WriteFrom(NumbersInTheBook(), rec, sheet);
+}
+
+void WriteTypedDigitInTheBook(StrokeRec& rec, DrawingSurface& sheet) {
+  if (StandInItsNumber(rec) != nullptr) WriteFrom(NumbersInTheBook(), rec, sheet);
 }
 
 }  // namespace bramlee

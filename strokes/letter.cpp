@@ -18,10 +18,11 @@ const LetterShape& Letter::Shape() const {
 
 const Letter& LetterOf(const LetterId& id) {
   static const Letter kNoLetter;
-  static std::map<std::tuple<std::string_view, int, bool, int>, Letter> recorded;
+  static std::map<std::tuple<std::string_view, int, bool, int, bool>, Letter> recorded;
   const LetterSet* set = FindLetterSet(id.set);
   if (set == nullptr || id.tile < 1 || id.tile > set->tiles) return kNoLetter;
-  const auto key = std::tuple(set->name, id.tile, id.form.alternative, id.form.place);
+  const auto& [alternative, place, book] = id.form;
+  const auto key = std::tuple(set->name, id.tile, alternative, place, book);
   const auto found = recorded.find(key);
   if (found != recorded.end()) return found->second;
   const KeepLastPoint kept;

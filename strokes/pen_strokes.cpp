@@ -7,7 +7,8 @@
 namespace bramlee {
 namespace {
 
-enum class Form : std::uint8_t { Either, Usual, Alternative };
+/// Those of the book have other runs: what is said of a given form does not hold for them.
+enum class Form : std::uint8_t { EitherGiven, Usual, Alternative, Book };
 
 /// A run before which the hand does otherwise than the distance says.
 struct Exception {
@@ -22,21 +23,28 @@ struct Exception {
 constexpr Exception kExceptions[] = {
     {"hinv", 9,  Form::Usual,       7, true},   // the sign's ring goes on into its slant, as on tile 10
     {"hinv", 9,  Form::Alternative, 5, true},   // the same
-    {"telv", 2,  Form::Either,      1, true},   // the ring goes on into the bowl, as on tile 1
-    {"telc", 2,  Form::Either,      1, true},   // the ring goes on into the bow, as on tile 19, its small form
-    {"telc", 2,  Form::Either,      2, true},   // the bow goes back into the loop, as on tile 19
-    {"telc", 13, Form::Either,      2, true},   // the bow goes on into the cup, as on tile 30, its small form
-    {"telc", 29, Form::Either,      6, false},  // the tick and the bar below it are two, as on tile 12, its large form
-    {"telc", 72, Form::Either,      4, true},   // the bow goes on upwards, as on tile 71
+    {"telv", 2,  Form::EitherGiven, 1, true},   // the ring goes on into the bowl, as on tile 1
+    {"telc", 2,  Form::EitherGiven, 1, true},   // the ring goes on into the bow, as on tile 19, its small form
+    {"telc", 2,  Form::EitherGiven, 2, true},   // the bow goes back into the loop, as on tile 19
+    {"telc", 13, Form::EitherGiven, 2, true},   // the bow goes on into the cup, as on tile 30, its small form
+    {"telc", 29, Form::EitherGiven, 6, false},  // the tick and the bar below it are two, as on tile 12, its large form
+    {"telc", 72, Form::EitherGiven, 4, true},   // the bow goes on upwards, as on tile 71
 };
 // clang-format on
 
+Form FormOf(const LetterId& id) {
+  const LetterSet* set = FindLetterSet(id.set);
+  if (id.form.book && set != nullptr && HasBookForm(*set, id.tile, id.form)) return Form::Book;
+  return id.form.alternative ? Form::Alternative : Form::Usual;
+}
+
 /// What the table says of a run, if anything.
 std::optional<bool> GoesOnByTable(const LetterId& id, std::size_t run) {
-  const Form form = id.form.alternative ? Form::Alternative : Form::Usual;
+  const Form form = FormOf(id);
   for (const Exception& each : kExceptions) {
     const bool same = each.set == id.set && each.tile == id.tile && each.run == run;
-    if (same && (each.form == Form::Either || each.form == form)) return each.goesOn;
+    const bool holds = each.form == form || (each.form == Form::EitherGiven && form != Form::Book);
+    if (same && holds) return each.goesOn;
   }
   return std::nullopt;
 }

@@ -6,6 +6,7 @@
 #include <limits>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/letters/written.h"
@@ -24,9 +25,9 @@ template <class Check>
 void ForEveryTile(Check check) {
   for (const LetterSet& set : LetterSets()) {
     for (int tile = 1; tile <= set.tiles; ++tile) {
-      for (const TileForm& form : {TileForm{}, kAlternative}) {
+      for (const TileForm& form : {TileForm{}, kAlternative, kBook, kBookAlternative}) {
         SCOPED_TRACE(std::string(set.name) + " tile " + std::to_string(tile) +
-                     (form.alternative ? " alternative" : ""));
+                     (form.alternative ? " alternative" : "") + (form.book ? " in the book" : ""));
         check(set, tile, form);
       }
     }
@@ -49,7 +50,9 @@ TEST(LetterSets, WriteNothingForATileOutside) {
       Recorder sheet(1);
       StrokeRec rec = FillStrokeRec(set.sheet, static_cast<std::int16_t>(tile));
       set.write(rec, sheet);
+      set.writeBook(rec, sheet);
       WriteWholeTile(set, tile, {}, sheet);
+      WriteWholeTile(set, tile, kBook, sheet);
       EXPECT_TRUE(sheet.runs.empty());
       EXPECT_TRUE(sheet.dots.empty());
       EXPECT_EQ(LastX, 5);
@@ -79,7 +82,7 @@ TEST(LetterSets, OnlyReadTheCellTables) {
     rec.AltFlag = form.alternative ? 1 : 0;
     const std::vector<double> before = CellTablesOf(rec);
     Recorder sheet(1);
-    set.write(rec, sheet);
+    ProgramOf(set, tile, form)(rec, sheet);
     EXPECT_EQ(CellTablesOf(rec), before);
     EXPECT_EQ(rec.LetterNo, tile);
     EXPECT_EQ(rec.LastResult, 0);
@@ -93,7 +96,7 @@ TEST(LetterSets, DoNotRelyOnWhatAnotherLetterLeftInTheRegisters) {
       StrokeRec rec = FillStrokeRec(set.sheet, static_cast<std::int16_t>(tile));
       rec.AltFlag = form.alternative ? 1 : 0;
       Recorder sheet(1);
-      set.write(rec, sheet);
+      ProgramOf(set, tile, form)(rec, sheet);
       return sheet;
     };
     const Recorder fromZero = writtenAfter(0);
@@ -121,7 +124,7 @@ TEST(LetterSets, DoNotChangeWithTheStepFlag) {
       rec.AltFlag = form.alternative ? 1 : 0;
       rec.StepFlag = stepFlag;
       Recorder sheet(1);
-      set.write(rec, sheet);
+      ProgramOf(set, tile, form)(rec, sheet);
       return sheet.dots;
     };
     EXPECT_EQ(written(0), written(1));
@@ -141,6 +144,37 @@ TEST(LetterSets, NameTheTilesThatChangeWithTheForm) {
       EXPECT_EQ(HasSecondForm(set, tile), changing.contains(tile)) << set.name << ' ' << tile;
     }
   }
+}
+
+TEST(LetterSets, HaveEachBookFormOnceAndOfAFormThatThereIs) {
+  for (const LetterSet& set : LetterSets()) {
+    std::set<std::pair<int, bool>> named;
+    for (const BookForm& form : set.bookForms) {
+      SCOPED_TRACE(std::string(set.name) + " tile " + std::to_string(form.tile));
+      EXPECT_TRUE(form.tile >= 1 && form.tile <= set.tiles);
+      EXPECT_TRUE(!form.alternative || HasSecondForm(set, form.tile));
+      EXPECT_TRUE(named.emplace(form.tile, form.alternative).second);
+    }
+  }
+}
+
+TEST(LetterSets, WriteTheGivenFormFromTheBookUnlessATileStandsOtherwiseThere) {
+  ForEveryTile([](const LetterSet& set, int tile, const TileForm& form) {
+    if (!form.book) return;
+    TileForm given = form;
+    given.book = false;
+    const bool otherwise =
+        Written(set.name, tile, form).runs != Written(set.name, tile, given).runs;
+    EXPECT_EQ(otherwise, HasBookForm(set, tile, form));
+  });
+}
+
+TEST(LetterSets, HaveTheUsualFormInTheBookOfATileWithoutAnAlternativeOne) {
+  ForEveryTile([](const LetterSet& set, int tile, const TileForm& form) {
+    if (!form.book || !form.alternative || HasSecondForm(set, tile)) return;
+    if (Written(set.name, tile, kAlternative).runs.empty()) return;  // falls silent
+    EXPECT_EQ(Written(set.name, tile, form).runs, Written(set.name, tile, kBook).runs);
+  });
 }
 
 TEST(LetterSets, DrawAFieldThatWasNeverSetAsZero) {

@@ -20,7 +20,9 @@ inline Recorder Written(std::string_view set, int tile, const TileForm& form = {
   return sheet;
 }
 
-inline constexpr TileForm kAlternative{.alternative = true, .place = 0};
+inline constexpr TileForm kAlternative{.alternative = true};
+inline constexpr TileForm kBook{.book = true};
+inline constexpr TileForm kBookAlternative{.alternative = true, .book = true};
 
 using Runs = std::vector<RecordedRun>;
 

@@ -9,15 +9,19 @@
 
 namespace bramlee {
 
-/// The forms of a tile: its usual one, its alternative, and at each place of a number.
+/// The forms of a tile: its usual one and its alternative, each as given and in the book, and at
+/// each place of a number.
 inline std::vector<TileForm> FormsOf(const LetterSet& set, int tile) {
   std::vector<TileForm> forms;
+  const auto add = [&](TileForm form) {
+    const int places = tile <= set.digits ? 5 : 0;
+    for (form.place = 0; form.place <= places; ++form.place) forms.push_back(form);
+  };
   for (const bool alternative : {false, true}) {
     if (alternative && !HasSecondForm(set, tile)) continue;
-    const int places = tile <= set.digits ? 5 : 0;
-    for (int place = 0; place <= places; ++place) {
-      forms.push_back({.alternative = alternative, .place = place});
-    }
+    const TileForm given{.alternative = alternative};
+    add(given);
+    if (HasBookForm(set, tile, given)) add({.alternative = alternative, .book = true});
   }
   return forms;
 }
@@ -36,7 +40,8 @@ inline std::vector<LetterId> EveryLetter() {
 
 inline std::string NameOf(const LetterId& id) {
   return std::string(id.set) + ' ' + std::to_string(id.tile) +
-         (id.form.alternative ? " alternative" : "") + " place " + std::to_string(id.form.place);
+         (id.form.alternative ? " alternative" : "") + (id.form.book ? " book" : "") + " place " +
+         std::to_string(id.form.place);
 }
 
 }  // namespace bramlee

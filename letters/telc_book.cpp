@@ -1,0 +1,10 @@
+// Telugu consonants as in the book.
+#include "letters/book_forms.h"
+
+namespace bramlee {
+
+std::span<const BookForm> TeluguConsonantsInTheBook() {
+  return {};
+}
+
+}  // namespace bramlee
