@@ -25,6 +25,8 @@ struct PlacedLetter {
   Letter letter;
   std::uint32_t colour = 0;  ///< passed to the surface as it is
   Placing placing;
+  /// Rules or a grid: no step goes back over them, and a step back leaves them where they are.
+  bool ruling = false;
 };
 
 /// Letters in writing order. It may grow while a player stands on it.

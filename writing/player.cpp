@@ -12,6 +12,7 @@ void Player::FollowPage() {
   place_ = {};
   inStroke_ = false;
   begins_.clear();
+  laid_.reset();
   strokesWritten_ = 0;
 }
 
@@ -25,9 +26,21 @@ bool Player::FindStroke() {
 }
 
 void Player::BeginStroke() {
-  if (rewindable_ != nullptr) begins_.push_back({.place = place_, .mark = rewindable_->Mark()});
-  surface_.SetPen(PresentLetter().colour);
+  const PlacedLetter& letter = PresentLetter();
+  if (rewindable_ != nullptr && !letter.ruling) {
+    begins_.push_back({.place = place_, .mark = rewindable_->Mark()});
+  }
+  surface_.SetPen(letter.colour);
   inStroke_ = true;
+}
+
+void Player::EndStroke() {
+  const Place stroke = place_;
+  place_ = {.letter = stroke.letter, .stroke = stroke.stroke + 1};
+  inStroke_ = false;
+  if (PresentLetter().ruling) return;
+  ++strokesWritten_;
+  if (laid_) PutStrokeBeneathRulings(stroke);
 }
 
 void Player::BeginRun(const Run& run) {
@@ -41,13 +54,69 @@ void Player::EndRun() {
   inRun_ = false;
 }
 
-std::int64_t Player::WriteInRun(std::int64_t most) {
-  const Placing placing = PresentLetter().placing;
-  if (placing.IsNone()) return cursor_.Plot(surface_, most);
-  return cursor_.Advance(most, [&](double x, double y) {
-    surface_.PSet(static_cast<float>(x * placing.scale + placing.right),
-                  static_cast<float>(y * placing.scale + placing.down));
+namespace {
+
+std::int64_t Plot(RunCursor& cursor, const Placing& placing, DrawingSurface& surface,
+                  std::int64_t most) {
+  if (placing.IsNone()) return cursor.Plot(surface, most);
+  return cursor.Advance(most, [&](double x, double y) {
+    surface.PSet(static_cast<float>(x * placing.scale + placing.right),
+                 static_cast<float>(y * placing.scale + placing.down));
   });
+}
+
+}  // namespace
+
+std::int64_t Player::WriteInRun(std::int64_t most) {
+  return Plot(cursor_, PresentLetter().placing, surface_, most);
+}
+
+/// Leaves the place where the player stands alone.
+void Player::WriteAtOnce(const PlacedLetter& placed, const PenStroke& stroke) {
+  surface_.SetPen(placed.colour);
+  for (const Run& run : placed.letter.Runs().subspan(stroke.firstRun, stroke.runs)) {
+    surface_.BeginRun(run.primitive, run.Arguments());
+    RunCursor cursor(run, placed.letter.Step());
+    Plot(cursor, placed.placing, surface_, kAll);
+    surface_.EndRun();
+  }
+}
+
+/// Writes the rulings from the page's letter `from` on and returns the letter behind them.
+std::size_t Player::WriteRulings(std::size_t from) {
+  const auto letters = page_.Letters();
+  for (; from < letters.size() && letters[from].ruling; ++from) {
+    for (const PenStroke& line : letters[from].letter.PenStrokes()) {
+      WriteAtOnce(letters[from], line);
+    }
+  }
+  return from;
+}
+
+void Player::LayRulings() {
+  FollowPage();
+  if (inStroke_) WriteStroke();
+  while (FindStroke() && PresentLetter().ruling) WriteStroke();
+  const std::size_t next = laid_ ? laid_->end : place_.letter + 1;
+  if (next >= page_.Letters().size() || !page_.Letters()[next].ruling) return;
+  if (!laid_) laid_ = {.mark = rewindable_ != nullptr ? rewindable_->Mark() : SurfaceMark{}};
+  laid_->end = WriteRulings(next);
+}
+
+/// A stroke that was written over rulings which came after its letter goes where it would lie had
+/// the letter been whole by then. Where the surface does not go back it stays on top.
+void Player::PutStrokeBeneathRulings(const Place& stroke) {
+  const PlacedLetter& placed = page_.Letters()[stroke.letter];
+  const auto strokes = placed.letter.PenStrokes();
+  if (rewindable_ != nullptr && rewindable_->RewindTo(laid_->mark)) {
+    begins_.back().mark = laid_->mark;
+    WriteAtOnce(placed, strokes[stroke.stroke]);
+    laid_->mark = rewindable_->Mark();
+    WriteRulings(stroke.letter + 1);
+  }
+  if (place_.stroke < strokes.size()) return;
+  place_ = {.letter = laid_->end};
+  laid_.reset();
 }
 
 std::int64_t Player::WriteStroke(std::int64_t most) {
@@ -65,9 +134,7 @@ std::int64_t Player::WriteStroke(std::int64_t most) {
     EndRun();
     ++place_.run;
   }
-  place_ = {.letter = place_.letter, .stroke = place_.stroke + 1};
-  inStroke_ = false;
-  ++strokesWritten_;
+  EndStroke();
   return written;
 }
 
@@ -86,10 +153,24 @@ std::int64_t Player::RunToEnd() {
 bool Player::StepBack() {
   FollowPage();
   if (begins_.empty() || !rewindable_->RewindTo(begins_.back().mark)) return false;
+  const bool withinLetter = inStroke_ && !PresentLetter().ruling;
   place_ = begins_.back().place;
   begins_.pop_back();
-  if (!inStroke_) --strokesWritten_;
   inStroke_ = inRun_ = false;
+  if (withinLetter) return true;  // rulings that lay beneath the stroke's start lie there still
+  --strokesWritten_;
+  laid_.reset();
+  LayRulings();
+  return true;
+}
+
+bool Player::StepToLetterStart() {
+  const Where where = Stands();
+  const bool isLetter = !AtEnd() && !PresentLetter().ruling;
+  if (isLetter && where.stroke == 0 && !where.begun) return false;
+  do {
+    if (!StepBack()) return false;
+  } while (place_.stroke > 0);
   return true;
 }
 
@@ -101,6 +182,12 @@ bool Player::AtEnd() {
 bool Player::BetweenStrokes() {
   FollowPage();
   return !inStroke_;
+}
+
+Player::Where Player::Stands() {
+  FollowPage();
+  FindStroke();
+  return {.letter = place_.letter, .stroke = place_.stroke, .begun = inStroke_};
 }
 
 std::size_t Player::StrokesWritten() {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "engine/run.h"
@@ -52,15 +53,33 @@ class Player {
 
   /// Takes the present pen stroke away, back to its start; at the start of a stroke, takes away the
   /// stroke before. Returns false and changes nothing at the start of the page and where the
-  /// surface cannot go back, or not so far.
+  /// surface cannot go back, or not so far. Rulings are no strokes: those that follow the letter on
+  /// the page lie over what is left of it, and over each of its strokes again once that is whole.
   bool StepBack();
+  /// Steps back to the start of the letter whose stroke was begun last. Returns false where it
+  /// stands there already or the surface does not go back so far; what can be taken away then is.
+  bool StepToLetterStart();
+
+  /// Writes the rulings that follow the present letter at once, over what stands of it. At the end
+  /// of the page it does nothing: rulings have their turn then.
+  void LayRulings();
 
   /// Whether every dot of the page is written. It may grow and be written on.
   bool AtEnd();
   /// Whether it stands between two pen strokes, at the start or at the end.
   bool BetweenStrokes();
-  /// How many pen strokes of the page are written whole.
+  /// How many pen strokes of the page's letters are written whole.
   std::size_t StrokesWritten();
+
+  /// A place on the page.
+  struct Where {
+    std::size_t letter = 0;  ///< its index; the number of letters at the end
+    std::size_t stroke = 0;  ///< of the letter
+    bool begun = false;      ///< whether any of the stroke may be written
+    bool operator==(const Where&) const = default;
+  };
+  /// Where it stands: at or in the pen stroke that it writes next.
+  Where Stands();
 
   /// How fast the pen goes beside its usual pace: 1 at first. A figure that is not finite and
   /// greater than 0 is ignored.
@@ -83,10 +102,20 @@ class Player {
     SurfaceMark mark;
   };
 
+  /// Rulings that were written before their turn, over an unfinished letter.
+  struct Laid {
+    SurfaceMark mark;     ///< before them
+    std::size_t end = 0;  ///< the page's letter behind them
+  };
+
   void FollowPage();
   bool FindStroke();
   const PlacedLetter& PresentLetter() const { return page_.Letters()[place_.letter]; }
   void BeginStroke();
+  void EndStroke();
+  void PutStrokeBeneathRulings(const Place& stroke);
+  void WriteAtOnce(const PlacedLetter& letter, const PenStroke& stroke);
+  std::size_t WriteRulings(std::size_t from);
   void BeginRun(const Run& run);
   void EndRun();
   std::int64_t WriteInRun(std::int64_t most);
@@ -100,7 +129,8 @@ class Player {
   bool inStroke_ = false;
   bool inRun_ = false;
   RunCursor cursor_;                 ///< of the present run
-  std::vector<StrokeBegin> begins_;  ///< of the strokes so far, the present one included
+  std::vector<StrokeBegin> begins_;  ///< of the letters' strokes so far, the present one included
+  std::optional<Laid> laid_;
 
   std::size_t strokesWritten_ = 0;
 
