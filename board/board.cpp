@@ -46,7 +46,7 @@ Board::Board(const BoardRecord& record)
       letters_(*FindLetterSet(record.letterSet)),
       scroller_(new QScrollArea(this)),
       sheet_(new Sheet),
-      player_(page_, *sheet_) {
+      pen_(*sheet_) {
   scroller_->setFrameShape(QFrame::NoFrame);
   scroller_->setWidgetResizable(true);
   scroller_->setWidget(sheet_);

@@ -7,13 +7,12 @@
 #include <QString>
 #include <cstdint>
 
+#include "board/board_pen.h"
 #include "board/board_record.h"
 #include "board/board_settings.h"
 #include "board/sheet.h"
 #include "letters/letter_sets.h"
 #include "ui/form.h"
-#include "writing/page.h"
-#include "writing/player.h"
 
 class QScrollArea;
 
@@ -36,6 +35,7 @@ class Board : public Form {
   const BoardRecord& record() const { return record_; }  ///< what it differs in
   const LetterSet& letters() const { return letters_; }  ///< what its tiles write
   Sheet& sheet() const { return *sheet_; }               ///< what they write on; the client
+  BoardPen& pen() { return pen_; }                       ///< what writes there
 
   /// As large as the screen, the media's drive in txtdrv, the tiles in their places.
   void Form_Load() override;
@@ -114,6 +114,10 @@ class Board : public Form {
   static QString RuleFlagName(int rule);  ///< the flag of mnurulled(rule), "txtundo(27)" and on
   static QString GridFlagName();          ///< the flag of mnugrid, "txtundo(32)"
 
+ Q_SIGNALS:
+  /// Draw All was asked for, and nothing is wiped or written yet.
+  void DrawAllStarts();
+
  protected:
   bool eventFilter(QObject* picture, QEvent* event) override;
 
@@ -134,8 +138,7 @@ class Board : public Form {
   const LetterSet& letters_;
   QScrollArea* scroller_;
   Sheet* sheet_;
-  Page page_;  ///< the letters on the sheet
-  Player player_;
+  BoardPen pen_;
   QRect reach_;
 };
 

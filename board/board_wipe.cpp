@@ -15,7 +15,7 @@ const QString kYes = QStringLiteral("1");
 }  // namespace
 
 void Board::ResetToDesign() {
-  page_.Clear();
+  pen_.ForgetPage();
   sheet_->Wipe();
   sheet_->SetBackColor(record_.backColor);
   sheet_->SetForeColor(kPenColour);

@@ -1,50 +1,30 @@
 // What a board writes on its sheet: rules, grid and letters.
-#include <QScopeGuard>
+#include <utility>
 
 #include "board/board.h"
 #include "board/cues.h"
 #include "files/trap.h"
 #include "strokes/letter.h"
+#include "strokes/run_recorder.h"
 #include "ui/message_box.h"
 
 namespace bramlee {
-namespace {
-
-/// As many letters a page holds; a sheet that is never wiped begins a new one.
-constexpr std::size_t kManyLetters = 256;
-
-/// The pen in another colour, until this goes.
-class PenColour {
- public:
-  PenColour(Sheet& sheet, ColourWord colour) : sheet_(sheet), kept_(sheet.ForeColor()) {
-    sheet_.SetForeColor(colour);
-  }
-  ~PenColour() { sheet_.SetForeColor(kept_); }
-  PenColour(const PenColour&) = delete;
-  PenColour& operator=(const PenColour&) = delete;
-
- private:
-  Sheet& sheet_;
-  ColourWord kept_;
-};
-
-}  // namespace
 
 ColourWord Board::GridColour() const {
   return ForeColorOf(Named<QWidget>(QStringLiteral("txtgridcolor")));
 }
 
 void Board::DrawGridInItsColour() {
-  const Sheet::Writing writing(*sheet_);
-  const PenColour pen(*sheet_, GridColour());
-  DrawGrid(*sheet_, record_.gridExtent);
+  RunRecorder recorder(sheet_->Step());
+  DrawGrid(recorder, record_.gridExtent);
+  pen_.WriteRuling({{}, recorder.Step(), recorder.TakeRuns()}, GridColour());
 }
 
 // Takes the number by value: DrawRules may leave another in the variable that it is given.
 void Board::DrawRulesInTheirColour(std::int16_t number) {
-  const Sheet::Writing writing(*sheet_);
-  const PenColour pen(*sheet_, GridColour());
-  DrawRules(*sheet_, record_.ruleExtent, record_.ruleLines, number);
+  RunRecorder recorder(sheet_->Step());
+  DrawRules(recorder, record_.ruleExtent, record_.ruleLines, number);
+  pen_.WriteRuling({{}, recorder.Step(), recorder.TakeRuns()}, GridColour());
 }
 
 void Board::mnugrid_Click() {
@@ -117,21 +97,17 @@ void WriteTile(Board& board, StrokeRec& rec) {
 }
 
 void Board::Write(WriteLetter program, StrokeRec& rec) {
-  const Sheet::Writing writing(*sheet_);
   const LetterId id{
       .set = letters_.name,
       .tile = rec.LetterNo,
       .form = {.alternative = rec.AltFlag == 1, .place = rec.LoopNo}
   };
-  if (page_.Letters().size() >= kManyLetters) page_.Clear();
-  sheet_->DropMarks();  // the way back leads through the last letter only
-  page_.Add({.letter = RecordLetter(id, program, rec, sheet_->Step()),
-             .colour = sheet_->ForeColor(),
-             .placing = {}});
-  // The next letter does not go on with one that ended half-way.
-  auto unfinished = qScopeGuard([this] { page_.Clear(); });
-  player_.RunToEnd();
-  unfinished.dismiss();
+  const auto speakIfPlayIsOn = [this, rec] {
+    if (Checked(QStringLiteral("mnuaud"))) record_.cue(*this, rec);
+  };
+  Letter letter = RecordLetter(id, program, rec, sheet_->Step());
+  pen_.Write({.letter = std::move(letter), .colour = sheet_->ForeColor(), .placing = {}},
+             speakIfPlayIsOn);
 }
 
 void Board::mnudrawalt_Click() {
@@ -147,7 +123,8 @@ void Board::mnudrawalt_Click() {
 void Board::mnudall_Click() {
   Trap(QStringLiteral("brd:11"), [this](ErrInfo&) {
     SetChecked(QStringLiteral("mnuaud"), false);
-    const Sheet::Writing writing(*sheet_);  // one for all letters: a close waits for the last
+    Q_EMIT DrawAllStarts();
+    const BoardPen::Writing writing(pen_);  // one for all letters: a close waits for the last
     record_.drawAll(*this);
   });
 }

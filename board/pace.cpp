@@ -29,9 +29,9 @@ bool Pace::FrameIsDue() {
   return true;
 }
 
-void Pace::Rest(std::int64_t dots) {
+void Pace::Rest(double dots) {
   dots_ += dots;
-  const std::chrono::duration<double> spent(static_cast<double>(dots_) / kDotsPerSecond);
+  const std::chrono::duration<double> spent(dots_ / kDotsPerSecond);
   const auto due = start_ + std::chrono::duration_cast<Clock::duration>(spent);
   const auto late = Clock::now() - due;
   if (late > kLongDelay) {
@@ -39,6 +39,12 @@ void Pace::Rest(std::int64_t dots) {
   } else if (late < Clock::duration::zero()) {
     std::this_thread::sleep_until(due);
   }
+}
+
+void Pace::Pause() {
+  std::this_thread::sleep_for(frame_);
+  start_ = Clock::now();
+  dots_ = 0;
 }
 
 }  // namespace bramlee

@@ -24,9 +24,12 @@ class Pace {
   /// Whether what is shown is older than half a frame; if so, it counts as shown from now on.
   bool FrameIsDue();
 
-  /// `dots` more have been set: rests until they are due. After a delay of more than a quarter of
-  /// a second the pen does not race to catch up.
-  void Rest(std::int64_t dots);
+  /// `dots` more have been set, or so many at the usual pace have had their time: rests until they
+  /// are due. After a delay of more than a quarter of a second the pen does not race to catch up.
+  void Rest(double dots);
+
+  /// A pause: rests for a frame. The pen then goes on as if it had begun there.
+  void Pause();
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -35,7 +38,7 @@ class Pace {
   Clock::duration frame_{};
   Clock::time_point shown_;
   Clock::time_point start_;
-  std::int64_t dots_ = 0;  ///< since the start
+  double dots_ = 0;  ///< since the start
 };
 
 }  // namespace bramlee

@@ -1,23 +1,14 @@
 #include "board/sheet.h"
 
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScreen>
 #include <cmath>
 #include <utility>
 
 #include "files/numbers.h"
 
 namespace bramlee {
-namespace {
-
-bool HasDisplay() {
-  return QGuiApplication::platformName() != QStringLiteral("offscreen");
-}
-
-}  // namespace
 
 Sheet::Sheet(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -25,12 +16,12 @@ Sheet::Sheet(QWidget* parent) : QWidget(parent) {
 
 void Sheet::EndRun() {
   ink_.EndRun();
-  if (writing_ == 0) update();
+  if (!shownByCaller_) update();
 }
 
 bool Sheet::RewindTo(SurfaceMark mark) {
   const bool there = ink_.RewindTo(mark);
-  if (there && writing_ == 0) update();
+  if (there) update();
   return there;
 }
 
@@ -55,45 +46,20 @@ void Sheet::SetBackColor(ColourWord colour) {
   update();
 }
 
+void Sheet::SetForeColor(ColourWord colour) {
+  foreColor_ = colour;
+  SetPen(colour);
+}
+
 void Sheet::Wipe() {
   ink_.Wipe();
   if (!shown_.isNull()) shown_.fill(backColor_);
   update();
 }
 
-Sheet::Writing::Writing(Sheet& sheet) : sheet_(sheet) {
-  if (sheet_.writing_++ == 0) sheet_.BeginWriting();
-}
-
-Sheet::Writing::~Writing() {
-  if (--sheet_.writing_ == 0) sheet_.EndWriting();
-}
-
-void Sheet::BeginWriting() {
-  if (!HasDisplay() || !isVisible()) return;
-  pace_.Begin(screen()->refreshRate());
-  dotsToFrame_ = pace_.DotsPerFrame();
-}
-
-void Sheet::EndWriting() {
-  ink_.EndRun();
-  const std::int64_t dotsToFrame = std::exchange(dotsToFrame_, kNever);
-  if (dotsToFrame > pace_.DotsPerFrame()) return update();  // no pace was kept
-  ShowNewDots();
-  Rest(pace_.DotsPerFrame() - dotsToFrame);
-}
-
-void Sheet::EndFrame() {
-  if (pace_.FrameIsDue()) {
-    ShowNewDots();
-    LetWindowsLive();
-  }
-  Rest(pace_.DotsPerFrame());
-  dotsToFrame_ = pace_.DotsPerFrame();
-}
-
-void Sheet::Rest(std::int64_t dots) {
-  if (!EndIsAwaited()) pace_.Rest(dots);
+void Sheet::UpdateBeneath() {
+  shownGround_.reset();
+  update();
 }
 
 void Sheet::ShowNewDots() {
@@ -112,6 +78,16 @@ bool Sheet::MakeReady(double ratio) {
   return true;
 }
 
+/// `part` in device pixels.
+void Sheet::PaintBeneath(const QRect& part) {
+  if (beneath_.empty() || part.isEmpty()) return;
+  QPainter painter(&shown_);
+  const double ratio = shown_.devicePixelRatio();
+  painter.setClipRect(
+      QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio));
+  for (const SheetLayer* layer : beneath_) layer->Paint(painter);
+}
+
 /// Brings what is shown up to date; returns around what has changed, in logical pixels. Where the
 /// memory has run out the last picture stays, until a later call finds some.
 QRect Sheet::Refresh() {
@@ -121,7 +97,9 @@ QRect Sheet::Refresh() {
   if (shownGround_ != backColor_) dirty = shown_.rect();
   shownGround_ = backColor_;
   shown_.setDevicePixelRatio(ratio);
-  ink_.Compose(shown_, dirty, backColor_);
+  FillPart(shown_, dirty, backColor_);
+  PaintBeneath(dirty);
+  ink_.Compose(shown_, dirty);
   return QRectF(dirty.x() / ratio, dirty.y() / ratio, dirty.width() / ratio, dirty.height() / ratio)
       .toAlignedRect();
 }
@@ -136,6 +114,7 @@ void Sheet::paintEvent(QPaintEvent* event) {
   const QRectF picture(QPointF(), shown_.deviceIndependentSize());
   if (!picture.contains(rect())) painter.fillRect(rect(), backColor_);
   painter.drawImage(0, 0, shown_);
+  for (const SheetLayer* layer : above_) layer->Paint(painter);
 }
 
 }  // namespace bramlee

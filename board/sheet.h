@@ -4,19 +4,25 @@
 #include <QImage>
 #include <QString>
 #include <QWidget>
-#include <cstdint>
-#include <limits>
 #include <optional>
+#include <vector>
 
-#include "board/pace.h"
 #include "ink/ink.h"
 #include "ui/controls.h"
-#include "ui/held_input.h"
 #include "writing/rewindable_surface.h"
 
 class QLineEdit;
+class QPainter;
 
 namespace bramlee {
+
+/// Something that is seen with a sheet and is no ink. Painted in sheet pixels; what it paints is
+/// part of no picture of the dots.
+class SheetLayer {
+ public:
+  virtual ~SheetLayer() = default;
+  virtual void Paint(QPainter& painter) const = 0;
+};
 
 /// A board's client area as a drawing surface, in logical pixels from its top left. Tiles stand
 /// on it as child widgets; strokes run behind them. What was written stays through resizes,
@@ -26,15 +32,13 @@ class Sheet final : public QWidget, public RewindableSurface {
  public:
   explicit Sheet(QWidget* parent = nullptr);
 
-  void PSet(float x, float y) override {
-    ink_.PSet(x, y);
-    if (--dotsToFrame_ == 0) EndFrame();
-  }
+  void PSet(float x, float y) override { ink_.PSet(x, y); }
   double Step() const override { return ink_.Step(); }
   void BeginRun(Primitive primitive, std::span<const double> arguments) override {
     ink_.BeginRun(primitive, arguments);
   }
   void EndRun() override;
+  /// The colour of the dots to come for now; ForeColor stays what was chosen.
   void SetPen(ColourWord colour) override { ink_.SetPen(colour); }
   SurfaceMark Mark() override { return ink_.Mark(); }
   bool RewindTo(SurfaceMark mark) override;
@@ -52,8 +56,8 @@ class Sheet final : public QWidget, public RewindableSurface {
   /// The ground beneath the dots, white at first; those on it stay.
   void SetBackColor(ColourWord colour);
   /// The colour of the dots to come, red at first.
-  ColourWord ForeColor() const { return ink_.Colour(); }
-  void SetForeColor(ColourWord colour) { SetPen(colour); }
+  ColourWord ForeColor() const { return foreColor_; }
+  void SetForeColor(ColourWord colour);
 
   /// Takes every dot away.
   void Wipe();
@@ -61,48 +65,40 @@ class Sheet final : public QWidget, public RewindableSurface {
   /// The dots alone, for pictures.
   const Ink& Dots() const { return ink_; }
 
-  /// Strokes are written while one of these lives (they nest): no input, timer tick or close
-  /// reaches a form before the outermost one ends, see ui/held_input.h. On a visible window
-  /// the pen keeps its pace and rests for what is left of it at the end of the outermost one; it
-  /// hurries once the user waits for the end.
-  class Writing {
-   public:
-    explicit Writing(Sheet& sheet);
-    ~Writing();
-    Writing(const Writing&) = delete;
-    Writing& operator=(const Writing&) = delete;
+  /// Has a layer seen beneath the dots, on the ground, or above them, as long as the sheet lives.
+  void AddLayerBeneath(const SheetLayer& layer) { beneath_.push_back(&layer); }
+  void AddLayerAbove(const SheetLayer& layer) { above_.push_back(&layer); }
+  /// What a layer beneath paints is another from now on. After a change of a layer above, update()
+  /// will do.
+  void UpdateBeneath();
 
-   private:
-    Sheet& sheet_;
-    HoldInput hold_;
-  };
+  /// Shows what is new at once, without waiting for the event loop.
+  void ShowNewDots();
+
+  /// While on, a run's end does not ask for a repaint: the caller shows what is new.
+  void SetShownByCaller(bool on) { shownByCaller_ = on; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  static constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
-
-  void BeginWriting();
-  void EndWriting();
-  void EndFrame();
-  void Rest(std::int64_t dots);
-  void ShowNewDots();
   QRect Refresh();
   bool MakeReady(double ratio);
+  void PaintBeneath(const QRect& part);
   void TakeStep(const QString& text);
 
   QLineEdit* stepBox_ = nullptr;
   QString stepText_ = QStringLiteral("0.01");
 
   Ink ink_;
+  ColourWord foreColor_ = kPenColour;
   QColor backColor_{Qt::white};
   QImage shown_;                       ///< all of the sheet as it was shown last; null at first
   std::optional<QColor> shownGround_;  ///< what it was shown over
 
-  int writing_ = 0;
-  Pace pace_;
-  std::int64_t dotsToFrame_ = kNever;
+  std::vector<const SheetLayer*> beneath_;
+  std::vector<const SheetLayer*> above_;
+  bool shownByCaller_ = false;
 };
 
 }  // namespace bramlee

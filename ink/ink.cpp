@@ -9,6 +9,14 @@
 
 namespace bramlee {
 
+void FillPart(QImage& image, const QRect& part, const QColor& colour) noexcept {
+  const QRect within = part.intersected(image.rect());
+  for (int y = within.top(); y <= within.bottom(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+    std::fill_n(line + within.left(), within.width(), colour.rgb());
+  }
+}
+
 void Ink::Turn(float x, float y) {
   if (std::exchange(held_, false) && heldAlong_ >= kNear) Keep(heldX_, heldY_);
   heldAlong_ = kNever;
@@ -150,7 +158,8 @@ QImage Ink::Picture(const QRectF& area, double ratio, const QColor& ground) cons
     if (held_) planes.Stamp(heldX_, heldY_);
     QImage image(planes.Size(), QImage::Format_RGB32);
     if (image.isNull()) return {};
-    planes.Compose(image, image.rect(), ground.rgb());
+    image.fill(ground);
+    planes.Compose(image, image.rect());
     image.setDevicePixelRatio(ratio);
     return image;
   } catch (const std::bad_alloc&) {
@@ -174,8 +183,8 @@ QRect Ink::TakeDirty() {
   return planes_ ? planes_->TakeDirty() : QRect();
 }
 
-void Ink::Compose(QImage& image, const QRect& part, const QColor& ground) noexcept {
-  if (planes_) planes_->Compose(image, part, ground.rgb());
+void Ink::Compose(QImage& image, const QRect& part) noexcept {
+  if (planes_) planes_->Compose(image, part);
 }
 
 }  // namespace bramlee

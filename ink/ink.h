@@ -12,6 +12,9 @@
 
 namespace bramlee {
 
+/// Fills a part of a 32-bit image. Asks for no memory.
+void FillPart(QImage& image, const QRect& part, const QColor& colour) noexcept;
+
 /// Takes dots and shows them as smooth-edged discs of kDrawWidth at any pixel ratio.
 ///
 /// Dots of a run lie a hundredth of a pixel apart. A journal keeps those that change the picture
@@ -74,8 +77,9 @@ class Ink final : public RewindableSurface {
   QSize CoveredSize() const { return planes_ ? planes_->Size() : QSize(); }
   /// Where the covered part has changed since the last call, in device pixels.
   QRect TakeDirty();
-  /// Paints a part of what is covered into the same place of a 32-bit image of CoveredSize().
-  void Compose(QImage& image, const QRect& part, const QColor& ground) noexcept;
+  /// Paints a part of what is covered into the same place of a 32-bit image of CoveredSize(), over
+  /// what stands there.
+  void Compose(QImage& image, const QRect& part) noexcept;
 
   /// How many dots the journal holds.
   std::size_t KeptDots() const { return dots_.size(); }

@@ -145,18 +145,18 @@ QRect Planes::TakeDirty() {
       .intersected(QRect(QPoint(), size_));
 }
 
-void Planes::Compose(QImage& image, const QRect& part, QRgb ground) noexcept {
+void Planes::Compose(QImage& image, const QRect& part) noexcept {
   Settle();
   const QRect area = part.intersected(QRect(QPoint(), size_));
   for (int y = area.top(); y <= area.bottom(); ++y) {
     auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
     for (int x = area.left(); x <= area.right(); x += kPixelsAtOnce) {
-      ComposePixels(line + x, x, y, std::min(kPixelsAtOnce, area.right() + 1 - x), ground);
+      ComposePixels(line + x, x, y, std::min(kPixelsAtOnce, area.right() + 1 - x));
     }
   }
 }
 
-void Planes::ComposePixels(QRgb* pixel, int x, int y, int count, QRgb ground) const {
+void Planes::ComposePixels(QRgb* pixel, int x, int y, int count) const {
   Sums sums[kPixelsAtOnce];
   std::fill_n(sums, count, Sums{});
   const int left = x + margin_;
@@ -169,7 +169,7 @@ void Planes::ComposePixels(QRgb* pixel, int x, int y, int count, QRgb ground) co
               {colour.red(), colour.green(), colour.blue(), 0});
   }
   for (int i = 0; i < count; ++i) {
-    pixel[i] = sums[i].samples == 0 ? ground : Mixed(sums[i], ground);
+    if (sums[i].samples != 0) pixel[i] = Mixed(sums[i], pixel[i]);
   }
 }
 

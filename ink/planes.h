@@ -53,8 +53,8 @@ class Planes {
   QRect TakeDirty();
 
   /// Paints the part `part` (device pixels of the area) into the same place of `image`, a 32-bit
-  /// image of Size(), over `ground`. Asks for no memory.
-  void Compose(QImage& image, const QRect& part, QRgb ground) noexcept;
+  /// image of Size(), over what stands there. Asks for no memory.
+  void Compose(QImage& image, const QRect& part) noexcept;
 
  private:
   /// Rows and columns of the planes, the last ones beyond it.
@@ -76,7 +76,7 @@ class Planes {
 
   void SetBits(const std::uint64_t* stamp, int column, int row);
   void Settle();
-  void ComposePixels(QRgb* pixel, int x, int y, int count, QRgb ground) const;
+  void ComposePixels(QRgb* pixel, int x, int y, int count) const;
   std::uint64_t* RowOf(const Plane& plane, int row) const {
     return plane.words.get() + std::ptrdiff_t{row} * stride_;
   }

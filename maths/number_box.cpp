@@ -35,7 +35,7 @@ void SpeakWhole(Board& board, const QString& text) {
 /// Clicks the tile of each digit, with the digit's place in txtaltno. A tile that begins a group
 /// wipes, which clears the place, and so writes in its own.
 void WriteDigits(Board& board, const QString& text) {
-  const Sheet::Writing writing(board.sheet());
+  const BoardPen::Writing writing(board.pen());
   for (int place = 1; place <= text.size(); ++place) {
     const QChar digit = text[place - 1];
     if (!digit.isDigit()) continue;

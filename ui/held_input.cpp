@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "ui/key_repeats.h"
 
@@ -144,6 +146,9 @@ class HeldInput : public QObject {
   }
 
   void Admit(QWidget* widget) { admitted_.append(widget); }
+  void AdmitKeys(QWidget* widget, std::function<bool(const QKeyEvent&)> wants) {
+    admittedKeys_.push_back({.widget = widget, .wants = std::move(wants)});
+  }
 
   bool EndIsAwaited() const {
     return !closes_.isEmpty() || std::any_of(waiting_.begin(), waiting_.end(),
@@ -162,6 +167,7 @@ class HeldInput : public QObject {
       SendMarkedAsRepeat(receiver, *static_cast<QKeyEvent*>(event));
       return true;
     }
+    if (pumping_ && PassedOnAsWantedKey(receiver, event)) return true;
     if (!Holds() || IsAdmitted(receiver, event)) return false;
     if (event->type() == QEvent::InputMethod) {
       waiting_.push_back(HeldText(receiver, *static_cast<QInputMethodEvent*>(event)));
@@ -218,6 +224,26 @@ class HeldInput : public QObject {
     const MouseOf owner = admitted ? MouseOf::Admitted : MouseOf::Waiting;
     mouseOf_ = event.buttons() == Qt::NoButton ? MouseOf::Nobody : owner;
     return admitted;
+  }
+
+  /// Whether the event belongs to a key that a widget wants; delivers its press there.
+  bool PassedOnAsWantedKey(const QObject* receiver, QEvent* event) {
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (!isPress && event->type() != QEvent::KeyRelease &&
+        event->type() != QEvent::ShortcutOverride)
+      return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    const auto wanting = std::ranges::find_if(admittedKeys_, [&](const AdmittedKeys& keys) {
+      return keys.widget != nullptr && keys.widget->window()->windowHandle() == receiver &&
+             keys.wants(key);
+    });
+    if (wanting == admittedKeys_.end()) return false;
+    event->accept();
+    if (isPress) {
+      const std::unique_ptr<QEvent> press(key.clone());
+      QCoreApplication::sendEvent(wanting->widget, press.get());
+    }
+    return true;
   }
 
   /// Whether the event is meant for an admitted widget.
@@ -306,7 +332,13 @@ class HeldInput : public QObject {
   /// Whose the mouse is while a button is down.
   enum class MouseOf : std::uint8_t { Nobody, Admitted, Waiting };
 
+  struct AdmittedKeys {
+    QPointer<QWidget> widget;
+    std::function<bool(const QKeyEvent&)> wants;
+  };
+
   KeyRepeats repeats_;
+  std::vector<AdmittedKeys> admittedKeys_;
   QList<QPointer<QWidget>> admitted_;
   MouseOf mouseOf_ = MouseOf::Nobody;
   int depth_ = 0;
@@ -330,6 +362,10 @@ HoldInput::~HoldInput() {
 
 void HoldInput::Admit(QWidget* widget) {
   HeldInput::Instance().Admit(widget);
+}
+
+void HoldInput::AdmitKeys(QWidget* widget, std::function<bool(const QKeyEvent&)> wants) {
+  HeldInput::Instance().AdmitKeys(widget, std::move(wants));
 }
 
 void LetWindowsLive() {

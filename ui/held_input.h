@@ -8,6 +8,7 @@
 #include <QObject>
 #include <functional>
 
+class QKeyEvent;
 class QWidget;
 
 namespace bramlee {
@@ -25,6 +26,11 @@ class HoldInput {
   /// waits for nothing: the mouse and the wheel above it, a button until it is let go again, and
   /// the keys while it has the focus. Its handlers then run in the middle of what is written.
   static void Admit(QWidget* widget);
+
+  /// From now on as long as the widget lives, the keys of its window for which `wants` holds go to
+  /// it while input is held, whatever has the focus, instead of waiting. Only their presses are
+  /// delivered.
+  static void AdmitKeys(QWidget* widget, std::function<bool(const QKeyEvent&)> wants);
 };
 
 /// Call it every few milliseconds while input is held: repaints windows where they were uncovered

@@ -114,7 +114,8 @@ TEST_F(SheetMemory, GoingBackToAColourWithoutRoomGoesBackAndShowsItLater) {
   LineRight(ink, 100, 200, 200);
   EXPECT_TRUE(ink.Cover(area, 1));
   QImage shown(kSize, QImage::Format_RGB32);
-  ink.Compose(shown, shown.rect(), Qt::white);
+  shown.fill(Qt::white);
+  ink.Compose(shown, shown.rect());
   EXPECT_EQ(shown, ink.Picture(area, 1, Qt::white));
 }
 

@@ -46,10 +46,7 @@ void ExpectShowsItsDots(Sheet& sheet) {
 
 TEST(Sheet, ShowsWhatIsWritten) {
   Scrolled scrolled({1366, 700});
-  {
-    const Sheet::Writing writing(*scrolled.sheet);
-    WriteLetterOn(*scrolled.sheet, 1);
-  }
+  WriteLetterOn(*scrolled.sheet, 1);
   EXPECT_EQ(ColourOf(kGround), scrolled.sheet->grab().toImage().pixelColor(450, 60));
   EXPECT_EQ(QColor(Qt::red), scrolled.sheet->grab().toImage().pixelColor(500, 151));
   ExpectShowsItsDots(*scrolled.sheet);
@@ -75,7 +72,7 @@ class PaintedRegion : public QObject {
 
 TEST(Sheet, ShowsNewDotsThoughSomethingElseWasUncovered) {
   Scrolled scrolled({1366, 700});
-  const Sheet::Writing writing(*scrolled.sheet);  // as while a message stands between two letters
+  scrolled.sheet->SetShownByCaller(true);  // as while a message stands between two letters
   LineRight(*scrolled.sheet, 400, 100, 500);
   PaintedRegion painted;
   scrolled.sheet->installEventFilter(&painted);
@@ -100,14 +97,11 @@ TEST(Sheet, KeepsWhatWasWrittenThroughSizesDuringAndAfterALetter) {
   Ink whole(0.01);
   WriteLetterOn(whole, 2);
   WriteLetterOn(whole, 3);
-  {
-    const Sheet::Writing writing(*scrolled.sheet);
-    WriteLetterOn(*scrolled.sheet, 2);
-    scrolled.window.resize(300, 200);
-    QCoreApplication::processEvents();
-    ExpectShowsItsDots(*scrolled.sheet);
-    WriteLetterOn(*scrolled.sheet, 3);
-  }
+  WriteLetterOn(*scrolled.sheet, 2);
+  scrolled.window.resize(300, 200);
+  QCoreApplication::processEvents();
+  ExpectShowsItsDots(*scrolled.sheet);
+  WriteLetterOn(*scrolled.sheet, 3);
   scrolled.window.resize(1500, 900);
   QCoreApplication::processEvents();
   ExpectShowsItsDots(*scrolled.sheet);

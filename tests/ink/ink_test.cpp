@@ -141,10 +141,12 @@ TEST_P(InkAtRatio, ShowsTheSameLiveAndReplayed) {
     LineDown(*ink, 430, 50, 110);
   }
   QImage shown(live.CoveredSize(), QImage::Format_RGB32);
-  live.Compose(shown, shown.rect(), Qt::white);
+  shown.fill(Qt::white);
+  live.Compose(shown, shown.rect());
   later.Cover(kArea, GetParam());
   QImage replayed(later.CoveredSize(), QImage::Format_RGB32);
-  later.Compose(replayed, replayed.rect(), Qt::white);
+  replayed.fill(Qt::white);
+  later.Compose(replayed, replayed.rect());
   shown.setDevicePixelRatio(GetParam());
   EXPECT_EQ(shown, live.Picture(kArea, GetParam(), Qt::white));
   replayed.setDevicePixelRatio(GetParam());
@@ -155,7 +157,11 @@ TEST_P(InkAtRatio, ReportsEveryChangeByTheDirtyRectangles) {
   Ink ink(0.08);
   ink.Cover(kArea, GetParam());
   QImage frames(ink.CoveredSize(), QImage::Format_RGB32);
-  const auto showFrame = [&] { ink.Compose(frames, ink.TakeDirty(), Qt::white); };
+  const auto showFrame = [&] {
+    const QRect dirty = ink.TakeDirty();
+    FillPart(frames, dirty, Qt::white);
+    ink.Compose(frames, dirty);
+  };
   showFrame();
   for (const ColourWord colour : {kRed, kBlue, kRed}) {
     ink.SetPen(colour);
@@ -231,7 +237,8 @@ TEST(Ink, KeepsWhatLiesOffTheCoveredPart) {
   Cross(ink);
   ink.Cover(kArea, 2);
   QImage shown(ink.CoveredSize(), QImage::Format_RGB32);
-  ink.Compose(shown, shown.rect(), Qt::white);
+  shown.fill(Qt::white);
+  ink.Compose(shown, shown.rect());
   shown.setDevicePixelRatio(2);
   EXPECT_EQ(shown, Written(0.01, kBlack, Cross).Picture(kArea, 2, Qt::white));
 }
@@ -286,7 +293,8 @@ TEST(Ink, ShowsAllColoursAsBeforeWhenItDropsCoveredDots) {
   ink.SetPen(kYellow);
   LineDown(ink, 640, 120, 380);
   QImage shown(ink.CoveredSize(), QImage::Format_RGB32);
-  ink.Compose(shown, shown.rect(), Qt::white);
+  shown.fill(Qt::white);
+  ink.Compose(shown, shown.rect());
   const QImage anew = ink.Picture(area, 1, Qt::white);
   EXPECT_EQ(anew, shown);
   EXPECT_EQ(anew.pixelColor(790 - 400, 260 - 100), QColor(Qt::blue));

@@ -119,7 +119,8 @@ TEST(InkMarks, ShowALivingWindowWhatAPictureShows) {
   QImage live(ink.CoveredSize(), QImage::Format_RGB32);
   live.setDevicePixelRatio(1.5);
   EXPECT_FALSE(ink.TakeDirty().isEmpty());
-  ink.Compose(live, live.rect(), Qt::white);
+  live.fill(Qt::white);
+  ink.Compose(live, live.rect());
   EXPECT_EQ(live, PictureOf(ink, 1.5));
 }
 

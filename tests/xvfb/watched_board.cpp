@@ -20,7 +20,7 @@
 #include <thread>
 
 #include "board/board.h"
-#include "engine/primitives.h"
+#include "engine/run.h"
 #include "ui/forms.h"
 #include "ui/message_box.h"
 
@@ -85,18 +85,19 @@ class OtherWindow : public Form {
   QPushButton* button_;
 };
 
+void WriteLine(Board& board, double y) {
+  const double line[] = {400, y, 700};
+  board.pen().WriteRuling({{}, board.sheet().Step(), {MakeRun(Primitive::LineRight, line)}}, 0xFF);
+}
+
 /// Writes a line, asks, and writes another.
-void AskBetweenLines(Sheet& sheet) {
+void AskBetweenLines(Board& board) {
   Say(QStringLiteral("begins asking"));
-  {
-    const Sheet::Writing writing(sheet);
-    LineRight(sheet, 400, 400, 700);
-  }
+  WriteLine(board, 400);
   Say(QStringLiteral("asks"));
   MsgBox(QStringLiteral("Well?"));
   Say(QStringLiteral("answered"));
-  const Sheet::Writing writing(sheet);
-  LineRight(sheet, 400, 420, 700);
+  WriteLine(board, 420);
 }
 
 class WatchedBoard {
@@ -151,7 +152,7 @@ class WatchedBoard {
     asks_->setGeometry(20, 580, 100, 30);
     asks_->setFocusPolicy(Qt::NoFocus);
     QObject::connect(asks_, &QPushButton::clicked, board_, [this] {
-      AskBetweenLines(board_->sheet());
+      AskBetweenLines(*board_);
       Say(QStringLiteral("done asking"));
     });
   }
