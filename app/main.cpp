@@ -5,7 +5,9 @@
 
 #include "app/subjects.h"
 #include "board/board.h"
+#include "board/companions.h"
 #include "card/card.h"
+#include "companions/watch/watch.h"
 #include "files/environment.h"
 #include "home/home.h"
 #include "maths/maths.h"
@@ -33,6 +35,7 @@ int main(int argc, char** argv) {
   bramlee::RegisterMedia();
   bramlee::RegisterBoards();
   bramlee::RegisterMaths();
+  bramlee::AddCompanion(bramlee::AddWatching);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();

@@ -4,7 +4,9 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "board/companions.h"
 #include "board/reach.h"
+#include "board/strip.h"
 #include "files/environment.h"
 #include "files/numbers.h"
 #include "files/trap.h"
@@ -57,6 +59,12 @@ Board::Board(const BoardRecord& record)
   for (PictureBox* picture : sheet_->findChildren<PictureBox*>()) picture->installEventFilter(this);
   ResetToDesign();
   reach_ = ReachOfAll();
+  MakeCompanions(*this);
+}
+
+Strip& Board::strip() {
+  if (strip_ == nullptr) strip_ = new Strip(*this);
+  return *strip_;
 }
 
 void Board::MakeControls() {

@@ -18,6 +18,8 @@ class QScrollArea;
 
 namespace bramlee {
 
+class Strip;
+
 /// Makes the boards of this folder known by their forms' names.
 void RegisterBoards();
 /// Makes one board known by its form's name. The record is used as long as the program runs.
@@ -36,6 +38,9 @@ class Board : public Form {
   const LetterSet& letters() const { return letters_; }  ///< what its tiles write
   Sheet& sheet() const { return *sheet_; }               ///< what they write on; the client
   BoardPen& pen() { return pen_; }                       ///< what writes there
+
+  /// The bar along the lower edge for companions, made when it is first asked for.
+  Strip& strip();
 
   /// As large as the screen, the media's drive in txtdrv, the tiles in their places.
   void Form_Load() override;
@@ -139,6 +144,7 @@ class Board : public Form {
   QScrollArea* scroller_;
   Sheet* sheet_;
   BoardPen pen_;
+  Strip* strip_ = nullptr;
   QRect reach_;
 };
 
