@@ -3,6 +3,7 @@
 // telc_below_ta_to_rra.cpp. A letter fills the rows from Row2 (325) to Row4 (475), and most carry a
 // HeadTick on or just above Row2.
 #include "letters/letter_sets.h"
+#include "letters/telugu_parts.h"
 #include "letters/telugu_shapes.h"
 #include "letters/telugu_tiles.h"
 
@@ -45,24 +46,6 @@ void WriteChaAt(double column, StrokeRec& r, Pen& pen) {
   pen.Arc(180, 370, +1, r.X1 + 170, r.Row4 - 50, 50);
   pen.Arc(0, 90, +1, r.X1 + 120, r.Row4 - 50, 100);
   HeadTick(pen, r.WX1, r.Row2, 52.5);
-}
-
-/// One of the ways in which dda is written, and the beginning of the same way of ddha; returns the
-/// place between its bowls. The loop at its right ends at the angle `loopEnd`; 0 is no loop.
-EndPoint WriteDdaAt(double column, int loopEnd, StrokeRec& r, Pen& pen) {
-  r.WX1 = column + 153.25;
-  pen.Arc(50, 185, +1, column + 113.75, r.Row2 + 100.725, 98.75);
-  const EndPoint bowl = pen.Arc(180, 355, +1, column + 64.375, r.Row2 + 100.725, 49.375);
-  pen.Arc(185, 390, +1, column + 163.125, r.Row2 + 100.725, 49.375);
-  if (loopEnd != 0) pen.Arc(45, loopEnd, +1, column + 185.34375, r.Row2 + 90.85, 24.6875);
-  HeadTick(pen, r.WX1, r.Row2 - 2.9625, 69.125);
-  return bowl;
-}
-
-/// One of the ways in which ddha is written: dda's with a stroke down from between its bowls.
-void WriteDdhaAt(double column, int loopEnd, StrokeRec& r, Pen& pen) {
-  const EndPoint bowl = WriteDdaAt(column, loopEnd, r, pen);
-  pen.LineDown(bowl.x, bowl.y, bowl.y + 49.375);
 }
 
 // Each letter: its anchors, then its strokes in writing order, a line each. X1 is the left edge
@@ -176,15 +159,15 @@ void WriteTtha(StrokeRec& r, Pen& pen) {
 // Three ways of writing dda, and then ddha, side by side.
 
 void WriteDda(StrokeRec& r, Pen& pen) {
-  WriteDdaAt(r.Col1, 0, r, pen);
-  WriteDdaAt(r.Col2, 180, r, pen);
-  WriteDdaAt(r.Col3, 405, r, pen);
+  DdaAt(r.Col1, 0, r, pen);
+  DdaAt(r.Col2, 180, r, pen);
+  DdaAt(r.Col3, kWholeRing, r, pen);
 }
 
 void WriteDdha(StrokeRec& r, Pen& pen) {
-  WriteDdhaAt(r.Col1, 0, r, pen);
-  WriteDdhaAt(r.Col2, 180, r, pen);
-  WriteDdhaAt(r.Col3, 405, r, pen);
+  DdhaAt(r.Col1, 0, r, pen);
+  DdhaAt(r.Col2, 180, r, pen);
+  DdhaAt(r.Col3, kWholeRing, r, pen);
 }
 
 void WriteNna(StrokeRec& r, Pen& pen) {
@@ -225,6 +208,21 @@ constexpr TeluguTile kLetters[] = {
 };
 
 }  // namespace
+
+EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen) {
+  r.WX1 = column + 153.25;
+  pen.Arc(50, 185, +1, column + 113.75, r.Row2 + 100.725, 98.75);
+  const EndPoint bowl = pen.Arc(180, 355, +1, column + 64.375, r.Row2 + 100.725, 49.375);
+  pen.Arc(185, 390, +1, column + 163.125, r.Row2 + 100.725, 49.375);
+  if (ringEnd != 0) pen.Arc(45, ringEnd, +1, column + 185.34375, r.Row2 + 90.85, 24.6875);
+  HeadTick(pen, r.WX1, r.Row2 - 2.9625, 69.125);
+  return bowl;
+}
+
+void DdhaAt(double column, int ringEnd, StrokeRec& r, Pen& pen) {
+  const EndPoint bowl = DdaAt(column, ringEnd, r, pen);
+  pen.LineDown(bowl.x, bowl.y, bowl.y + 49.375);
+}
 
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet) {
   WriteTelugu(

@@ -1,5 +1,6 @@
 // Telugu consonants, tiles 35 to 51, 69, 71 and 74: ta to rra. Those before ta are in telc.cpp,
 // with what holds for all of them.
+#include "letters/telugu_parts.h"
 #include "letters/telugu_shapes.h"
 #include "letters/telugu_tiles.h"
 
@@ -25,19 +26,26 @@ void WriteStrokeDown(StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1 + 121.25, r.Row4 - 37.5, r.Row4 + 22.5);
 }
 
-/// A HeadTick that the pen goes over a second time, dot for dot.
-void TickTwice(Pen& pen, double x, double y, double r) {
-  for (int pass = 1; pass <= 2; ++pass) {
-    pen.rec.WX1 = x;
-    HeadTick(pen, pen.rec.WX1, y, r);
+/// A HeadTick that the pen goes over so many times, dot for dot.
+void WriteTick(TickPasses passes, double x, StrokeRec& r, Pen& pen) {
+  for (int pass = 1; pass <= static_cast<int>(passes); ++pass) {
+    r.WX1 = x;
+    HeadTick(pen, r.WX1, r.Row2, 52.5);
   }
 }
 
 /// The bowl that na, ma and va have beside their ring, with its back and tick.
-void WriteBowlWithTick(StrokeRec& r, Pen& pen) {
+void WriteBowlWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
   pen.Arc(190, 346, +1, r.X1 + 120, r.Row3 + 37.5, 37.5);
   pen.Arc(332, 440, +1, r.X1 + 84, r.Row3 + 8, 82.5);
-  TickTwice(pen, r.X1 + 125, r.Row2, 52.5);
+  WriteTick(passes, r.X1 + 125, r, pen);
+}
+
+/// The letter va, and the beginning of ma.
+void WriteVaAt(double column, TickPasses passes, StrokeRec& r, Pen& pen) {
+  r.X1 = column;
+  pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
+  WriteBowlWithTick(passes, r, pen);
 }
 
 /// The ring of pa, pha, ssa and ha; returns the place where it closes.
@@ -82,13 +90,8 @@ EndPoint WriteBaAt(double column, StrokeRec& r, Pen& pen) {
 
 // Three ways of writing ta, side by side.
 void WriteTa(StrokeRec& r, Pen& pen) {
-  r.WX1 = r.Col1 + 130;
-  pen.Arc(90, 450, +1, r.Col1 + 40, r.Row2 + 64.5, 30);
-  pen.Arc(-175, 0, +1, r.Col1 + 100.3, r.Row2 + 64.5, 90);
-  pen.Arc(0, 450, +1, r.Col1 + 160, r.Row2 + 64.5, 30);
-  pen.Arc(270, 450, +1, r.Col1 + 160, r.Row2 + 17.7, 18);
-  pen.LineLeft(r.Col1 + 101, r.Row2 - 0.3, r.Col1 + 156);
-  HeadTick(pen, r.WX1, r.Row2, 52.5);
+  LeftRingOfTaAt(r.Col1, 90, r, pen);
+  TaFromBowlAt(r.Col1, r, pen);
 
   r.WX1 = r.Col2 + 135;
   pen.Arc(90, 450, +1, r.Col2 + 52.5, r.Row2 + 55.05, 18);
@@ -125,9 +128,7 @@ void WriteDha(StrokeRec& r, Pen& pen) {
 }
 
 void WriteNa(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col1;
-  pen.Arc(260, -10, -1, r.X1 + 45, r.Row3 + 37.5, 37.5);
-  WriteBowlWithTick(r, pen);
+  NaWithTick(TickPasses::Twice, r, pen);
 }
 
 void WritePa(StrokeRec& r, Pen& pen) {
@@ -151,21 +152,11 @@ void WriteBha(StrokeRec& r, Pen& pen) {
 }
 
 void WriteMa(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col1;
-  pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
-  WriteBowlWithTick(r, pen);
-  pen.Arc(190, 346, +1, r.X1 + 195, r.Row3 + 37.5, 37.5);
-  pen.Arc(332, 420, +1, r.X1 + 153, r.Row3 + 4, 89.25);
+  MaWithTick(TickPasses::Twice, r, pen);
 }
 
 void WriteYa(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col1;
-  pen.Arc(-30, 330, +1, r.X1 + 45, r.Row3, 75);
-  pen.Arc(190, 346, +1, r.X1 + 146.25, r.Row3 + 37.5, 37.5);
-  pen.Arc(332, 440, +1, r.X1 + 110.25, r.Row3 + 8, 82.5);
-  TickTwice(pen, r.X1 + 150, r.Row2, 52.5);
-  pen.Arc(190, 346, +1, r.X1 + 221.25, r.Row3 + 37.5, 37.5);
-  pen.Arc(332, 420, +1, r.X1 + 179.25, r.Row3 + 4, 89.25);
+  YaWithTick(TickPasses::Twice, r, pen);
 }
 
 void WriteRa(StrokeRec& r, Pen& pen) {
@@ -182,9 +173,7 @@ void WriteLa(StrokeRec& r, Pen& pen) {
 }
 
 void WriteVa(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col4;
-  pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
-  WriteBowlWithTick(r, pen);
+  VaWithTick(TickPasses::Twice, r, pen);
 }
 
 void WriteSha(StrokeRec& r, Pen& pen) {
@@ -230,12 +219,12 @@ void WriteLla(StrokeRec& r, Pen& pen) {
 }
 
 void WriteRra(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col3;
-  pen.Arc(-180, 180, +1, r.X1 + 57, r.Row2 + 30, 30);
-  pen.Arc(-195, -130, +1, r.X1 + 125, r.Row3 - 28, 100);
-  pen.Arc(-60, 3, +1, r.X1 + 125, r.Row3 - 28, 100);
-  pen.Arc(-2, 270, +1, r.X1 + 188, r.Row3 - 37, 37);
-  pen.LineLeft(LastX - 110, LastY, LastX);
+  r.X1 = r.Col3 + 125;
+  r.Y1 = r.Row3 - 28;
+  RingOfA(pen, r.X1, r.Y1, 1);
+  pen.Arc(-195, -130, +1, r.X1, r.Y1, 100);
+  pen.Arc(-60, 3, +1, r.X1, r.Y1, 100);
+  CurlOfA(pen, r.X1, r.Y1, 1);
 }
 
 constexpr TeluguTile kLetters[] = {
@@ -262,6 +251,45 @@ constexpr TeluguTile kLetters[] = {
 };
 
 }  // namespace
+
+void LeftRingOfTaAt(double column, int from, StrokeRec& r, Pen& pen) {
+  pen.Arc(from, from + 360, +1, column + 40, r.Row2 + 64.5, 30);
+}
+
+void TaFromBowlAt(double column, StrokeRec& r, Pen& pen) {
+  r.WX1 = column + 130;
+  pen.Arc(-175, 0, +1, column + 100.3, r.Row2 + 64.5, 90);
+  pen.Arc(0, 450, +1, column + 160, r.Row2 + 64.5, 30);
+  pen.Arc(270, 450, +1, column + 160, r.Row2 + 17.7, 18);
+  pen.LineLeft(column + 101, r.Row2 - 0.3, column + 156);
+  HeadTick(pen, r.WX1, r.Row2, 52.5);
+}
+
+void NaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
+  r.X1 = r.Col1;
+  pen.Arc(260, -10, -1, r.X1 + 45, r.Row3 + 37.5, 37.5);
+  WriteBowlWithTick(passes, r, pen);
+}
+
+void MaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
+  WriteVaAt(r.Col1, passes, r, pen);
+  pen.Arc(190, 346, +1, r.X1 + 195, r.Row3 + 37.5, 37.5);
+  pen.Arc(332, 420, +1, r.X1 + 153, r.Row3 + 4, 89.25);
+}
+
+void YaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
+  r.X1 = r.Col1;
+  pen.Arc(-30, 330, +1, r.X1 + 45, r.Row3, 75);
+  pen.Arc(190, 346, +1, r.X1 + 146.25, r.Row3 + 37.5, 37.5);
+  pen.Arc(332, 440, +1, r.X1 + 110.25, r.Row3 + 8, 82.5);
+  WriteTick(passes, r.X1 + 150, r, pen);
+  pen.Arc(190, 346, +1, r.X1 + 221.25, r.Row3 + 37.5, 37.5);
+  pen.Arc(332, 420, +1, r.X1 + 179.25, r.Row3 + 4, 89.25);
+}
+
+void VaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
+  WriteVaAt(r.Col4, passes, r, pen);
+}
 
 std::span<const TeluguTile> TeluguConsonantsFromTa() {
   return kLetters;

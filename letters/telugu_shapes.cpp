@@ -52,12 +52,21 @@ void OpenCurl(Pen& pen) {
   pen.Arc(-90, 100, +1, r.CX1, r.CY2, r.Rad);
 }
 
+void RingOfA(Pen& pen, double x, double y, double scale) {
+  pen.Arc(-180, 180, +1, x - 68 * scale, y - 17 * scale, 30 * scale);
+}
+
+void CurlOfA(Pen& pen, double x, double y, double scale) {
+  pen.Arc(-2, 270, +1, x + 63 * scale, y - 9 * scale, 37 * scale);
+  pen.LineLeft(LastX - 110 * scale, LastY, LastX);
+}
+
 void LetterA(Pen& pen, double column) {
-  const StrokeRec& r = pen.rec;
-  pen.Arc(-180, 180, +1, column + 57, r.Row2 + 30, 30);
-  pen.Arc(-195, 3, +1, column + 125, r.Row3 - 28, 100);
-  pen.Arc(-2, 270, +1, column + 188, r.Row3 - 37, 37);
-  pen.LineLeft(LastX - 110, LastY, LastX);
+  const double x = column + 125;
+  const double y = pen.rec.Row3 - 28;
+  RingOfA(pen, x, y, 1);
+  pen.Arc(-195, 3, +1, x, y, 100);
+  CurlOfA(pen, x, y, 1);
 }
 
 double CrownX(const StrokeRec& r) {

@@ -40,6 +40,12 @@ void TwinCurl(Pen& pen);
 /// The consonants' form of TwinCurl, with open arcs.
 void OpenCurl(Pen& pen);
 
+/// The small ring that a, aa and rra begin with, and the curl with a bar that ends a and rra. (x,
+/// y) is the middle of the large round between them, `scale` the letter's size, 1 that of a whole
+/// one.
+void RingOfA(Pen& pen, double x, double y, double scale);
+void CurlOfA(Pen& pen, double x, double y, double scale);
+
 /// The letter a, in a column of its own or as the first letter of a word; `column` is its left
 /// edge.
 void LetterA(Pen& pen, double column);

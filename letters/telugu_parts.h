@@ -1,0 +1,58 @@
+// Parts of single Telugu letters that their book forms are made of as well: a change to one changes
+// both. Each stands in the source of its given letter. `column` is the left edge of the letter's
+// own column in sheet pixels; angles are degrees.
+#pragma once
+
+#include <cstdint>
+
+#include "letters/pen.h"
+
+namespace bramlee {
+
+// In telc.cpp.
+
+/// One of the ways in which dda is written, and the beginning of the same way of ddha; returns the
+/// place between its bowls. The ring at its right ends at the angle `ringEnd`; 0 is no ring.
+EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen);
+
+/// One of the ways in which ddha is written: dda's with a stroke down from between its bowls.
+void DdhaAt(double column, int ringEnd, StrokeRec& r, Pen& pen);
+
+/// The `ringEnd` of the way with a whole ring.
+inline constexpr int kWholeRing = 405;
+
+// In telc_ta_to_rra.cpp.
+
+/// The way of ta with a ring at both ends of its bowl: all but the left ring, which runs on into
+/// the bowl when it begins and ends at the angle kBowlOfTa.
+void TaFromBowlAt(double column, StrokeRec& r, Pen& pen);
+
+/// That ring, once around from the angle `from`.
+void LeftRingOfTaAt(double column, int from, StrokeRec& r, Pen& pen);
+
+inline constexpr int kBowlOfTa = 195;
+
+/// How often the pen goes over the tick of na, ma, ya and va, dot for dot.
+enum class TickPasses : std::uint8_t { Once = 1, Twice = 2 };
+
+/// The letters na, ma, ya and va, each in its own column.
+void NaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
+void MaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
+void YaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
+void VaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
+
+// In telc_below_ta_to_rra.cpp.
+
+/// The way of the form of na with a long back, a small loop and a tail to the right.
+void BelowNaWithTailAt(double column, StrokeRec& r, Pen& pen);
+
+/// The way of the form of ya that begins with a curl and ends with a hook on its back.
+void BelowYaWithCurlAt(double column, StrokeRec& r, Pen& pen);
+
+/// The way of the form of ra that is a bowl under the letter.
+void BelowRaBowlAt(double column, StrokeRec& r, Pen& pen);
+
+/// The way of the form of ssa that is a small ssa without its tick.
+void BelowSsaAsLetterAt(double column, StrokeRec& r, Pen& pen);
+
+}  // namespace bramlee

@@ -1,0 +1,127 @@
+// The Telugu letters as in the book, beside the given ones.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "tests/letters/written.h"
+
+namespace bramlee {
+namespace {
+
+std::vector<int> TilesInTheBook(std::string_view name) {
+  const LetterSet& set = *FindLetterSet(name);
+  std::vector<int> tiles;
+  for (int tile = 1; tile <= set.tiles; ++tile) {
+    if (HasBookForm(set, tile)) tiles.push_back(tile);
+  }
+  return tiles;
+}
+
+/// Whether the runs are the same but for the rounding of their figures.
+void ExpectSameStrokes(const Runs& written, const Runs& wanted) {
+  ASSERT_EQ(written.size(), wanted.size());
+  for (std::size_t run = 0; run < wanted.size(); ++run) {
+    SCOPED_TRACE(run);
+    EXPECT_EQ(written[run].primitive, wanted[run].primitive);
+    ASSERT_EQ(written[run].arguments.size(), wanted[run].arguments.size());
+    for (std::size_t place = 0; place < wanted[run].arguments.size(); ++place) {
+      EXPECT_NEAR(written[run].arguments[place], wanted[run].arguments[place], 0.001) << place;
+    }
+  }
+}
+
+constexpr double kColumn = 250;
+
+/// The way around and the angles of an arc.
+std::vector<double> TurnOf(const RecordedRun& arc) {
+  return {arc.arguments.begin(), arc.arguments.begin() + 3};
+}
+
+TEST(TeluguBook, HasTheVowelsThatTheTablesWriteOtherwise) {
+  EXPECT_EQ(TilesInTheBook("telv"), (std::vector<int>{17, 18, 33, 34, 35}));
+}
+
+TEST(TeluguBook, HasTheConsonantsThatTheTablesWriteOtherwise) {
+  EXPECT_EQ(TilesInTheBook("telc"),
+            (std::vector<int>{15, 16, 35, 39, 44, 45, 48, 56, 61, 62, 63, 67, 74, 75}));
+}
+
+TEST(TeluguBook, KeepsOneOfTheWaysThatATileShowsInItsFirstColumn) {
+  struct Kept {
+    int tile;
+    std::ptrdiff_t first;  ///< run of the given tile, from 0
+    std::ptrdiff_t count;
+    int column;
+  };
+  for (const auto& [tile, first, count, column] : {
+           Kept{15, 11, 6, 3},
+           Kept{16, 13, 7, 3},
+           Kept{56, 4,  3, 2},
+           Kept{62, 3,  7, 2},
+           Kept{63, 0,  1, 1},
+  }) {
+    SCOPED_TRACE(tile);
+    const Runs given = Written("telc", tile).runs;
+    const Runs way{given.begin() + first, given.begin() + first + count};
+    ExpectSameStrokes(Written("telc", tile, kBook).runs, Moved(way, kColumn * (1 - column)));
+  }
+}
+
+TEST(TeluguBook, BeginsTheRingOfTaWhereItGoesOnIntoTheBowl) {
+  const Runs given = Written("telc", 35).runs;
+  const Recorder book = Written("telc", 35, kBook);
+  ASSERT_EQ(book.runs.size(), 7U);
+  ExpectSameStrokes({book.runs.begin() + 1, book.runs.end()},
+                    {given.begin() + 1, given.begin() + 7});
+  const Dot ringEnd = book.dots.at(static_cast<std::size_t>(book.runs[0].dots) - 1);
+  const Dot bowl = book.dots.at(static_cast<std::size_t>(book.runs[0].dots));
+  EXPECT_NEAR(ringEnd.x, bowl.x, 1);
+  EXPECT_NEAR(ringEnd.y, bowl.y, 1);
+}
+
+TEST(TeluguBook, GoesOverEachTickOnce) {
+  for (const int tile : {39, 44, 45, 48}) {
+    SCOPED_TRACE(tile);
+    Runs once = Written("telc", tile).runs;
+    once.erase(once.begin() + 5, once.begin() + 7);
+    EXPECT_EQ(Written("telc", tile, kBook).runs, once);
+  }
+}
+
+TEST(TeluguBook, WritesRraWithoutALift) {
+  const Recorder sheet = Written("telc", 74, kBook);
+  std::size_t next = 0;
+  for (std::size_t run = 0; run + 1 < sheet.runs.size(); ++run) {
+    next += static_cast<std::size_t>(sheet.runs[run].dots);
+    const Dot end = sheet.dots.at(next - 1);
+    const Dot begin = sheet.dots.at(next);
+    EXPECT_LT(std::hypot(begin.x - end.x, begin.y - end.y), 5) << run;
+  }
+}
+
+TEST(TeluguBook, HangsRraBelowAnotherLetterAsTheWholeLetterInSmall) {
+  const Runs whole = Written("telc", 74, kBook).runs;
+  const Runs below = Written("telc", 75, kBook).runs;
+  ASSERT_EQ(below.size(), whole.size());
+  for (std::size_t run = 0; run < whole.size(); ++run) {
+    SCOPED_TRACE(run);
+    ASSERT_EQ(below[run].primitive, whole[run].primitive);
+    if (whole[run].primitive != Primitive::ArcStroke) continue;
+    EXPECT_EQ(TurnOf(below[run]), TurnOf(whole[run]));
+    EXPECT_NEAR(below[run].arguments[5], 0.4 * whole[run].arguments[5], 0.001);
+  }
+}
+
+TEST(TeluguBook, ShowsTheSignsThatEndASyllableCloseBehindTheirLetterWithoutAWord) {
+  const Runs a = Written("telv", 1).runs;
+  for (const int tile : {33, 34, 35}) {
+    SCOPED_TRACE(tile);
+    const Recorder sheet = Written("telv", tile, kBook);
+    EXPECT_EQ(FirstOf(sheet.runs, 4), a);
+    EXPECT_LT(std::ranges::max(sheet.dots, {}, &Dot::x).x, 500);
+  }
+}
+
+}  // namespace
+}  // namespace bramlee
