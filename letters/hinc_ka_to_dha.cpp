@@ -255,7 +255,10 @@ void WriteDaOtherwise(StrokeRec& r, Pen& pen) {
 }
 
 void WriteDha(StrokeRec& r, Pen& pen) {
-  WriteDhaBody(170, r, pen);
+  pen.Arc(180, 540, +1, r.X1 + 29.85, r.Y1 + 18.9, 21);
+  pen.Arc(90, 270, +1, r.X1 + 41.25, r.Y1 + 27, 33.75);
+  const EndPoint bow = pen.Arc(170, 272, +1, r.X1 + 41.25, r.Y1 + 94.5, 33.75);
+  pen.Arc(270, 345, +1, bow.x + 4.4625, bow.y - 62.475, 63.75);
 }
 
 // clang-format off

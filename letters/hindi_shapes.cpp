@@ -15,13 +15,6 @@ void WriteRingAndTail(const StrokeRec& r, Pen& pen) {
   pen.Arc(360, 290, -1, ring.x - 67.5, ring.y, 67.5);
 }
 
-void WriteDhaBody(double waist, const StrokeRec& r, Pen& pen) {
-  pen.Arc(180, 540, +1, r.X1 + 29.85, r.Y1 + 18.9, 21);
-  pen.Arc(90, 270, +1, r.X1 + 41.25, r.Y1 + 27, 33.75);
-  const EndPoint bow = pen.Arc(waist, 272, +1, r.X1 + 41.25, r.Y1 + 94.5, 33.75);
-  pen.Arc(270, 345, +1, bow.x + 4.4625, bow.y - 62.475, 63.75);
-}
-
 void WriteStemAndBowl(double end, const StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1 + 62.5, r.Y1, r.Y1 + 56.25);
   pen.Arc(180, end, +1, r.X1 + 103.75, r.Y1 + 56.25, 41.25);

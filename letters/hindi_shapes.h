@@ -21,10 +21,6 @@ HookEnds WriteHook(const StrokeRec& r, Pen& pen);
 /// The body of थ and श: a ring about the upper left of the letter, and the tail that leaves it.
 void WriteRingAndTail(const StrokeRec& r, Pen& pen);
 
-/// ध without stem and bar: its lower bow begins at the angle `waist`, 90 being the end of the upper
-/// one.
-void WriteDhaBody(double waist, const StrokeRec& r, Pen& pen);
-
 /// The short stem and the bowl of प, फ and ष, to the angle `end`.
 void WriteStemAndBowl(double end, const StrokeRec& r, Pen& pen);
 
