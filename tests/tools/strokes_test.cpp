@@ -39,6 +39,30 @@ TEST(Strokes, NamePlaceAndForm) {
             "{\"run\":\"LineDown\",\"args\":[1225,325,475],\"dots\":151}],\"last\":[0,0,0,0]}\n");
 }
 
+/// The report of a line without what it says of the book.
+QByteArray WithoutBook(QByteArray line) {
+  return line.replace("\"book\":0,", "").replace("\"book\":1,", "");
+}
+
+TEST(Strokes, OfTheBookAreThoseOfItsLetters) {
+  const QByteArray book = Strokes("hinc 17 --book --step 1").out;
+  EXPECT_TRUE(book.startsWith(
+      "{\"board\":\"hinc\",\"tile\":17,\"alt\":0,\"book\":1,\"step\":1,\"strokes\":["))
+      << book.left(80).constData();
+  EXPECT_NE(WithoutBook(book), Strokes("hinc 17 --step 1").out);
+  const Letter& letter = LetterOf({.set = "hinc", .tile = 17, .form = {.book = true}});
+  EXPECT_EQ(ParseTile(book).strokes.size(), letter.Runs().size());
+}
+
+TEST(Strokes, OfTheBookAreTheGivenOnesWhereItHasNoOthers) {
+  EXPECT_EQ(WithoutBook(Strokes("hinc 1 --book").out), Strokes("hinc 1").out);
+  EXPECT_TRUE(Strokes("hinc 1 --book --step 1").out.contains("\"book\":0,"));
+}
+
+TEST(Strokes, AreTheGivenOnesUnlessTheBookIsAskedFor) {
+  EXPECT_EQ(Strokes("hinc 17 --given").out, Strokes("hinc 17").out);
+}
+
 TEST(Strokes, OfATileThatWritesNothingAreAnEmptyList) {
   const ToolRun run = Strokes("hinv 14");
   EXPECT_EQ(run.status, 0);
@@ -171,6 +195,16 @@ TEST(PenStrokes, AreMovementsOfTheHandInWritingOrder) {
   }
 }
 
+TEST(PenStrokes, OfTheBookAreThoseOfItsLetters) {
+  const Letter& letter = LetterOf({.set = "hinc", .tile = 17, .form = {.book = true}});
+  const auto strokes = QJsonDocument::fromJson(Strokes("hinc 17 --book --pen-strokes").out)
+                           .object()
+                           .value(QLatin1String("strokes"))
+                           .toArray();
+  EXPECT_EQ(strokes.size(), static_cast<int>(letter.PenStrokes().size()));
+  EXPECT_NE(Strokes("hinc 17 --book --pen-strokes").out, Strokes("hinc 17 --pen-strokes").out);
+}
+
 TEST(PenStrokes, ArePrintedForEveryTileWhenNoneIsNamed) {
   EXPECT_EQ(LinesOf(Strokes("engc --pen-strokes")).size(), 26);
   EXPECT_EQ(LinesOf(Strokes("mat --place 2 --pen-strokes")).size(), 10);
@@ -186,13 +220,14 @@ INSTANTIATE_TEST_SUITE_P(
                     "mat 1 --place 2.5", "mat 1 --place", "engc --step 0", "engc --step -1",
                     "engc --step -0", "engc --step x", "engc --step 1x", "engc --step",
                     "engc --step nan", "engc --step inf", "engc --step 1e999", "engc --step 1e-9",
-                    "engc --step 1e-300", "engc --step 0x1", "engc --bogus", "engc -x", "--step 1",
-                    "engc --svg a.svg", "engc --png a.png", "mat --place 1 --png a.png",
-                    "engc 1 --svg", "engc 1 --scale 2", "engc 1 --svg a.svg --scale 2",
-                    "engc 1 --png a.png --scale 0", "engc 1 --png a.png --scale -2",
-                    "engc 1 --png a.png --scale 99", "engc 1 --png a.png --scale x",
-                    "engc 1 --png a.png --scale nan", "engc 2 --pen-strokes --step 1",
-                    "engc 2 --pen-strokes --svg a.svg", "engc 2 --pen-strokes --png a.png"));
+                    "engc --step 1e-300", "engc --step 0x1", "engc --bogus", "engc --book --given",
+                    "engc -x", "--step 1", "engc --svg a.svg", "engc --png a.png",
+                    "mat --place 1 --png a.png", "engc 1 --svg", "engc 1 --scale 2",
+                    "engc 1 --svg a.svg --scale 2", "engc 1 --png a.png --scale 0",
+                    "engc 1 --png a.png --scale -2", "engc 1 --png a.png --scale 99",
+                    "engc 1 --png a.png --scale x", "engc 1 --png a.png --scale nan",
+                    "engc 2 --pen-strokes --step 1", "engc 2 --pen-strokes --svg a.svg",
+                    "engc 2 --pen-strokes --png a.png"));
 
 TEST_P(BadArguments, AreRefusedInOneLineWithStatusTwo) {
   const ToolRun run = Strokes(GetParam());
@@ -251,7 +286,7 @@ TEST(ManPage, NamesEveryOptionOfTheHelp) {
     const QByteArray option = line.mid(at).split(' ').constFirst();
     EXPECT_TRUE(page.contains(option)) << option.constData();
   }
-  EXPECT_EQ(options, 9);
+  EXPECT_EQ(options, 11);
 }
 
 TEST(Output, ThatCannotBeWrittenEndsWithStatusOne) {

@@ -38,6 +38,7 @@ std::string StrokesAsJson(const Request& request, int tile) {
   };
   add("tile", std::to_string(tile));
   add("alt", request.form.alternative ? "1" : "0");
+  if (request.form.book) add("book", HasBookForm(*request.set, tile, request.form) ? "1" : "0");
   if (request.form.place != 0) add("place", std::to_string(request.form.place));
   add("step", ShortestText(request.step));
   add("strokes", Runs(letter));

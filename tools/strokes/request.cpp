@@ -37,6 +37,11 @@ QString BoardNames() {
 
 struct Options {
   QCommandLineOption alt{QStringLiteral("alt"), QStringLiteral("The letters' alternative forms.")};
+  QCommandLineOption book{
+      QStringLiteral("book"),
+      QStringLiteral("The letters as in the book, where they stand otherwise there.")};
+  QCommandLineOption given{QStringLiteral("given"),
+                           QStringLiteral("The letters as given, as without --book.")};
   QCommandLineOption place{QStringLiteral("place"),
                            QStringLiteral("A digit at place N, 1 to 5, of a typed number."),
                            QStringLiteral("N")};
@@ -72,8 +77,9 @@ class Reader {
     parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."));
     parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."),
                                   QStringLiteral("[TILE]"));
-    parser_.addOptions({options_.alt, options_.place, options_.step, options_.penStrokes,
-                        options_.svg, options_.png, options_.scale, help_, version_});
+    parser_.addOptions({options_.alt, options_.book, options_.given, options_.place, options_.step,
+                        options_.penStrokes, options_.svg, options_.png, options_.scale, help_,
+                        version_});
     parsed_ = parser_.parse(arguments);
     rest_ = parser_.positionalArguments();
   }
@@ -87,8 +93,8 @@ class Reader {
               .error = {}};
     }
     for (const auto part :
-         {&Reader::ReadBoard, &Reader::ReadTile, &Reader::ReadForm, &Reader::ReadPlace,
-          &Reader::ReadStep, &Reader::ReadPenStrokes, &Reader::ReadPictures}) {
+         {&Reader::ReadBoard, &Reader::ReadTile, &Reader::ReadForm, &Reader::ReadBook,
+          &Reader::ReadPlace, &Reader::ReadStep, &Reader::ReadPenStrokes, &Reader::ReadPictures}) {
       const QString error = (this->*part)();
       if (!error.isEmpty()) return {.request = {}, .text = {}, .error = error};
     }
@@ -121,6 +127,12 @@ class Reader {
     request_.form.alternative = parser_.isSet(options_.alt);
     if (!request_.form.alternative || !request_.set->secondForms.empty()) return {};
     return QStringLiteral("--alt: %1 has no alternative forms").arg(SetName(*request_.set));
+  }
+
+  QString ReadBook() {
+    request_.form.book = parser_.isSet(options_.book);
+    if (!request_.form.book || !parser_.isSet(options_.given)) return {};
+    return QStringLiteral("--book: goes without --given");
   }
 
   QString ReadPlace() {
