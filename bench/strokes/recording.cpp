@@ -1,5 +1,6 @@
 // What it costs to take all letters down as data at each speed of the boards, and to write them by
-// the player instead of by their programs: nanoseconds a dot, best of several rounds.
+// the player instead of by their programs: nanoseconds a dot; and to place their strokes' numbers.
+// Best of several rounds.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -8,6 +9,7 @@
 
 #include "letters/letter_sets.h"
 #include "strokes/letter.h"
+#include "strokes/stroke_numbers.h"
 #include "writing/player.h"
 
 namespace bramlee {
@@ -120,6 +122,22 @@ void PrintPlaying(const std::vector<LetterId>& letters) {
   }
 }
 
+void PrintNumberPlacing(const std::vector<LetterId>& letters) {
+  double all = 0;
+  double longest = 0;
+  for (const LetterId& id : letters) {
+    const std::vector<StrokePath>& strokes = LetterOf(id).Shape().strokes;
+    double best = 1e9;
+    for (int round = 0; round < kRounds; ++round) {
+      best = std::min(best, Milliseconds([&] { PlaceNumbers(strokes, {}); }));
+    }
+    all += best;
+    longest = std::max(longest, best);
+  }
+  std::printf("\nnumbers placed: all letters %.2f ms, a letter %.3f ms, the longest %.3f ms\n", all,
+              all / static_cast<double>(letters.size()), longest);
+}
+
 }  // namespace
 }  // namespace bramlee
 
@@ -127,5 +145,6 @@ int main() {
   const std::vector<bramlee::LetterId> letters = bramlee::EveryLetter();
   bramlee::PrintRecording(letters);
   bramlee::PrintPlaying(letters);
+  bramlee::PrintNumberPlacing(letters);
   return 0;
 }
