@@ -1,26 +1,27 @@
 // Draws every letter with its pen strokes numbered, on sheets of many letters, to look at: each
-// stroke in a colour of its own, a number where the pen touches down, an arrow where it leaves, a
-// small white dot where one run goes on with the other.
+// stroke in a colour of its own, its number and arrow where the boards show them, a small white dot
+// where one run goes on with the other. A number without a clean place is on a yellow disc.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <vector>
 
 #include "strokes/letter.h"
+#include "strokes/stroke_numbers.h"
 
 namespace bramlee {
 namespace {
 
 constexpr int kColumns = 6;
 constexpr int kRows = 5;
-constexpr QSize kCell(250, 215);
+constexpr QSize kCell(400, 380);
 constexpr int kCaption = 22;  ///< height of the line above a letter
-constexpr double kMargin = 26;
+constexpr double kMargin = 50;
 constexpr double kLargest = 1.6;  ///< picture pixels to a sheet pixel; dots stay dots
+constexpr double kPenWidth = 10;  ///< of the boards' pen, in sheet pixels
 
 constexpr QRgb kColours[] = {0xC62828, 0x1565C0, 0x2E7D32, 0xEF6C00,
                              0x6A1B9A, 0x00838F, 0x795548, 0xD81B60};
@@ -44,21 +45,30 @@ QTransform Fit(const Box& box, const QRectF& room) {
   return fit;
 }
 
-void DrawArrow(QPainter& painter, QPointF from, QPointF to) {
-  constexpr double kHead = 11;
-  const double angle = std::atan2(to.y() - from.y(), to.x() - from.x());
-  QPainterPath head(to);
-  for (const double turn : {2.6, -2.6}) {
-    head.lineTo(to + kHead * QPointF(std::cos(angle + turn), std::sin(angle + turn)));
-  }
-  head.closeSubpath();
-  painter.fillPath(head, painter.pen().color());
+QPolygonF Polygon(std::span<const Point> points, const QTransform& fit) {
+  QPolygonF polygon;
+  for (const Point& point : points) polygon.append(fit.map(On(point)));
+  return polygon;
 }
 
-void DrawNumber(QPainter& painter, std::size_t number, QPointF at, const QColor& colour) {
-  const QRectF disc(at.x() - 9, at.y() - 9, 18, 18);
+void DrawArrow(QPainter& painter, const StrokeArrow& arrow, const QTransform& fit) {
+  if (!arrow.IsDrawn()) return;
+  painter.setPen(QPen(Qt::black, 1.5 * fit.m11()));
+  painter.drawPolyline(Polygon(arrow.shaft, fit));
+  QPainterPath head;
+  head.addPolygon(Polygon(arrow.head, fit));
+  painter.fillPath(head, Qt::black);
+}
+
+void DrawNumber(QPainter& painter, int number, const StrokeNumber& place, const QTransform& fit,
+                const QColor& colour) {
+  if (place.radius == 0) return;
+  DrawArrow(painter, place.arrow, fit);
+  const double radius = place.radius * fit.m11();
+  const QPointF at = fit.map(On(place.centre));
+  const QRectF disc(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius);
   painter.setPen(QPen(colour, 1.5));
-  painter.setBrush(Qt::white);
+  painter.setBrush(place.clean ? Qt::white : Qt::yellow);
   painter.drawEllipse(disc);
   painter.drawText(disc, Qt::AlignCenter, QString::number(number));
   painter.setBrush(Qt::NoBrush);
@@ -67,16 +77,12 @@ void DrawNumber(QPainter& painter, std::size_t number, QPointF at, const QColor&
 void DrawPath(QPainter& painter, const StrokePath& path, const QTransform& fit,
               const QColor& colour) {
   if (path.points.empty()) return;
-  QPolygonF line;
-  for (const Point& point : path.points) line.append(fit.map(On(point)));
+  const QPolygonF line = Polygon(path.points, fit);
   QColor body = colour;
   body.setAlpha(150);
-  painter.setPen(QPen(body, 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(body, kPenWidth * fit.m11(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   if (line.size() == 1) return painter.drawPoint(line[0]);
   painter.drawPolyline(line);
-  painter.setPen(QPen(colour));
-  const auto before = std::max<qsizetype>(0, line.size() - 7);
-  DrawArrow(painter, line[before], line.back());
 }
 
 /// A dot where each run but a stroke's first begins.
@@ -111,9 +117,9 @@ void DrawLetter(QPainter& painter, const Letter& letter, const QRectF& cell) {
     DrawPath(painter, strokes[i], fit, ColourOfStroke(i));
   }
   DrawJoins(painter, letter, fit);
-  for (std::size_t i = 0; i < strokes.size(); ++i) {
-    if (strokes[i].points.empty()) continue;
-    DrawNumber(painter, i + 1, fit.map(On(strokes[i].points.front())), ColourOfStroke(i));
+  const auto numbers = PlaceNumbers(strokes, {.penHalfWidth = kPenWidth / 2});
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    DrawNumber(painter, static_cast<int>(i + 1), numbers[i], fit, ColourOfStroke(i));
   }
 }
 
