@@ -54,4 +54,8 @@ void WriteHindiParts(double x, const HindiParts& parts, StrokeRec& r, Pen& pen);
 /// Writes the foot stroke that the tile's letter has in set 3.
 void WriteFootStrokeOf(int tile, StrokeRec& r, Pen& pen);
 
+/// Whether the letter, 1 to 37, has no stem to lose: in the book its half form is the whole letter
+/// with the mark below.
+bool HasMarkForHalf(int letter);
+
 }  // namespace bramlee

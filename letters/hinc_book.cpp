@@ -327,6 +327,10 @@ std::vector<BookForm> AllForms() {
 
 }  // namespace
 
+bool HasMarkForHalf(int letter) {
+  return std::ranges::find(kMarked, letter) != std::end(kMarked);
+}
+
 std::span<const BookForm> HindiConsonantsInTheBook() {
   static const std::vector<BookForm> kForms = AllForms();
   return kForms;

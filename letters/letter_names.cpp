@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "letters/hinc.h"
 #include "letters/letter_sets.h"
 
 namespace bramlee {
@@ -85,21 +86,52 @@ constexpr Named kNumbers[] = {
 // clang-format on
 
 static_assert(std::size(kHindiConsonants) == kHindiSetTiles);
-constexpr const char* kVirama = "\u094D";  ///< takes the vowel away
-constexpr const char* kJoiner = "\u200D";  ///< after it: the half form, not the mark below
-constexpr const char* kFoot = "\u0930";    ///< ra, joined below as the foot stroke
+constexpr const char* kVirama = "\u094D";     ///< takes the vowel away
+constexpr const char* kJoiner = "\u200D";     ///< after it: the half form, not the mark below
+constexpr const char* kNonJoiner = "\u200C";  ///< after it: the mark below
+constexpr const char* kFoot = "\u0930";       ///< ra, joined below as the foot stroke
 
-Named HindiVowel(int tile) {
+/// The book has the dot in the arc.
+constexpr int kMoonArc = 27;
+
+Named HindiVowel(int tile, bool book) {
+  if (book && tile == kMoonArc) return {"moon arc with a dot", kHindiVowels[tile - 1].printed};
   return kHindiVowels[tile - 1];
 }
 
-std::string HindiConsonant(int tile, bool name) {
-  const int set = HindiSetOf(tile);
-  const Named letter = kHindiConsonants[HindiLetterOf(tile) - 1];
-  std::string whole = name ? letter.name : letter.printed;
-  if (set == 1) return whole;
-  if (name) return set == kHindiHalfSet ? "half " + whole : whole + " with the foot stroke";
-  return whole + kVirama + (set == kHindiHalfSet ? kJoiner : kFoot);
+/// What a letter is named and printed with.
+struct Joined {
+  std::string before, after;
+  std::string printed;
+};
+
+Joined HowJoined(int tile, bool book) {
+  switch (HindiSetOf(tile)) {
+    case kHindiHalfSet:
+      if (book && HasMarkForHalf(HindiLetterOf(tile))) {
+        return {"", " with the mark below", std::string(kVirama) + kNonJoiner};
+      }
+      return {"half ", "", std::string(kVirama) + kJoiner};
+    case kHindiFootSet: {
+      const bool withR = book && HasBookForm(*FindLetterSet("hinc"), tile);
+      return {"", withR ? " with r" : " with the foot stroke", std::string(kVirama) + kFoot};
+    }
+    default:
+      return {};
+  }
+}
+
+Named HindiLetter(int tile) {
+  return kHindiConsonants[HindiLetterOf(tile) - 1];
+}
+
+std::string HindiConsonantName(int tile, bool book) {
+  const Joined joined = HowJoined(tile, book);
+  return joined.before + HindiLetter(tile).name + joined.after;
+}
+
+std::string PrintedHindiConsonant(int tile, bool book) {
+  return HindiLetter(tile).printed + HowJoined(tile, book).printed;
 }
 
 int Tiles(std::string_view set) {
@@ -107,11 +139,11 @@ int Tiles(std::string_view set) {
   return found == nullptr ? 0 : found->tiles;
 }
 
-std::string Printed(std::string_view set, int tile) {
+std::string Printed(std::string_view set, int tile, bool book) {
   if (set == "engc") return {static_cast<char>('A' + tile - 1)};
   if (set == "engs") return {static_cast<char>('a' + tile - 1)};
-  if (set == "hinv") return HindiVowel(tile).printed;
-  if (set == "hinc") return HindiConsonant(tile, false);
+  if (set == "hinv") return HindiVowel(tile, book).printed;
+  if (set == "hinc") return PrintedHindiConsonant(tile, book);
   if (set == "telv") return kTeluguVowels[tile - 1];
   if (set == "telc") return kTeluguConsonants[tile - 1];
   return kNumbers[tile - 1].printed;
@@ -123,19 +155,19 @@ bool ShowsLettering(std::string_view letterSet, int tile) {
   return letterSet == "hinv" && tile == 14;
 }
 
-std::string PrintedLetter(std::string_view letterSet, int tile) {
-  return tile < 1 || tile > Tiles(letterSet) ? std::string() : Printed(letterSet, tile);
+std::string PrintedLetter(std::string_view letterSet, int tile, bool book) {
+  return tile < 1 || tile > Tiles(letterSet) ? std::string() : Printed(letterSet, tile, book);
 }
 
-std::string LetterName(std::string_view letterSet, int tile) {
-  std::string printed = PrintedLetter(letterSet, tile);
+std::string LetterName(std::string_view letterSet, int tile, bool book) {
+  std::string printed = PrintedLetter(letterSet, tile, book);
   if (tile < 1 || tile > Tiles(letterSet)) return {};
   if (letterSet == "engc") return "capital " + printed;
   if (letterSet == "engs") return "small " + printed;
   if (letterSet == "mat") return kNumbers[tile - 1].name;
   if (letterSet == "telv" && printed.empty()) return "head tick";
-  const std::string name = letterSet == "hinv"   ? HindiVowel(tile).name
-                           : letterSet == "hinc" ? HindiConsonant(tile, true)
+  const std::string name = letterSet == "hinv"   ? HindiVowel(tile, book).name
+                           : letterSet == "hinc" ? HindiConsonantName(tile, book)
                                                  : std::string();
   if (name.empty()) return printed;
   return printed.empty() ? name : name + " (" + printed + ")";

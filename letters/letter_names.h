@@ -7,12 +7,12 @@
 namespace bramlee {
 
 /// The letter in print, UTF-8: "A", "क", a half form, a vowel sign. Empty for a tile that has no
-/// printed letter of its own or that is not in the set.
-std::string PrintedLetter(std::string_view letterSet, int tile);
+/// printed letter of its own or that is not in the set. `book`: as the tile stands in the book.
+std::string PrintedLetter(std::string_view letterSet, int tile, bool book = false);
 
 /// The tile's name as a teacher says it, UTF-8: "capital A", "half ka (क्‍)". Empty for a
-/// tile outside the set.
-std::string LetterName(std::string_view letterSet, int tile);
+/// tile outside the set. `book`: as the tile stands in the book.
+std::string LetterName(std::string_view letterSet, int tile, bool book = false);
 
 /// The line of lettering that a tile of the Hindi vowels shows, UTF-8: syllables, a blank between
 /// two.

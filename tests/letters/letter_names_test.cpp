@@ -11,10 +11,12 @@ namespace {
 
 TEST(LetterNames, DifferForEveryTileOfASet) {
   for (const LetterSet& set : LetterSets()) {
-    std::set<std::string> names;
-    for (int tile = 1; tile <= set.tiles; ++tile) names.insert(LetterName(set.name, tile));
-    EXPECT_FALSE(names.contains(""));
-    EXPECT_EQ(names.size(), static_cast<std::size_t>(set.tiles)) << set.name;
+    for (const bool book : {false, true}) {
+      std::set<std::string> names;
+      for (int tile = 1; tile <= set.tiles; ++tile) names.insert(LetterName(set.name, tile, book));
+      EXPECT_FALSE(names.contains(""));
+      EXPECT_EQ(names.size(), static_cast<std::size_t>(set.tiles)) << set.name;
+    }
   }
 }
 
@@ -32,6 +34,18 @@ TEST(PrintedLetter, ShowsHalfFormsAndFootStrokesAsPrintedInBooks) {
   EXPECT_EQ(PrintedLetter("hinc", 38), "क\u094D\u200D");
   EXPECT_EQ(PrintedLetter("hinc", 75), "क\u094Dर");
   EXPECT_EQ(LetterName("hinc", 38), "half ka (क\u094D\u200D)");
+}
+
+TEST(LetterNames, SayWhatTheTileShowsInTheBook) {
+  EXPECT_EQ(LetterName("hinc", 42), "half nga (ङ\u094D\u200D)");
+  EXPECT_EQ(LetterName("hinc", 42, true), "nga with the mark below (ङ\u094D\u200C)");
+  EXPECT_EQ(LetterName("hinc", 38, true), LetterName("hinc", 38));
+  EXPECT_EQ(LetterName("hinc", 75), "ka with the foot stroke (क\u094Dर)");
+  EXPECT_EQ(LetterName("hinc", 75, true), "ka with r (क\u094Dर)");
+  EXPECT_EQ(LetterName("hinc", 101, true), LetterName("hinc", 101));
+  EXPECT_EQ(LetterName("hinv", 27), "moon arc (ँ)");
+  EXPECT_EQ(LetterName("hinv", 27, true), "moon arc with a dot (ँ)");
+  EXPECT_EQ(LetterName("telc", 1, true), LetterName("telc", 1));
 }
 
 TEST(PrintedLetter, IsWhatTheStrokesOfTheLastFourShow) {

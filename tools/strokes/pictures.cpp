@@ -73,8 +73,9 @@ QString WriteSvg(const Request& request) {
   svg.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
   size();
   attribute("viewBox", QStringLiteral("0 0 %1 %2").arg(kShown.width()).arg(kShown.height()));
-  svg.writeTextElement(QStringLiteral("title"),
-                       QString::fromStdString(LetterName(request.set->name, request.firstTile)));
+  svg.writeTextElement(
+      QStringLiteral("title"),
+      QString::fromStdString(LetterName(request.set->name, request.firstTile, request.form.book)));
   svg.writeEmptyElement(QStringLiteral("rect"));
   size();
   attribute("fill", GroundOf(request).name());
