@@ -1,6 +1,7 @@
 // What a teacher chose beside the menus: how fast the pen goes, what is folded away. It lasts.
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -25,6 +26,8 @@ class Choices : public QObject {
 
  private:
   using QObject::QObject;
+
+  QHash<QString, QVariant> unwritten_;  ///< choices that the configuration does not take
 };
 
 }  // namespace bramlee

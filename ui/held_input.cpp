@@ -202,10 +202,8 @@ class HeldInput : public QObject {
   }
 
   bool IsAdmitted(const QWidget* widget) const {
-    return std::any_of(
-        admitted_.begin(), admitted_.end(), [widget](const QPointer<QWidget>& admitted) {
-          return admitted != nullptr && (admitted == widget || admitted->isAncestorOf(widget));
-        });
+    while (widget != nullptr && !admitted_.contains(widget)) widget = widget->parentWidget();
+    return widget != nullptr;
   }
 
   /// Whether what lies at that point of a window is admitted.
@@ -213,7 +211,7 @@ class HeldInput : public QObject {
     if (!window->isWindowType()) return false;
     const QWidget* top = WidgetOf(static_cast<const QWindow*>(window));
     const QWidget* control = top != nullptr ? top->childAt(point.toPoint()) : nullptr;
-    return control != nullptr && IsAdmitted(control);
+    return IsAdmitted(control != nullptr ? control : top);
   }
 
   /// A press grabs the mouse: until the last release, what follows goes where the press went.
@@ -232,6 +230,7 @@ class HeldInput : public QObject {
     if (!isPress && event->type() != QEvent::KeyRelease &&
         event->type() != QEvent::ShortcutOverride)
       return false;
+    if (QApplication::activePopupWidget() != nullptr) return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     const auto wanting = std::ranges::find_if(admittedKeys_, [&](const AdmittedKeys& keys) {
       return keys.widget != nullptr && keys.widget->window()->windowHandle() == receiver &&
@@ -244,6 +243,15 @@ class HeldInput : public QObject {
       QCoreApplication::sendEvent(wanting->widget, press.get());
     }
     return true;
+  }
+
+  /// Esc waits wherever the focus is, as who hits it waits for the pen's end; a list that is open
+  /// closes by it all the same.
+  bool IsAdmittedKey(const QEvent* event) const {
+    if (const QWidget* popup = QApplication::activePopupWidget()) return IsAdmitted(popup);
+    const bool isEscape = event->type() != QEvent::InputMethod &&
+                          static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    return !isEscape && IsAdmitted(QApplication::focusWidget());
   }
 
   /// Whether the event is meant for an admitted widget.
@@ -260,7 +268,7 @@ class HeldInput : public QObject {
       case QEvent::KeyRelease:
       case QEvent::ShortcutOverride:
       case QEvent::InputMethod:
-        return QApplication::focusWidget() != nullptr && IsAdmitted(QApplication::focusWidget());
+        return IsAdmittedKey(event);
       default:
         return false;
     }

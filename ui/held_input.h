@@ -22,14 +22,15 @@ class HoldInput {
   HoldInput(const HoldInput&) = delete;
   HoldInput& operator=(const HoldInput&) = delete;
 
-  /// From now on as long as the widget lives, input that is meant for it or for what stands on it
-  /// waits for nothing: the mouse and the wheel above it, a button until it is let go again, and
-  /// the keys while it has the focus. Its handlers then run in the middle of what is written.
+  /// From now on as long as the widget lives, input that is meant for it, for what stands on it or
+  /// for a list that it opens waits for nothing: the mouse and the wheel above it, a button until
+  /// it is let go again, and the keys but Esc while it has the focus. Its handlers then run in the
+  /// middle of what is written.
   static void Admit(QWidget* widget);
 
   /// From now on as long as the widget lives, the keys of its window for which `wants` holds go to
   /// it while input is held, whatever has the focus, instead of waiting. Only their presses are
-  /// delivered.
+  /// delivered. An open list keeps its keys.
   static void AdmitKeys(QWidget* widget, std::function<bool(const QKeyEvent&)> wants);
 };
 

@@ -1,10 +1,12 @@
-// A folder of drives of a test's own, with the drive C:, and message boxes that only remember.
+// A folder of drives of a test's own, with the drive C:, message boxes that only remember, and a
+// configuration without choices.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -33,6 +35,8 @@ class TempDrives : public ::testing::Test {
   TempDrives() {
     qputenv("BRAMLEE_DRIVES", QFile::encodeName(drives_.path()));
     QDir().mkpath(drives_.filePath(QStringLiteral("c")));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       drives_.filePath(QStringLiteral("choices")));
     ChDrive(QStringLiteral("C:"));
     ChDir(QStringLiteral("C:\\"));
     environment.tell = [this](const QString& text) { boxes.append(text); };

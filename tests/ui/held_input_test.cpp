@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QSlider>
@@ -148,6 +150,131 @@ TEST_F(HeldInputTest, ForgetsAnAdmittedWidgetThatIsGone) {
   const HoldInput hold;
   Meanwhile([this] { ClickAt(MiddleOf(tile)); });
   EXPECT_EQ(tileClicks, 0);
+}
+
+TEST_F(HeldInputTest, KeepsEscWhereverTheFocusIs) {
+  HoldInput::Admit(&strip);
+  window_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  button.setFocus();
+  const HoldInput hold;
+  Meanwhile([this] { QTest::keyClick(window_.windowHandle(), Qt::Key_A); });
+  EXPECT_FALSE(EndIsAwaited());
+  Meanwhile([this] { QTest::keyClick(window_.windowHandle(), Qt::Key_Escape); });
+  EXPECT_TRUE(EndIsAwaited());
+}
+
+TEST_F(HeldInputTest, ReachesTheListThatAnAdmittedWidgetOpens) {
+  auto* levels = new QComboBox(&strip);
+  levels->addItems({QStringLiteral("easy"), QStringLiteral("hard")});
+  levels->show();
+  HoldInput::Admit(&strip);
+  HoldInput::AdmitKeys(&strip, [](const QKeyEvent& event) { return event.key() == Qt::Key_Down; });
+  const HoldInput hold;
+  const auto key = [](Qt::Key which) {
+    Meanwhile(
+        [which] { QTest::keyClick(QApplication::activePopupWidget()->windowHandle(), which); });
+  };
+  levels->showPopup();
+  key(Qt::Key_Down);
+  key(Qt::Key_Return);
+  EXPECT_EQ(levels->currentIndex(), 1);
+  levels->showPopup();
+  Meanwhile([levels] {
+    const QWidget* list = levels->view();
+    QTest::mouseClick(list->window()->windowHandle(), Qt::LeftButton, {},
+                      list->mapTo(list->window(), QPoint(5, 5)));
+  });
+  EXPECT_EQ(levels->currentIndex(), 0);
+  levels->showPopup();
+  key(Qt::Key_Escape);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+/// Notes the keys that are pressed on it.
+class KeyTaker : public QWidget {
+ public:
+  using QWidget::QWidget;
+  std::string taken;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    taken += QKeySequence(event->key()).toString().toStdString() + " ";
+  }
+};
+
+class AdmittedKeys : public HeldInputTest {
+ protected:
+  AdmittedKeys() {
+    window_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+    tile.setFocus();
+    HoldInput::AdmitKeys(
+        taker, [this](const QKeyEvent& event) { return wants && event.key() == Qt::Key_Space; });
+  }
+  void KeyMeanwhile(Qt::Key key) const {
+    Meanwhile([this, key] { QTest::keyClick(window_.windowHandle(), key); });
+  }
+
+  KeyTaker* taker = new KeyTaker(&window_);
+  bool wants = true;
+};
+
+TEST_F(AdmittedKeys, GoToTheirWidgetWhateverHasTheFocus) {
+  {
+    const HoldInput hold;
+    KeyMeanwhile(Qt::Key_Space);
+    EXPECT_EQ(taker->taken, "Space ");
+  }
+  bool free = false;
+  WhenFree(&window_, [&free] { free = true; });
+  EXPECT_TRUE(free);  // neither press nor release waits
+  EXPECT_EQ(tileClicks, 0);
+}
+
+TEST_F(AdmittedKeys, AreThoseThatTheWidgetWantsNow) {
+  wants = false;
+  {
+    const HoldInput hold;
+    KeyMeanwhile(Qt::Key_Space);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return tileClicks == 1; }));
+  wants = true;
+  const HoldInput hold;
+  KeyMeanwhile(Qt::Key_A);
+  KeyMeanwhile(Qt::Key_Space);
+  EXPECT_EQ(taker->taken, "Space ");
+}
+
+TEST_F(AdmittedKeys, AreOrdinaryKeysWhileNothingIsHeld) {
+  QTest::keyClick(window_.windowHandle(), Qt::Key_Space);
+  EXPECT_EQ(taker->taken, "");
+  EXPECT_EQ(tileClicks, 1);
+}
+
+TEST_F(AdmittedKeys, OfOtherWindowsWait) {
+  QPushButton other(QStringLiteral("other"));
+  int clicks = 0;
+  QObject::connect(&other, &QPushButton::clicked, &other, [&clicks] { ++clicks; });
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  {
+    const HoldInput hold;
+    Meanwhile([&other] { QTest::keyClick(other.windowHandle(), Qt::Key_Space); });
+    EXPECT_EQ(taker->taken, "");
+    EXPECT_EQ(clicks, 0);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&clicks] { return clicks == 1; }));
+}
+
+TEST_F(AdmittedKeys, WaitOnceTheirWidgetIsGone) {
+  delete taker;
+  {
+    const HoldInput hold;
+    KeyMeanwhile(Qt::Key_Space);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return tileClicks == 1; }));
 }
 
 /// Notes the presses of keys that come to a window: new ones and repeats.

@@ -306,7 +306,8 @@ bool Eventually(const std::function<bool()>& condition) {
 Program::Program(const Desktop& desktop, const QString& path, const QStringList& arguments,
                  const QStringList& settings)
     : path_(path) {
-  SetDisplay(process_, desktop.Name(), settings);
+  SetDisplay(process_, desktop.Name(),
+             QStringList{QStringLiteral("XDG_CONFIG_HOME=") + configuration_.path()} + settings);
   process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   Start(process_, path, arguments);
 }

@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QRect>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <functional>
 
 struct xcb_connection_t;
@@ -81,7 +82,8 @@ bool Eventually(const std::function<bool()>& condition);
 /// A program that runs on a desktop and prints line by line what happens to it.
 class Program {
  public:
-  /// Starts it. `settings` are further environment variables, as "QT_SCALE_FACTOR=2".
+  /// Starts it, with a configuration of its own in which nothing is chosen. `settings` are further
+  /// environment variables, as "QT_SCALE_FACTOR=2".
   Program(const Desktop& desktop, const QString& path, const QStringList& arguments,
           const QStringList& settings = {});
   ~Program();
@@ -113,6 +115,7 @@ class Program {
  private:
   void TakeLines(int waitMs);
 
+  QTemporaryDir configuration_;
   QProcess process_;
   QString path_;
   QStringList lines_;
