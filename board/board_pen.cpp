@@ -52,7 +52,7 @@ void BoardPen::Write(PlacedLetter letter, std::function<void()> speak) {
   Q_EMIT Changed();
   if (taker_ != nullptr && taker_()) return;
   // The next letter does not go on with one that ended half-way.
-  auto unfinished = qScopeGuard([this] { page_.Clear(); });
+  auto unfinished = qScopeGuard([this] { ForgetPage(); });
   Run(Until::PageEnd);
   unfinished.dismiss();
 }
@@ -61,7 +61,7 @@ void BoardPen::WriteRuling(Letter lines, ColourWord colour) {
   const Writing writing(*this);
   const bool overRest = !player_.AtEnd();
   page_.Add({.letter = std::move(lines), .colour = colour, .placing = {}, .ruling = true});
-  auto unfinished = qScopeGuard([this] { page_.Clear(); });
+  auto unfinished = qScopeGuard([this] { ForgetPage(); });
   if (overRest) {
     player_.LayRulings();
   } else {

@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 #include "board/board.h"
 #include "board/strip_pictures.h"
@@ -32,6 +34,22 @@ QString ToolTip(const StripItem& item) {
   return item.key.isEmpty() ? item.text : QStringLiteral("%1 (%2)").arg(item.text, item.key);
 }
 
+/// What the buttons stand on. The arrow keys are the strip's, and the wheel moves the row.
+class RowScroller : public QScrollArea {
+ public:
+  using QScrollArea::QScrollArea;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void wheelEvent(QWheelEvent* event) override {
+    constexpr int kDegreesApart = 120;  // in eighths, of one notch of the wheel
+    const QPoint turn = event->angleDelta();
+    const int notches = (turn.x() != 0 ? turn.x() : turn.y()) / kDegreesApart;
+    QScrollBar* bar = horizontalScrollBar();
+    bar->setValue(bar->value() - notches * kStripButtonPixels);
+  }
+};
+
 bool TakesKeysItself(const QWidget* widget) {
   return widget != nullptr && dynamic_cast<const StripButton*>(widget) == nullptr;
 }
@@ -58,13 +76,14 @@ void StripButton::keyPressEvent(QKeyEvent* event) {
 Strip::Strip(Board& board)
     : QToolBar(&board),
       board_(board),
-      scroller_(new QScrollArea(this)),
+      scroller_(new RowScroller(this)),
       row_(new QWidget),
       fold_(new StripButton(this)) {
   setObjectName(QStringLiteral("strip"));
   setAccessibleName(QStringLiteral("Strip"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
+  toggleViewAction()->setVisible(false);  // or the menu bar's context menu could take it away
   layout()->setContentsMargins(0, 0, 0, 0);
   auto* row = new QHBoxLayout(row_);
   row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
