@@ -73,6 +73,7 @@ void BoardPen::WriteRuling(Letter lines, ColourWord colour) {
 void BoardPen::ForgetPage() {
   page_.Clear();
   speak_ = nullptr;
+  Q_EMIT Wiped();
   Q_EMIT Changed();
 }
 
@@ -150,6 +151,10 @@ void BoardPen::SpeakAgain() {
   if (paced_) sheet_.ShowNewDots();
   player_.GoOn();
   Q_EMIT Changed();
+  Speak();
+}
+
+void BoardPen::Speak() const {
   if (speak_ != nullptr) speak_();
 }
 

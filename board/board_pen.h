@@ -87,6 +87,9 @@ class BoardPen : public QObject {
   void SetRate(double rate) { player_.SetRate(rate); }
   double Rate() const { return player_.Rate(); }
 
+  /// Makes the last letter's sound once more, as Again() does.
+  void Speak() const;
+
   /// Writes the next pen stroke at once, whoever has drawn it. Returns false at the page's end.
   bool WriteStrokeNow();
 
@@ -102,6 +105,8 @@ class BoardPen : public QObject {
   /// What the pen has written, where it stands or whether it goes is another from now on. Comes at
   /// the start and the end of what is written, at pauses, and between pen strokes.
   void Changed();
+  /// The sheet is wiped, and with it the page.
+  void Wiped();
 
  private:
   enum class Until : std::uint8_t { PageEnd, Pause };

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QString>
+#include <QTransform>
 #include <QWidget>
 #include <optional>
 #include <vector>
@@ -74,6 +75,10 @@ class Sheet final : public QWidget, public RewindableSurface {
 
   /// Shows what is new at once, without waiting for the event loop.
   void ShowNewDots();
+
+  /// From sheet pixels to the widget's, and back.
+  QTransform FromSheet() const { return {}; }
+  QPointF ToSheet(const QPointF& place) const { return FromSheet().inverted().map(place); }
 
   /// While on, a run's end does not ask for a repaint: the caller shows what is new.
   void SetShownByCaller(bool on) { shownByCaller_ = on; }

@@ -1,0 +1,79 @@
+// What a child sees on the sheet while it traces a letter, beside the ink.
+#pragma once
+
+#include <QColor>
+#include <QPointF>
+#include <QPolygonF>
+#include <QRectF>
+#include <optional>
+#include <vector>
+
+#include "board/sheet.h"
+#include "strokes/stroke_arrow.h"
+
+namespace bramlee {
+
+/// The letter to trace, pale, beneath all ink.
+class TraceGuide : public SheetLayer {
+ public:
+  /// The strokes still to be written, and the letter's colour over the sheet's ground.
+  void Show(std::vector<QPolygonF> strokes, const QColor& pale);
+  void Hide() { strokes_.clear(); }
+  void Paint(QPainter& painter) const override;
+
+ private:
+  std::vector<QPolygonF> strokes_;
+  QColor pale_;
+};
+
+/// Start dot, arrow, dotted line, the child's own ink and what the pen shows, above all ink. Each
+/// change says which part of the sheet it touches.
+class TraceMarks : public SheetLayer {
+ public:
+  /// The way that is on: a dotted line along `rest`, the start dot at its beginning, the arrow.
+  struct Way {
+    QPolygonF rest;
+    StrokeArrow arrow;
+    std::size_t number = 0;   ///< of the stroke in its letter, from 1
+    QPointF numberAt;         ///< the centre of its disc
+    double numberRadius = 0;  ///< 0 for none
+  };
+  void SetWay(std::optional<Way> way) { way_ = std::move(way); }
+  const std::optional<Way>& TheWay() const { return way_; }
+  /// How much larger the start dot is for now, 0 to 1.
+  void SetPulse(double pulse) { pulse_ = pulse; }
+
+  /// What the pen shows of a stroke for now; empty for nothing.
+  void SetShown(QPolygonF shown, const QColor& colour);
+
+  // --- the child's ink. That of a miss goes when the next touch begins; the rest stays.
+  void BeginInk(QPointF place);
+  void GoOnWithInk(QPointF place);
+  void EndInk(bool missed);
+  void WipeInk();
+  /// Around the last stretch of ink.
+  QRectF LastInk() const;
+  /// How many touches have left ink that is seen.
+  std::size_t Inks() const { return inks_.size(); }
+
+  void Paint(QPainter& painter) const override;
+
+ private:
+  struct TouchInk {
+    QPolygonF line;
+    QRectF around;
+    bool missed = false;
+  };
+
+  void PaintWay(QPainter& painter) const;
+  void PaintNumber(QPainter& painter) const;
+  void PaintInk(QPainter& painter) const;
+
+  std::optional<Way> way_;
+  double pulse_ = 0;
+  QPolygonF shown_;
+  QColor shownColour_;
+  std::vector<TouchInk> inks_;
+};
+
+}  // namespace bramlee
