@@ -9,6 +9,7 @@
 #include "maths/maths_menu.h"
 #include "maths/result_box.h"
 #include "ui/message_box.h"
+#include "ui/scale.h"
 
 namespace bramlee {
 namespace {
@@ -60,7 +61,7 @@ Combo* AddOperand(Board& board, const QString& name, const QString& accessibleNa
   box->setEditText(QStringLiteral("0"));
   QFont font = box->font();
   font.setPixelSize(kLetterPixels);
-  box->setFont(font);
+  SetDesignFont(box, font);
   box->setAccessibleName(accessibleName);
   SetBackColor(box, kPaleYellow);
   SetForeColor(box, 0);

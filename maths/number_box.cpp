@@ -4,6 +4,7 @@
 #include "files/numbers.h"
 #include "files/trap.h"
 #include "letters/letter_sets.h"
+#include "ui/scale.h"
 
 namespace bramlee {
 namespace {
@@ -56,7 +57,7 @@ void MakeNumberBox(Board& board) {
   box->clearEditText();
   QFont font = box->font();
   font.setPixelSize(kLetterPixels);
-  box->setFont(font);
+  SetDesignFont(box, font);
   box->RefuseHeldKeys();  // they would go on writing long after they are let go
   box->setAccessibleName(QStringLiteral("Number to write"));
   SetBackColor(box, 0xFFFFFF);

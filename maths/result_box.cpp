@@ -4,14 +4,17 @@
 #include <QTextDocument>
 #include <cmath>
 
+#include "ui/scale.h"
+#include "ui/twips.h"
+
 namespace bramlee {
 namespace {
 
-// Heights of the letters, in pixels.
+// Heights of the letters, in pixels as designed.
 constexpr int kLargest = 30;
 constexpr int kSmallest = 14;
 
-/// Around the text, in pixels; brings a result level with the operands beside it.
+/// Around the text, in pixels as designed; brings a result level with the operands beside it.
 constexpr double kMargin = 8;
 
 }  // namespace
@@ -26,12 +29,20 @@ ResultBox::ResultBox(QWidget* parent) : QPlainTextEdit(parent) {
 void ResultBox::SetText(const QString& text) {
   text_ = text;
   // The empty line behind a table's last row counts too: without room for it a scroll bar shows.
-  setFont(FittingFont(static_cast<int>(text.count(u'\n')) + 1));
+  SetDesignFont(this, FittingFont(static_cast<int>(text.count(u'\n')) + 1));
   setPlainText(text);
 }
 
+void ResultBox::changeEvent(QEvent* event) {
+  QPlainTextEdit::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    document()->setDocumentMargin(kMargin * LettersScaleOf(this));
+  }
+}
+
+/// Worked out as designed, so that it does not depend on the scale at which the text came.
 QFont ResultBox::FittingFont(int lines) const {
-  const double room = height() - 2 * (frameWidth() + kMargin);
+  const double room = PixelsOf(PlaceOf(this)).height() - 2 * (frameWidth() + kMargin);
   QFont sized = font();
   for (int pixels = kLargest; pixels >= kSmallest; --pixels) {
     sized.setPixelSize(pixels);

@@ -16,8 +16,11 @@ class ResultBox : public QPlainTextEdit {
   /// The text as it was given, its carriage returns too, which the lines shown do not keep.
   QString Text() const { return text_; }
   /// Shows that text in the largest letters, from 30 down to 14 pixels, in which all lines fit the
-  /// box's present height. Where even the smallest do not fit, the box scrolls.
+  /// box's present height, as designed. Where even the smallest do not fit, the box scrolls.
   void SetText(const QString& text);
+
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
   /// The box's font in the size for that many lines.

@@ -4,8 +4,10 @@
 #include <QVariant>
 #include <QWidget>
 #include <algorithm>
+#include <optional>
 
 #include "files/numbers.h"
+#include "ui/scale.h"
 
 namespace bramlee {
 namespace {
@@ -14,6 +16,34 @@ namespace {
 constexpr double kFarthest = 1 << 24;
 
 constexpr char kPlace[] = "twips";
+
+/// The place in which the control was put, nothing for one that was not.
+std::optional<TwipsRect> KeptPlace(const QWidget* control) {
+  const QVariant kept = control->property(kPlace);
+  if (!kept.isValid()) return std::nullopt;
+  const QRectF rect = kept.toRectF();
+  return TwipsRect{
+      .left = rect.x(), .top = rect.y(), .width = rect.width(), .height = rect.height()};
+}
+
+/// Where the place lies on a ground of that scale. At another scale than designed its edges are
+/// rounded, not its size: what meets a neighbour goes on to meet it there.
+QRect PixelsAt(const Scale& scale, const TwipsRect& rect) {
+  if (scale.factor == 1) return PixelsOf(rect).translated(scale.origin);
+  const QPoint topLeft(PixelsOf(rect.left * scale.factor), PixelsOf(rect.top * scale.factor));
+  const QPoint end(PixelsOf((rect.left + rect.width) * scale.factor),
+                   PixelsOf((rect.top + rect.height) * scale.factor));
+  return QRect(topLeft, end - QPoint(1, 1)).translated(scale.origin);
+}
+
+/// The place of which these are the pixels at that scale.
+TwipsRect TwipsAt(const Scale& scale, const QRect& pixels) {
+  const TwipsRect rect = TwipsOf(pixels.translated(-scale.origin));
+  return {.left = rect.left / scale.factor,
+          .top = rect.top / scale.factor,
+          .width = rect.width / scale.factor,
+          .height = rect.height / scale.factor};
+}
 
 }  // namespace
 
@@ -34,7 +64,7 @@ TwipsRect TwipsOf(const QRect& pixels) {
 
 void Place(QWidget* control, const TwipsRect& rect) {
   control->setProperty(kPlace, QRectF(rect.left, rect.top, rect.width, rect.height));
-  control->setGeometry(PixelsOf(rect));
+  control->setGeometry(PixelsAt(ScaleOf(control->parentWidget()), rect));
 }
 
 void MoveTo(QWidget* control, double left, double top) {
@@ -42,13 +72,16 @@ void MoveTo(QWidget* control, double left, double top) {
   Place(control, {.left = left, .top = top, .width = now.width, .height = now.height});
 }
 
+void PlaceAnew(QWidget* control) {
+  if (const auto place = KeptPlace(control)) Place(control, *place);
+}
+
 TwipsRect PlaceOf(const QWidget* control) {
+  const Scale scale = ScaleOf(control->parentWidget());
   const QRect pixels = control->geometry();
-  const QRectF kept = control->property(kPlace).toRectF();
-  const TwipsRect placed{
-      .left = kept.x(), .top = kept.y(), .width = kept.width(), .height = kept.height()};
-  if (control->property(kPlace).isValid() && PixelsOf(placed) == pixels) return placed;
-  return TwipsOf(pixels);
+  const std::optional<TwipsRect> placed = KeptPlace(control);
+  if (placed && PixelsAt(scale, *placed) == pixels) return *placed;
+  return TwipsAt(scale, pixels);
 }
 
 }  // namespace bramlee

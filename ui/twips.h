@@ -13,7 +13,7 @@ inline constexpr double kTwipsPerPixel = 15;
 /// A length in logical pixels, to the nearest, ties to even.
 int PixelsOf(double twips);
 
-/// A control's place in its form's client area, below the menu bar. In twips.
+/// A control's place in its form's client area, below the menu bar, as designed. In twips.
 struct TwipsRect {
   double left;
   double top;
@@ -25,12 +25,15 @@ struct TwipsRect {
 QRect PixelsOf(const TwipsRect& rect);
 TwipsRect TwipsOf(const QRect& pixels);  ///< exactly
 
-/// Puts the control there. The place is kept in twips, so that what is laid out from a
-/// neighbour's place does not pick up the rounding to pixels.
+/// Puts the control there, at the scale of the ground that it stands on (scale.h). The place is
+/// kept in twips, so that what is laid out from a neighbour's place does not pick up the rounding
+/// to pixels.
 void Place(QWidget* control, const TwipsRect& rect);
 void MoveTo(QWidget* control, double left, double top);  ///< its size stays
+/// Puts a control that was placed where its place lies at its ground's present scale.
+void PlaceAnew(QWidget* control);
 
-/// Where the control stands, in twips: as placed, or worked out from its pixels.
+/// Where the control stands, in twips as designed: as placed, or worked out from its pixels.
 TwipsRect PlaceOf(const QWidget* control);
 
 }  // namespace bramlee
