@@ -18,11 +18,47 @@ struct Album {
   bool failed = false;
 };
 
-void Keep(Album& album, const QString& name, const QImage& picture) {
-  constexpr int kQuality = 88;
+/// Of a JPEG picture; any picture of no loss takes least room at 0.
+constexpr int kQuality = 88;
+
+void Keep(Album& album, const QString& name, const QImage& picture, int quality = kQuality) {
   album.folder.mkpath(QFileInfo(name).path());
-  if (!picture.save(album.folder.filePath(name), nullptr, kQuality)) album.failed = true;
+  if (!picture.save(album.folder.filePath(name), nullptr, quality)) album.failed = true;
   album.names.append(name);
+}
+
+/// How many times as many pixels a large picture has, each way. A board that fits a window of 3840
+/// by 2160 pixels is up to 3.44 times as large as designed; at a pixel ratio of 2 a tile 60 by 55
+/// pixels large then takes 413 by 378 of the screen's.
+constexpr double kLarger = 1.75;
+
+/// The colours of drawing in two inks on that ground: the inks, and what lies between each and the
+/// ground at the edge of a line.
+QList<QRgb> Palette(const QColor& ground, const QColor& ink, const QColor& otherInk) {
+  constexpr int kShades = 64;
+  QList<QRgb> colours;
+  for (const QColor& drawn : {ink, otherInk}) {
+    const auto mixed = [&](int from, int to, int shade) {
+      return (from * (kShades - shade) + to * shade + kShades / 2) / kShades;
+    };
+    for (int shade = 0; shade <= kShades; ++shade) {
+      colours.append(qRgb(mixed(ground.red(), drawn.red(), shade),
+                          mixed(ground.green(), drawn.green(), shade),
+                          mixed(ground.blue(), drawn.blue(), shade)));
+    }
+  }
+  return colours;
+}
+
+/// Keeps a picture that stands on a board, drawn by `draw(larger)`, in both its sizes. The large
+/// ones are for few windows: with a palette they take a third of the room.
+template <class Draw>
+void KeepBoth(Album& album, const QString& name, const Subject& subject, Draw draw) {
+  Keep(album, name + QStringLiteral(".jpg"), draw(1.0));
+  const QImage large = draw(kLarger);
+  const QList<QRgb> palette = Palette(large.pixelColor(0, 0), subject.ink, kPrintColour);
+  Keep(album, name + QStringLiteral("_large.png"),
+       large.convertToFormat(QImage::Format_Indexed8, palette, Qt::ThresholdDither), 0);
 }
 
 void DrawTiles(Album& album) {
@@ -31,18 +67,23 @@ void DrawTiles(Album& album) {
                                           static_cast<qsizetype>(subject.letterSet.size()));
     for (int tile = 1; tile <= FindLetterSet(subject.letterSet)->tiles; ++tile) {
       if (ShowsLettering(subject.letterSet, tile)) continue;  // its picture lies on the sheet
-      Keep(album, QStringLiteral("%1/%2.jpg").arg(set).arg(tile), TilePicture(subject, tile));
+      KeepBoth(album, QStringLiteral("%1/%2").arg(set).arg(tile), subject,
+               [&](double larger) { return TilePicture(subject, tile, larger); });
     }
   }
-  Keep(album, QStringLiteral("hinv/0.jpg"), LetteringPicture());
+  KeepBoth(album, QStringLiteral("hinv/0"), Subjects()[2], LetteringPicture);
   for (int set = 1; set <= 3; ++set) {
-    Keep(album, QStringLiteral("hinc/set%1.jpg").arg(set), SetButtonPicture(set));
+    KeepBoth(album, QStringLiteral("hinc/set%1").arg(set), Subjects()[3],
+             [set](double larger) { return SetButtonPicture(set, larger); });
   }
+  const Subject& maths = Subjects()[6];
   for (int sign = 11; sign <= 15; ++sign) {
-    Keep(album, QStringLiteral("mat/sign%1.jpg").arg(sign), SignPicture(sign));
+    KeepBoth(album, QStringLiteral("mat/sign%1").arg(sign), maths,
+             [sign](double larger) { return SignPicture(sign, larger); });
   }
-  Keep(album, QStringLiteral("mat/equal.jpg"), SignPicture(16));
-  Keep(album, QStringLiteral("mat/table.jpg"), TableButtonPicture());
+  KeepBoth(album, QStringLiteral("mat/equal"), maths,
+           [](double larger) { return SignPicture(16, larger); });
+  KeepBoth(album, QStringLiteral("mat/table"), maths, TableButtonPicture);
 }
 
 void DrawForms(Album& album) {

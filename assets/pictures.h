@@ -15,7 +15,7 @@ namespace bramlee {
 /// How one subject's pictures look.
 struct Subject {
   std::string_view letterSet;
-  QSize tile;     ///< pixels of a tile's picture: four to a logical pixel of the tile
+  QSize tile;     ///< pixels of a tile's picture: four to a pixel of the tile as designed
   QColor ink;     ///< the letters
   QColor ground;  ///< behind them
   int columns;    ///< letters in a row of the chart
@@ -55,11 +55,14 @@ int ChartTiles(const Subject& subject);
 QRectF ChartCard(const Subject& subject, int tile);
 
 // The pictures, one routine each.
-QImage TilePicture(const Subject& subject, int tile);
-QImage LetteringPicture();         ///< the line of Devanagari lettering
-QImage SetButtonPicture(int set);  ///< the three sets of the Hindi consonants
-QImage SignPicture(int tile);      ///< a sign between two operands
-QImage TableButtonPicture();       ///< a click makes a multiplication table
+
+// Those that stand on a board, with `larger` times as many pixels each way.
+QImage TilePicture(const Subject& subject, int tile, double larger = 1);
+QImage LetteringPicture(double larger = 1);           ///< the line of Devanagari lettering
+QImage SetButtonPicture(int set, double larger = 1);  ///< the three sets of the Hindi consonants
+QImage SignPicture(int tile, double larger = 1);      ///< a sign between two operands
+QImage TableButtonPicture(double larger = 1);         ///< a click makes a multiplication table
+
 QImage ChartPicture(const Subject& subject);
 QImage SubjectPicture(const Subject& subject);
 QImage IdCardPicture();

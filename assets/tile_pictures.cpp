@@ -60,6 +60,28 @@ QPainterPath TilePath(const Subject& subject, int tile) {
   return close;
 }
 
+/// A picture of one ground that is drawn as if it had `size` pixels, whatever it has.
+class Card {
+ public:
+  Card(QSize size, const QColor& ground, double larger)
+      : image_(Blank(size * larger, ground)), painter_(&image_), whole_(QPointF(), QSizeF(size)) {
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.scale(larger, larger);
+  }
+  QPainter& Painter() { return painter_; }
+  const QRectF& Whole() const { return whole_; }
+  /// What was drawn. Ends the drawing.
+  QImage Drawn() {
+    painter_.end();
+    return image_;
+  }
+
+ private:
+  QImage image_;
+  QPainter painter_;
+  QRectF whole_;
+};
+
 }  // namespace
 
 std::span<const Subject> Subjects() {
@@ -97,72 +119,63 @@ void DrawLetter(QPainter& painter, const Subject& subject, int tile, const QRect
   painter.restore();
 }
 
-QImage TilePicture(const Subject& subject, int tile) {
-  QImage image = Blank(subject.tile, subject.ground);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF whole(QPointF(0, 0), QSizeF(subject.tile));
+QImage TilePicture(const Subject& subject, int tile, double larger) {
+  Card card(subject.tile, subject.ground, larger);
+  const QRectF& whole = card.Whole();
   const double height = whole.height();
   const bool corner = HasPrintedCorner(subject.letterSet);
   QRectF place = whole.adjusted(height * 0.12, height * 0.1, -height * 0.12, -height * 0.1);
   if (corner) place.setTop(height * 0.28);
-  DrawLetter(painter, subject, tile, place, height * 0.075);
-  if (corner) DrawCornerSign(painter, subject, tile, whole);
-  return image;
+  DrawLetter(card.Painter(), subject, tile, place, height * 0.075);
+  if (corner) DrawCornerSign(card.Painter(), subject, tile, whole);
+  return card.Drawn();
 }
 
-QImage LetteringPicture() {
-  // 238 by 45 logical pixels on the sheet.
-  QImage image = Blank({952, 180}, Qt::white);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  DrawPrinted(painter, QString::fromUtf8(kHindiLettering),
-              QRectF(image.rect()).adjusted(16, 0, -16, 0), Qt::AlignHCenter, QColor(0x1565C0));
-  return image;
+QImage LetteringPicture(double larger) {
+  // 238 by 45 pixels on the sheet as designed.
+  Card card({952, 180}, Qt::white, larger);
+  DrawPrinted(card.Painter(), QString::fromUtf8(kHindiLettering),
+              card.Whole().adjusted(16, 0, -16, 0), Qt::AlignHCenter, QColor(0x1565C0));
+  return card.Drawn();
 }
 
-QImage SetButtonPicture(int set) {
+QImage SetButtonPicture(int set, double larger) {
   const Subject& subject = kSubjects[3];
-  QImage image = Blank({320, 220}, subject.ground);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const QRectF whole(image.rect());
-  DrawLetter(painter, subject, FirstHindiTileOf(set), whole.adjusted(90, 25, -20, -25), 15);
-  DrawPrinted(painter, QString::number(set), whole.adjusted(14, 0, -200, 0), Qt::AlignLeft,
-              kPrintColour);
-  return image;
+  Card card({320, 220}, subject.ground, larger);
+  DrawLetter(card.Painter(), subject, FirstHindiTileOf(set),
+             card.Whole().adjusted(90, 25, -20, -25), 15);
+  DrawPrinted(card.Painter(), QString::number(set), card.Whole().adjusted(14, 0, -200, 0),
+              Qt::AlignLeft, kPrintColour);
+  return card.Drawn();
 }
 
-QImage SignPicture(int tile) {
-  Subject subject = kSubjects[6];
-  QImage image = Blank(subject.tile, subject.ground);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
+QImage SignPicture(int tile, double larger) {
+  const Subject& subject = kSubjects[6];
+  Card card(subject.tile, subject.ground, larger);
   const QPainterPath path = SignsOf(LetterPath(subject.letterSet, tile)).first;
-  const QRectF whole = QRectF(image.rect()).adjusted(50, 40, -50, -40);
+  const QRectF place = card.Whole().adjusted(50, 40, -50, -40);
   const QRectF bounds = path.boundingRect();
-  const double scale = std::min(whole.width() / std::max(bounds.width(), 1.0),
-                                whole.height() / std::max(bounds.height(), 1.0));
-  painter.translate(whole.center());
+  const double scale = std::min(place.width() / std::max(bounds.width(), 1.0),
+                                place.height() / std::max(bounds.height(), 1.0));
+  QPainter& painter = card.Painter();
+  painter.translate(place.center());
   painter.scale(scale, scale);
   painter.translate(-bounds.center());
   painter.setPen(QPen(subject.ink, 20 / scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPath(path);
-  return image;
+  return card.Drawn();
 }
 
-QImage TableButtonPicture() {
+QImage TableButtonPicture(double larger) {
   const Subject& subject = kSubjects[6];
-  QImage image = Blank({320, 220}, subject.ground);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
+  Card card({320, 220}, subject.ground, larger);
   constexpr std::array kRows = {"2 x 1 = 2", "2 x 2 = 4", "2 x 3 = 6"};
   QRectF row(0, 12, 320, 68);
   for (const char* text : kRows) {
-    DrawPrinted(painter, QString::fromLatin1(text), row, Qt::AlignHCenter, subject.ink);
+    DrawPrinted(card.Painter(), QString::fromLatin1(text), row, Qt::AlignHCenter, subject.ink);
     row.translate(0, 64);
   }
-  return image;
+  return card.Drawn();
 }
 
 }  // namespace bramlee

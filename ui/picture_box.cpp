@@ -2,12 +2,17 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 #include <limits>
+
+#include "ui/scale.h"
 
 namespace bramlee {
 namespace {
 
-constexpr int kRounding = 7;  ///< of the corners, in pixels
+// In pixels as designed.
+constexpr int kRounding = 7;   ///< of the corners
+constexpr QSize kFrame(6, 6);  ///< around the picture, both sides together
 const QColor kGround(0xFFFFFF);
 const QColor kPressedGround(0xFFE082);
 const QColor kEdge(0x90A4AE);
@@ -53,6 +58,16 @@ PictureBox* Neighbour(const PictureBox& box, int key) {
   return nearest;
 }
 
+/// How many times as large as designed the box's frame is; as on a board as designed at least, so
+/// that no line becomes too thin to be seen.
+double FrameScale(const PictureBox& box) {
+  return std::max(1.0, ScaleOf(box.parentWidget()).factor);
+}
+
+QString LargeNameOf(const QString& resource) {
+  return resource.section(u'.', 0, -2) + QStringLiteral("_large.png");
+}
+
 bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
 }
@@ -81,30 +96,40 @@ QPixmap PictureBox::Picture() const {
   return resource_.isEmpty() ? picture_ : QPixmap::fromImage(QImage(resource_));
 }
 
+/// The picture that has pixels enough for the room, as far as there is one.
+QPixmap PictureBox::PictureFor(QSize room) const {
+  QPixmap picture = Picture();
+  const QSize shown = picture.size().scaled(room, Qt::KeepAspectRatio);
+  if (resource_.isEmpty() || shown.width() <= picture.width()) return picture;
+  const QImage large(LargeNameOf(resource_));
+  return large.isNull() ? picture : QPixmap::fromImage(large);
+}
+
 /// One scaling a size, not one a frame.
 void PictureBox::Fit(QSize room) {
   if (room == fittedRoom_) return;
   fittedRoom_ = room;
-  const QPixmap picture = Picture();
+  const QPixmap picture = PictureFor(room);
   ground_ = GroundOf(picture);
   fitted_ = picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   fitted_.setDevicePixelRatio(devicePixelRatioF());
 }
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
-  Fit((size() - QSize(6, 6)) * devicePixelRatioF());
+  const double scale = FrameScale(*this);
+  Fit((size() - kFrame * scale) * devicePixelRatioF());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isEnabled() && (underMouse() || hasFocus());
-  const double edge = lit ? 3 : 1;
+  const double edge = (lit ? 3 : 1) * scale;
   const QRectF card = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
   painter.setPen(QPen(lit ? kLitEdge : kEdge, edge));
   painter.setBrush(isDown() ? kPressedGround : ground_);
-  painter.drawRoundedRect(card, kRounding, kRounding);
+  painter.drawRoundedRect(card, kRounding * scale, kRounding * scale);
   if (fitted_.isNull()) return;
 
   const QSizeF shown = fitted_.deviceIndependentSize();
-  const double press = isDown() ? 1 : 0;  // a pressed tile gives way a little
+  const double press = isDown() ? scale : 0;  // a pressed tile gives way a little
   painter.drawPixmap(
       QPointF((width() - shown.width()) / 2 + press, (height() - shown.height()) / 2 + press),
       fitted_);

@@ -18,7 +18,9 @@ class PictureBox : public QAbstractButton {
 
   /// Shows the picture of that resource; an unreadable one leaves the box empty. It is read when
   /// it is painted at another size, and only what is painted is kept: the pictures are several
-  /// times as large as their boxes, and a board has dozens.
+  /// times as large as their boxes, and a board has dozens. Where the box is larger than the
+  /// picture "dir/name.jpg", the same picture with more pixels is read if there is one,
+  /// "dir/name_large.png".
   void SetPicture(const QString& resource);
   void SetPicture(const QPixmap& picture);
   /// The whole picture, read anew from its resource; null for an empty box.
@@ -34,6 +36,7 @@ class PictureBox : public QAbstractButton {
 
  private:
   void Fit(QSize room);
+  QPixmap PictureFor(QSize room) const;
 
   QString resource_;
   QPixmap picture_;  ///< unless it is a resource's

@@ -55,6 +55,22 @@ int WordsIn(const QImage& line) {
   return words;
 }
 
+/// How many pixels of two pictures of one size differ clearly: by more than saving may change.
+int Differing(const QImage& one, const QImage& other) {
+  EXPECT_EQ(one.size(), other.size());
+  int differing = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      if (std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 60) ++differing;
+    }
+  }
+  return differing;
+}
+
+QImage Named(const QString& name) {
+  return QImage(QStringLiteral(":/pictures/%1.jpg").arg(name));
+}
+
 class TilePictures : public testing::TestWithParam<LetterSet> {};
 
 TEST_P(TilePictures, AreThereInFourfoldSizeWithInkAndAllDiffer) {
@@ -77,6 +93,46 @@ INSTANTIATE_TEST_SUITE_P(EverySet, TilePictures,
                          testing::ValuesIn(LetterSets().begin(), LetterSets().end()),
                          [](const auto& set) { return std::string(set.param.name); });
 
+/// The same picture with more pixels, in the size of the usual one.
+QImage Large(const QString& name) {
+  const QImage usual(QStringLiteral(":/pictures/%1.jpg").arg(name));
+  const QImage large(QStringLiteral(":/pictures/%1_large.png").arg(name));
+  EXPECT_EQ(large.size(), usual.size() * 1.75) << name.toStdString();
+  return large.scaled(usual.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// Drawn in another size, the edges of letters fall otherwise on their pixels.
+constexpr int kFewPixels = 150;
+
+TEST_P(TilePictures, AreThereLargeToo) {
+  const LetterSet& set = GetParam();
+  for (int tile = 1; tile <= set.tiles; ++tile) {
+    if (ShowsLettering(set.name, tile)) continue;
+    const QString name =
+        QStringLiteral("%1/%2").arg(QString::fromLatin1(set.name.data())).arg(tile);
+    EXPECT_LE(Differing(Large(name), Named(name)), kFewPixels) << name.toStdString();
+  }
+}
+
+TEST(Pictures, OfLetteringSetsAndSignsAreThereLargeToo) {
+  QStringList names{QStringLiteral("hinv/0"), QStringLiteral("mat/equal"),
+                    QStringLiteral("mat/table")};
+  for (int set = 1; set <= 3; ++set) names.append(QStringLiteral("hinc/set%1").arg(set));
+  for (int sign = 11; sign <= 15; ++sign) names.append(QStringLiteral("mat/sign%1").arg(sign));
+  for (const QString& name : names) {
+    EXPECT_LE(Differing(Large(name), Named(name)), kFewPixels) << name.toStdString();
+  }
+}
+
+TEST(Pictures, OfFewColoursHaveTheirSubjectsGround) {
+  for (const Subject& subject : Subjects()) {
+    const QString set =
+        QString::fromUtf8(subject.letterSet.data(), qsizetype(subject.letterSet.size()));
+    const QImage large(QStringLiteral(":/pictures/%1/1_large.png").arg(set));
+    EXPECT_EQ(large.pixelColor(0, 0), subject.ground) << subject.letterSet;
+  }
+}
+
 TEST(TilePictures, OfTwoSignsDrawBothLarge) {
   for (const int tile : {13, 14}) {
     const QRect ink = InkBox(QImage(Path(*FindLetterSet("mat"), tile)));
@@ -90,22 +146,6 @@ TEST(TilePictures, LeaveTheTileOfTheLetteringWithoutOne) {
   const QImage lettering(QStringLiteral(":/pictures/hinv/0.jpg"));
   EXPECT_EQ(lettering.size(), QSize(952, 180));  // four times 238 by 45
   EXPECT_TRUE(HasInk(lettering));
-}
-
-/// How many pixels of two pictures of one size differ clearly: by more than saving may change.
-int Differing(const QImage& one, const QImage& other) {
-  EXPECT_EQ(one.size(), other.size());
-  int differing = 0;
-  for (int y = 0; y < one.height(); ++y) {
-    for (int x = 0; x < one.width(); ++x) {
-      if (std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 60) ++differing;
-    }
-  }
-  return differing;
-}
-
-QImage Named(const QString& name) {
-  return QImage(QStringLiteral(":/pictures/%1.jpg").arg(name));
 }
 
 TEST_P(TilePictures, HoldTheLetterOfTheirNumber) {

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <vector>
 
+#include "ui/scale.h"
+
 namespace bramlee {
 namespace {
 
@@ -172,6 +174,39 @@ TEST_F(PictureBoxes, ShowTheirPictureWithoutDistortionOnItsOwnGround) {
   const QImage seen = Seen(boxes[4]);
   EXPECT_EQ(seen.pixelColor(30, 25), QColor(Qt::black));
   EXPECT_EQ(seen.pixelColor(30, 8), QColor(0xFF, 0xF3, 0xE0));  // above what the picture takes
+}
+
+TEST_F(PictureBoxes, ReadTheLargePictureOnceThePictureHasTooFewPixels) {
+  const QString small = QStringLiteral(":/pictures/engc/1.jpg");  // 324 by 164 pixels
+  const QString large = QStringLiteral(":/pictures/engc/1_large.png");
+  const struct {
+    QSize room;
+    QString read;
+  } kRooms[] = {
+      {{81, 41},   small},
+      {{324, 300}, small},
+      {{326, 300}, large},
+      {{900, 900}, large},
+  };
+  for (const auto& expected : kRooms) {
+    for (const int box : {4, 5}) {
+      boxes[static_cast<std::size_t>(box)]->resize(expected.room + QSize(6, 6));
+    }
+    boxes[4]->SetPicture(small);
+    boxes[5]->SetPicture(QPixmap(expected.read));
+    EXPECT_EQ(Seen(boxes[4]), Seen(boxes[5])) << expected.room.width();
+  }
+}
+
+TEST_F(PictureBoxes, HaveAFrameAsLargeAsTheirGroundsScale) {
+  QPixmap picture(40, 40);
+  picture.fill(Qt::black);
+  boxes[0]->SetPicture(picture);
+  boxes[0]->resize(106, 106);
+  EXPECT_EQ(Seen(boxes[0]).pixelColor(53, 4), QColor(Qt::black));
+  SetScale(boxes[0]->parentWidget(), {.factor = 3, .origin = {}});
+  EXPECT_NE(Seen(boxes[0]).pixelColor(53, 8), QColor(Qt::black));
+  EXPECT_EQ(Seen(boxes[0]).pixelColor(53, 10), QColor(Qt::black));
 }
 
 TEST_F(PictureBoxes, AreEmptyWhenTheirPictureCannotBeRead) {
