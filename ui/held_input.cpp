@@ -48,18 +48,26 @@ QWidget* WidgetOf(const QWindow* window) {
   return found != widgets.end() ? *found : nullptr;
 }
 
-/// A place as the user meant it: that point of that control, wherever it lies when the time has
-/// come, since what is written meanwhile may scroll its sheet.
+/// A place as the user meant it: that point of that control, wherever it lies and however large it
+/// is when the time has come, since its sheet may scroll or be scaled meanwhile.
 struct Place {
   QPointer<QWidget> control;
-  QPointF point;  ///< in the control
+  QPointF point;  ///< in the control, which had
+  QSizeF size;    ///< this size then
+
+  /// The point in the control as it is now.
+  QPointF Now() const {
+    if (control->size() == size) return point;
+    return {point.x() * control->width() / size.width(),
+            point.y() * control->height() / size.height()};
+  }
 };
 
 Place PlaceAt(const QWindow* window, const QPointF& point) {
   QWidget* top = WidgetOf(window);
   QWidget* control = top != nullptr ? top->childAt(point.toPoint()) : nullptr;
-  if (control == nullptr) return {nullptr, point};
-  return {control, control->mapFrom(top, point)};
+  if (control == nullptr) return {nullptr, point, {}};
+  return {control, control->mapFrom(top, point), control->size()};
 }
 
 Held HeldMouse(QWindow* window, const QMouseEvent& event) {
@@ -74,12 +82,13 @@ Held HeldMouse(QWindow* window, const QMouseEvent& event) {
     };
     if (place.control == nullptr || !place.control->isVisible()) return send(window, point, point);
     QWidget* top = place.control->window();
-    const QPointF inWindow = place.control->mapTo(top, place.point);
+    const QPointF inControl = place.Now();
+    const QPointF inWindow = place.control->mapTo(top, inControl);
     const bool inView = top->childAt(inWindow.toPoint()) == place.control;
     if (inView || QApplication::activePopupWidget() != nullptr) {
       send(window, inWindow, inWindow);
     } else {
-      send(place.control, place.point, inWindow);
+      send(place.control, inControl, inWindow);
     }
   };
   return {.receiver = window, .deliver = deliver, .isMove = event.type() == QEvent::MouseMove};

@@ -152,6 +152,16 @@ TEST_F(HeldInputTest, ForgetsAnAdmittedWidgetThatIsGone) {
   EXPECT_EQ(tileClicks, 0);
 }
 
+TEST_F(HeldInputTest, MeansThePointOfAControlWhereverThatLiesThen) {
+  {
+    const HoldInput hold;
+    Meanwhile([this] { ClickAt(tile.geometry().bottomRight() - QPoint(3, 3)); });
+    window_.layout()->setEnabled(false);
+    tile.setGeometry(100, 200, tile.width() / 2, tile.height() / 2);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return tileClicks == 1; }));
+}
+
 TEST_F(HeldInputTest, KeepsEscWhereverTheFocusIs) {
   HoldInput::Admit(&strip);
   window_.activateWindow();
