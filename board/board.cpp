@@ -13,6 +13,7 @@
 #include "letters/letter_names.h"
 #include "media/media.h"
 #include "ui/forms.h"
+#include "ui/scale.h"
 #include "ui/screen.h"
 
 namespace bramlee {
@@ -31,6 +32,9 @@ static_assert(std::size(kMenuSteps) == Board::kSpeeds);
 /// Free sheet around what is written or stands at its edge, in sheet pixels.
 constexpr int kEdge = 10;
 
+/// A board that fits a window so small that nothing on it could be told apart scrolls from here on.
+constexpr double kSmallestFactor = 0.25;
+
 /// An entry of a menu's table, counted from 1.
 template <class Entry, std::size_t Count>
 Entry EntryOf(const Entry (&table)[Count], int index) {
@@ -38,6 +42,20 @@ Entry EntryOf(const Entry (&table)[Count], int index) {
     throw TrappedError(QStringLiteral("no menu entry %1").arg(index));
   }
   return table[index - 1];
+}
+
+/// The scale at which what is designed for `designed` pixels fills the view, in its middle.
+Scale ScaleInto(QSize view, QSize designed) {
+  const double factor = std::max(
+      std::min(1.0 * view.width() / designed.width(), 1.0 * view.height() / designed.height()),
+      kSmallestFactor);
+  const auto before = [factor](int room, int length) {
+    return std::max(static_cast<int>((room - length * factor) / 2), 0);
+  };
+  return {
+      .factor = factor,
+      .origin = {before(view.width(), designed.width()), before(view.height(), designed.height())}
+  };
 }
 
 }  // namespace
@@ -57,6 +75,7 @@ Board::Board(const BoardRecord& record)
   MakeControls();
   MakeMenus();
   for (PictureBox* picture : sheet_->findChildren<PictureBox*>()) picture->installEventFilter(this);
+  scroller_->viewport()->installEventFilter(this);
   ResetToDesign();
   reach_ = ReachOfAll();
   MakeCompanions(*this);
@@ -71,7 +90,7 @@ void Board::MakeControls() {
   // On the sheet and not on the form, whose font the menu bar would take as well.
   QFont font(QStringLiteral("MS Sans Serif"), 18);
   font.setStyleHint(QFont::SansSerif);
-  sheet_->setFont(font);
+  SetDesignFont(sheet_, font);
   const int lastTile = record_.lastTile != 0 ? record_.lastTile : letters_.tiles;
   for (int i = record_.firstTile; i <= lastTile; ++i) {
     PictureBox* tile = AddPicture(Indexed("pic", i), QStringLiteral("Click To Draw"));
@@ -126,12 +145,25 @@ void Board::FitSheet() {
   QRect all = reach_;
   for (const QObject* child : sheet_->children()) {
     const auto* control = qobject_cast<const QWidget*>(child);
-    if (control != nullptr) all = all.united(control->geometry());
+    if (control != nullptr) all = all.united(PixelsOf(PlaceOf(control)));
   }
-  sheet_->setMinimumSize(all.right() + kEdge, all.bottom() + kEdge);
+  designed_ = {all.right() + kEdge, all.bottom() + kEdge};
+  ScaleSheet();
+}
+
+void Board::SetFitsWindow(bool on) {
+  fitsWindow_ = on;
+  ScaleSheet();
+}
+
+void Board::ScaleSheet() {
+  if (designed_.isEmpty()) return;  // not laid out yet
+  sheet_->setMinimumSize(fitsWindow_ ? designed_ * kSmallestFactor : designed_);
+  SetScale(sheet_, fitsWindow_ ? ScaleInto(scroller_->maximumViewportSize(), designed_) : Scale());
 }
 
 void Board::BringIntoView(const StrokeRec& rec) {
+  if (fitsWindow_) return;
   QRect reach;
   // A letter that cannot be written is found out when its turn to be written comes.
   Trap(QStringLiteral("brd:12"),
@@ -144,15 +176,18 @@ void Board::BringIntoView(const StrokeRec& rec) {
   scroller_->ensureVisible(centre.x(), centre.y(), reach.width() / 2, reach.height() / 2);
 }
 
-bool Board::eventFilter(QObject* picture, QEvent* event) {
+bool Board::eventFilter(QObject* watched, QEvent* event) {
   // Only the keyboard scrolls to what it reaches: a press that moved its tile away would be lost.
   if (event->type() == QEvent::FocusIn) {
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) {
-      scroller_->ensureWidgetVisible(static_cast<QWidget*>(picture), kEdge, kEdge);
+      scroller_->ensureWidgetVisible(static_cast<QWidget*>(watched), kEdge, kEdge);
     }
   }
-  return Form::eventFilter(picture, event);
+  if (watched == scroller_->viewport() && event->type() == QEvent::Resize && fitsWindow_) {
+    ScaleSheet();
+  }
+  return Form::eventFilter(watched, event);
 }
 
 void Board::Present() {

@@ -80,8 +80,13 @@ class Board : public Form {
   /// is written by then stays.
   void Write(WriteLetter program, StrokeRec& rec);
   /// Makes the sheet large enough for all that stands or is written on it, so that it scrolls
-  /// where the window is smaller.
+  /// where the window is smaller. While the board fits its window, gives it the scale for that.
   void FitSheet();
+
+  /// From now on the whole board is scaled so that it fills the window and nothing scrolls, or it
+  /// stands as designed again; as it does at first. Also while a letter is written.
+  void SetFitsWindow(bool on);
+  bool FitsWindow() const { return fitsWindow_; }
 
   /// What the user chose, as flags, boxes and menus keep it.
   BoardSettings Settings() const;
@@ -124,7 +129,7 @@ class Board : public Form {
   void DrawAllStarts();
 
  protected:
-  bool eventFilter(QObject* picture, QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void MakeControls();
@@ -138,6 +143,7 @@ class Board : public Form {
   /// Around all that this board's sheet can show written, in sheet pixels.
   QRect ReachOfAll() const;
   void BringIntoView(const StrokeRec& rec);
+  void ScaleSheet();
 
   const BoardRecord& record_;
   const LetterSet& letters_;
@@ -146,6 +152,8 @@ class Board : public Form {
   BoardPen pen_;
   Strip* strip_ = nullptr;
   QRect reach_;
+  QSize designed_;  ///< of the sheet with all that is on it; empty before it is laid out
+  bool fitsWindow_ = false;
 };
 
 }  // namespace bramlee

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "files/numbers.h"
+#include "ui/scale.h"
 
 namespace bramlee {
 
@@ -67,12 +68,21 @@ void Sheet::ShowNewDots() {
   if (!dirty.isEmpty()) repaint(dirty);
 }
 
+QTransform Sheet::FromSheet() const {
+  const Scale scale = ScaleOf(this);
+  return QTransform::fromTranslate(scale.origin.x(), scale.origin.y())
+      .scale(scale.factor, scale.factor);
+}
+
 /// Makes ready all that the sheet is shown with; returns false when there is no memory for it.
-bool Sheet::MakeReady(double ratio) {
-  const QSize size = Planes::SizeOf(rect(), ratio);
-  if (shown_.size() == size) return ink_.Cover(rect(), ratio);
+bool Sheet::MakeReady() {
+  // Dots are stamped as large as they are seen: a picture that is scaled would not be sharp.
+  const QRectF area = FromSheet().inverted().mapRect(QRectF(rect()));
+  const double ratio = devicePixelRatioF() * ScaleOf(this).factor;
+  const QSize size = Planes::SizeOf(area, ratio);
+  if (shown_.size() == size) return ink_.Cover(area, ratio);
   QImage picture(size, QImage::Format_RGB32);
-  if (picture.isNull() || !ink_.Cover(rect(), ratio)) return false;
+  if (picture.isNull() || !ink_.Cover(area, ratio)) return false;
   shown_ = std::move(picture);
   shownGround_.reset();
   return true;
@@ -85,14 +95,15 @@ void Sheet::PaintBeneath(const QRect& part) {
   const double ratio = shown_.devicePixelRatio();
   painter.setClipRect(
       QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio));
+  painter.setTransform(FromSheet());
   for (const SheetLayer* layer : beneath_) layer->Paint(painter);
 }
 
 /// Brings what is shown up to date; returns around what has changed, in logical pixels. Where the
 /// memory has run out the last picture stays, until a later call finds some.
 QRect Sheet::Refresh() {
+  if (!MakeReady()) return {};
   const double ratio = devicePixelRatioF();
-  if (!MakeReady(ratio)) return {};
   QRect dirty = ink_.TakeDirty();
   if (shownGround_ != backColor_) dirty = shown_.rect();
   shownGround_ = backColor_;
@@ -114,6 +125,7 @@ void Sheet::paintEvent(QPaintEvent* event) {
   const QRectF picture(QPointF(), shown_.deviceIndependentSize());
   if (!picture.contains(rect())) painter.fillRect(rect(), backColor_);
   painter.drawImage(0, 0, shown_);
+  painter.setTransform(FromSheet());
   for (const SheetLayer* layer : above_) layer->Paint(painter);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPointF>
 #include <QString>
 #include <QTransform>
 #include <QWidget>
@@ -25,9 +26,10 @@ class SheetLayer {
   virtual void Paint(QPainter& painter) const = 0;
 };
 
-/// A board's client area as a drawing surface, in logical pixels from its top left. Tiles stand
+/// A board's client area as a drawing surface, in sheet pixels from its top left: logical pixels at
+/// the scale (ui/scale.h) that it has at first. Tiles stand
 /// on it as child widgets; strokes run behind them. What was written stays through resizes,
-/// scrolling and other pixel ratios, also where it lies outside of the window.
+/// scrolling, other scales and pixel ratios, also where it lies outside of the window.
 class Sheet final : public QWidget, public RewindableSurface {
   Q_OBJECT
  public:
@@ -63,6 +65,11 @@ class Sheet final : public QWidget, public RewindableSurface {
   /// Takes every dot away.
   void Wipe();
 
+  /// Where the sheet's pixels lie in this widget: as they are, unless it has another scale.
+  QTransform FromSheet() const;
+  /// Which place of the sheet lies there in this widget.
+  QPointF ToSheet(const QPointF& place) const { return FromSheet().inverted().map(place); }
+
   /// The dots alone, for pictures.
   const Ink& Dots() const { return ink_; }
 
@@ -88,7 +95,7 @@ class Sheet final : public QWidget, public RewindableSurface {
 
  private:
   QRect Refresh();
-  bool MakeReady(double ratio);
+  bool MakeReady();
   void PaintBeneath(const QRect& part);
   void TakeStep(const QString& text);
 

@@ -1,0 +1,406 @@
+// Boards that fit their window: all in view, clicks and dots as ever, everything back afterwards.
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <cmath>
+
+#include "board/reach.h"
+#include "letters/letter_sets.h"
+#include "tests/board/board_fixture.h"
+#include "ui/forms.h"
+#include "ui/scale.h"
+
+namespace bramlee {
+namespace {
+
+constexpr const char* kAllBoards[] = {"fbrmengc02", "fbrmengs01", "fbrmhinv01",
+                                      "fbrmhinc01", "fbrmtelv01", "fbrmtelc01"};
+constexpr QSize kWindows[] = {
+    {1024, 768 },
+    {1366, 768 },
+    {1920, 1080},
+    {3840, 2160},
+    {800,  1200}
+};
+
+std::string Text(const char* form, QSize window) {
+  return std::string(form) + " in " + std::to_string(window.width()) + "x" +
+         std::to_string(window.height());
+}
+
+/// What stands otherwise in the second list, line by line; empty for nothing.
+std::string Changes(const QStringList& before, const QStringList& after) {
+  QStringList changes;
+  if (before.size() != after.size()) changes.append(QStringLiteral("another number of controls"));
+  for (qsizetype i = 0; i < std::min(before.size(), after.size()); ++i) {
+    if (before[i] != after[i]) changes.append(before[i] + QStringLiteral(" -> ") + after[i]);
+  }
+  return changes.join(u'\n').toStdString();
+}
+
+class Fit : public BoardTest {
+ protected:
+  /// That board in a window of that size.
+  Board& OpenIn(const char* form, QSize window) {
+    Board& board = Open(form);
+    board.Named<QTimer>(Q("Timer1"))->stop();  // a title that blinks stands otherwise each time
+    board.show();
+    Resize(board, window);
+    return board;
+  }
+  Board& OpenFitted(const char* form, QSize window) {
+    Board& board = OpenIn(form, window);
+    board.SetFitsWindow(true);
+    QCoreApplication::processEvents();
+    return board;
+  }
+  static void Resize(Board& board, QSize window) {
+    board.resize(window);
+    QCoreApplication::processEvents();
+  }
+  static QScrollArea* Scroller(const Board& board) { return board.findChild<QScrollArea*>(); }
+
+  static std::vector<QWidget*> Controls(const Board& board) {
+    std::vector<QWidget*> controls;
+    for (QObject* child : board.sheet().children()) {
+      if (auto* control = qobject_cast<QWidget*>(child)) controls.push_back(control);
+    }
+    return controls;
+  }
+
+  /// Where each control stands, seen or not, and in which letters.
+  static QStringList Standing(const Board& board) {
+    QStringList standing;
+    for (const QWidget* control : Controls(board)) {
+      const QRect place = control->geometry();
+      standing.append(QStringLiteral("%1 %2 %3 %4 %5 %6 %7")
+                          .arg(control->objectName())
+                          .arg(place.x())
+                          .arg(place.y())
+                          .arg(place.width())
+                          .arg(place.height())
+                          .arg(control->isHidden())
+                          .arg(control->font().toString()));
+    }
+    standing.append(board.sheet().font().toString());
+    const QSize least = board.sheet().minimumSize();
+    standing.append(QStringLiteral("%1 %2").arg(least.width()).arg(least.height()));
+    return standing;
+  }
+
+  /// Clicks in the window where that tile's picture can be seen.
+  static void ClickTile(Board& board, int tile) {
+    const QWidget* picture = board.Tile(tile);
+    QTest::mouseClick(board.windowHandle(), Qt::LeftButton, {},
+                      picture->mapTo(&board, picture->rect().center()));
+  }
+
+  static QImage Dots(const Board& board) {
+    return board.sheet().Dots().Picture(QRectF(0, 0, 1300, 700), 1, Qt::white);
+  }
+};
+
+TEST_F(Fit, IsOffAtFirst) {
+  for (const char* form : kAllBoards) {
+    const Board& board = Open(form);
+    EXPECT_FALSE(board.FitsWindow()) << form;
+    EXPECT_EQ(ScaleOf(&board.sheet()), Scale()) << form;
+  }
+}
+
+TEST_F(Fit, NothingScrollsAndTheSheetFillsTheView) {
+  for (const char* form : kAllBoards) {
+    Board& board = OpenFitted(form, kWindows[0]);
+    for (const QSize window : kWindows) {
+      Resize(board, window);
+      const QScrollArea* scroller = Scroller(board);
+      for (const QScrollBar* bar :
+           {scroller->horizontalScrollBar(), scroller->verticalScrollBar()}) {
+        EXPECT_FALSE(bar->isVisible()) << Text(form, window);
+        EXPECT_EQ(bar->maximum(), 0) << Text(form, window);
+      }
+      EXPECT_EQ(board.sheet().geometry(), scroller->viewport()->rect()) << Text(form, window);
+    }
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, AllThatStandsAndAllThatCanBeWrittenIsInView) {
+  for (const char* form : kAllBoards) {
+    Board& board = OpenFitted(form, kWindows[0]);
+    for (const QSize window : kWindows) {
+      Resize(board, window);
+      const QRect view = board.sheet().rect();
+      for (const QWidget* control : Controls(board)) {
+        if (control->isHidden()) continue;
+        EXPECT_TRUE(view.contains(control->geometry()))
+            << Text(form, window) << " " << control->objectName().toStdString();
+      }
+      for (int tile = 1; tile <= board.letters().tiles; ++tile) {
+        for (const std::int16_t alternative : {std::int16_t{0}, std::int16_t{1}}) {
+          StrokeRec rec = FillStrokeRec(board.letters().sheet, static_cast<std::int16_t>(tile));
+          rec.AltFlag = alternative;
+          const QRectF reach = ReachOf(board.record().program(board, rec), rec);
+          if (reach.isEmpty()) continue;  // of a tile that writes nothing
+          EXPECT_TRUE(QRectF(view).contains(board.sheet().FromSheet().mapRect(reach)))
+              << Text(form, window) << " " << tile;
+        }
+      }
+    }
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, TheBoardIsAsLargeAsTheWindowLetsItAndStandsInItsMiddle) {
+  for (const char* form : kAllBoards) {
+    Board& board = OpenIn(form, kWindows[0]);
+    const QSize designed = board.sheet().minimumSize();
+    board.SetFitsWindow(true);
+    for (const QSize window : kWindows) {
+      Resize(board, window);
+      const QRectF whole = board.sheet().FromSheet().mapRect(QRectF({}, QSizeF(designed)));
+      const QSizeF free = QSizeF(board.sheet().size()) - whole.size();
+      EXPECT_NEAR(std::min(free.width(), free.height()), 0, 1e-6) << Text(form, window);
+      EXPECT_NEAR(whole.left(), free.width() / 2, 1) << Text(form, window);
+      EXPECT_NEAR(whole.top(), free.height() / 2, 1) << Text(form, window);
+    }
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, EverythingStandsInTheDesignsProportions) {
+  for (const char* form : kAllBoards) {
+    const Board& designed = Open(form);
+    std::vector<QRect> places;
+    for (const QWidget* control : Controls(designed)) places.push_back(control->geometry());
+    const double letters = designed.sheet().font().pointSizeF();
+    Board& board = OpenFitted(form, kWindows[2]);
+    const QTransform fromSheet = board.sheet().FromSheet();
+    EXPECT_NEAR(board.sheet().font().pointSizeF(), letters * fromSheet.m11(), 1e-6) << form;
+    std::size_t next = 0;
+    for (const QWidget* control : Controls(board)) {
+      const QRect place = places[next++];
+      if (control->isHidden()) continue;
+      const QRectF expected = fromSheet.mapRect(QRectF(place));
+      const QRectF stands = control->geometry();
+      EXPECT_NEAR(stands.left(), expected.left(), 1.5) << form << " " << next;
+      EXPECT_NEAR(stands.top(), expected.top(), 1.5) << form << " " << next;
+      EXPECT_NEAR(stands.width(), expected.width(), 1.5) << form << " " << next;
+      EXPECT_NEAR(stands.height(), expected.height(), 1.5) << form << " " << next;
+    }
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, NothingShownCoversAnythingElse) {
+  for (const char* form : kAllBoards) {
+    Board& board = OpenFitted(form, kWindows[0]);
+    for (const QSize window : kWindows) {
+      Resize(board, window);
+      // The capitals' tiles share their borders' pixels, which are larger here.
+      const double border = std::ceil(board.sheet().FromSheet().m11());
+      const std::vector<QWidget*> controls = Controls(board);
+      for (auto one = controls.begin(); one != controls.end(); ++one) {
+        for (auto other = std::next(one); other != controls.end(); ++other) {
+          if ((*one)->isHidden() || (*other)->isHidden()) continue;
+          const QSize shared = (*one)->geometry().intersected((*other)->geometry()).size();
+          EXPECT_LE(std::min(shared.width(), shared.height()), border)
+              << Text(form, window) << " " << (*one)->objectName().toStdString() << " "
+              << (*other)->objectName().toStdString();
+        }
+      }
+    }
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, TheTitleHoldsItsText) {
+  for (const char* form : kAllBoards) {
+    Board& board = OpenFitted(form, kWindows[0]);
+    for (const QSize window : kWindows) {
+      Resize(board, window);
+      const auto* title = board.Named<QLineEdit>(Q("txthdr1"));
+      EXPECT_LT(title->fontMetrics().horizontalAdvance(title->text()), title->width() - 8)
+          << Text(form, window);
+      EXPECT_LE(title->fontMetrics().height(), title->height()) << Text(form, window);
+    }
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, AClickOnATileWritesTheSameDotsAtEverySize) {
+  constexpr int kTiles[] = {2, 8, 22};
+  for (const char* form : kAllBoards) {
+    Board& designed = Open(form);
+    std::vector<QImage> expected;
+    for (const int tile : kTiles) {
+      designed.pic_Click(tile);
+      expected.push_back(Dots(designed));
+    }
+    UnloadForm(&designed);
+    for (const QSize window : kWindows) {
+      Board& board = OpenFitted(form, window);
+      std::size_t next = 0;
+      for (const int tile : kTiles) {
+        ClickTile(board, tile);
+        EXPECT_EQ(Dots(board), expected[next++]) << Text(form, window) << " " << tile;
+      }
+      UnloadForm(&board);
+    }
+  }
+}
+
+TEST_F(Fit, DotsAreStampedInTheSizeInWhichTheyAreSeen) {
+  Board& board = OpenFitted("fbrmengc02", kWindows[2]);
+  board.pic_Click(1);
+  const Sheet& sheet = board.sheet();
+  const QRect letter = sheet.FromSheet().mapRect(QRectF(420, 140, 160, 220)).toAlignedRect();
+  const QImage seen = board.sheet().grab(letter).toImage().convertToFormat(QImage::Format_RGB32);
+  const QRectF area = sheet.FromSheet().inverted().mapRect(QRectF(sheet.rect()));
+  const QImage dots =
+      sheet.Dots().Picture(area, sheet.FromSheet().m11(), ColourOf(board.record().backColor));
+  EXPECT_EQ(seen, dots.copy(letter));
+  EXPECT_NE(seen.pixelColor(0, 0), seen.pixelColor(letter.width() / 2, letter.height() / 2));
+}
+
+TEST_F(Fit, EverythingIsBackOnceItIsOff) {
+  for (const char* form : kAllBoards) {
+    for (const QSize window : kWindows) {
+      Board& board = OpenIn(form, window);
+      const QStringList before = Standing(board);
+      board.SetFitsWindow(true);
+      QCoreApplication::processEvents();
+      EXPECT_NE(Changes(before, Standing(board)), "") << Text(form, window);
+      board.SetFitsWindow(false);
+      QCoreApplication::processEvents();
+      EXPECT_EQ(Changes(before, Standing(board)), "") << Text(form, window);
+      UnloadForm(&board);
+    }
+  }
+}
+
+/// What a user does on a board between switching Fit on and off again.
+void UseBoard(Board& board) {
+  const QString form = board.objectName();
+  if (form == Q("fbrmhinc01")) board.Named<PictureBox>(Q("pic1", 2))->click();
+  if (form == Q("fbrmhinv01")) board.Tile(14)->click();  // lays the line of lettering on the sheet
+  board.pic_Click(board.record().groupStarts[1]);
+  if (board.record().showTiles != nullptr) Pick(board, "mnudrawalt");
+  board.Named<QTimer>(Q("Timer1"))->stop();  // each wipe has started it
+  board.Named<QWidget>(Q("txthdr1"))->hide();
+}
+
+TEST_F(Fit, WhatWasDoneMeanwhileStandsAsIfItHadNeverBeenOn) {
+  for (const char* form : kAllBoards) {
+    Board& designed = OpenIn(form, kWindows[1]);
+    UseBoard(designed);
+    const QStringList expected = Standing(designed);
+    UnloadForm(&designed);
+    Board& board = OpenFitted(form, kWindows[1]);
+    UseBoard(board);
+    Resize(board, kWindows[3]);
+    board.SetFitsWindow(false);
+    Resize(board, kWindows[1]);
+    EXPECT_EQ(Changes(expected, Standing(board)), "") << form;
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, TheLineOfLetteringLiesOnItsCell) {
+  Board& board = OpenFitted("fbrmhinv01", kWindows[2]);
+  board.Tile(14)->click();
+  const QRectF line = board.Tile(0)->geometry();
+  const TwipsRect place = PlaceOf(board.Tile(0));
+  const QRectF expected = board.sheet().FromSheet().mapRect(
+      QRectF(place.left / kTwipsPerPixel, place.top / kTwipsPerPixel, place.width / kTwipsPerPixel,
+             place.height / kTwipsPerPixel));
+  EXPECT_FALSE(board.Tile(0)->isHidden());
+  EXPECT_NEAR(line.left(), expected.left(), 1);
+  EXPECT_NEAR(line.top(), expected.top(), 1);
+  EXPECT_GT(line.width(), 238 * 1.4);
+}
+
+TEST_F(Fit, SwitchedAndResizedAsALetterIsWrittenItLeavesTheSameDots) {
+  Board& board = OpenIn("fbrmengc02", kWindows[1]);
+  board.SetText(Q("txtspd"), Q("0.03"));  // many frames; the dots that are kept are the same
+  int frames = 0;
+  board.pen().SetFrameCall([&] {
+    board.SetFitsWindow(frames % 3 != 2);
+    board.resize(kWindows[frames % static_cast<int>(std::size(kWindows))]);
+    ++frames;
+  });
+  board.pic_Click(2);
+  board.pen().SetFrameCall(nullptr);
+  QCoreApplication::processEvents();
+  EXPECT_GT(frames, 6);
+  const QImage written = Dots(board);
+  Ink plain(0.03);
+  StrokeRec rec = FillStrokeRec(SheetKind::Capitals, 2);
+  WriteCapital(rec, plain);
+  EXPECT_EQ(written, plain.Picture(QRectF(0, 0, 1300, 700), 1, Qt::white));
+  board.SetFitsWindow(true);
+  const QTransform fromSheet = board.sheet().FromSheet();
+  const QImage seen = board.sheet().grab().toImage();
+  const QImage dots =
+      board.sheet().Dots().Picture(fromSheet.inverted().mapRect(QRectF(board.sheet().rect())),
+                                   fromSheet.m11(), ColourOf(board.record().backColor));
+  const QRect letter = fromSheet.mapRect(QRectF(600, 140, 200, 220)).toAlignedRect();
+  EXPECT_EQ(seen.copy(letter).convertToFormat(QImage::Format_RGB32), dots.copy(letter));
+}
+
+/// A cross that a layer paints over the sheet's place 700, 100.
+class Cross : public SheetLayer {
+ public:
+  void Paint(QPainter& painter) const override {
+    painter.fillRect(QRectF(695, 95, 10, 10), Qt::green);
+  }
+};
+
+TEST_F(Fit, LayersArePaintedWhereTheirPlacesOfTheSheetLie) {
+  const Cross cross;
+  Board& board = OpenFitted("fbrmengc02", kWindows[2]);
+  for (const bool above : {false, true}) {
+    if (above) {
+      board.sheet().AddLayerAbove(cross);
+    } else {
+      board.sheet().AddLayerBeneath(cross);
+      board.sheet().UpdateBeneath();
+    }
+    for (const QSize window : kWindows) {
+      Resize(board, window);
+      const QTransform fromSheet = board.sheet().FromSheet();
+      const QImage seen = board.sheet().grab().toImage();
+      const auto at = [&](double x, double y) {
+        return seen.pixelColor(fromSheet.map(QPointF(x, y)).toPoint());
+      };
+      EXPECT_EQ(at(697, 97), QColor(Qt::green)) << Text("", window);
+      EXPECT_EQ(at(703, 103), QColor(Qt::green)) << Text("", window);
+      EXPECT_EQ(at(690, 100), ColourOf(board.record().backColor)) << Text("", window);
+      EXPECT_EQ(at(710, 100), ColourOf(board.record().backColor)) << Text("", window);
+    }
+  }
+}
+
+TEST_F(Fit, NothingMovesWhenALetterIsWrittenOrTheKeyboardGoesToATile) {
+  for (const char* form : kAllBoards) {
+    Board& board = OpenFitted(form, kWindows[0]);
+    const QStringList before = Standing(board);
+    board.Tile(20)->setFocus(Qt::TabFocusReason);
+    board.pic_Click(3);
+    EXPECT_EQ(board.sheet().pos(), QPoint(0, 0)) << form;
+    EXPECT_EQ(Changes(before, Standing(board)), "") << form;
+    UnloadForm(&board);
+  }
+}
+
+TEST_F(Fit, AWindowTooSmallForAnythingScrolls) {
+  Board& board = OpenFitted("fbrmtelc01", {200, 150});
+  EXPECT_EQ(board.sheet().FromSheet().m11(), 0.25);
+  EXPECT_GT(Scroller(board)->horizontalScrollBar()->maximum(), 0);
+  Resize(board, kWindows[0]);
+  EXPECT_EQ(Scroller(board)->horizontalScrollBar()->maximum(), 0);
+}
+
+}  // namespace
+}  // namespace bramlee
