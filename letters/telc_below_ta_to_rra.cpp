@@ -80,11 +80,13 @@ void WriteDha(StrokeRec& r, Pen& pen) {
 
 // Two ways of writing na, side by side.
 void WriteNa(StrokeRec& r, Pen& pen) {
-  const EndPoint back = pen.Arc(95, -90, -1, r.Col1 + 153, r.Row4 + 7.5, 33.75);
-  pen.Arc(260, 190, -1, back.x, back.y - 9, 9);
-  pen.Arc(180, 0, -1, back.x + 8.46, back.y - 10.62, 18);
-  pen.Arc(180, 350, +1, back.x + 45, back.y - 18, 18);
-  BelowNaWithTailAt(r.Col2, r, pen);
+  const EndPoint first = pen.Arc(95, -90, -1, r.Col1 + 153, r.Row4 + 7.5, 33.75);
+  pen.Arc(260, 190, -1, first.x, first.y - 9, 9);
+  pen.Arc(180, 0, -1, first.x + 8.46, first.y - 10.62, 18);
+  pen.Arc(180, 350, +1, first.x + 45, first.y - 18, 18);
+  const EndPoint second = pen.Arc(70, -50, -1, r.Col2 + 146.25, r.Row4 - 11.25, 56.25);
+  pen.Arc(310, 10, -1, second.x - 9.45, second.y - 10.575, 13.5);
+  pen.Arc(225, 315, +1, second.x + 32.4, second.y - 34.2, 36);
 }
 
 // Of pa, pha, sa and ha X1 is the middle of the ring, Y1 of ring and bowl.
@@ -122,12 +124,18 @@ void WriteYa(StrokeRec& r, Pen& pen) {
   pen.LineRight(r.Col1 + 99, r.Row4 + 9, r.Col1 + 174);
   pen.Arc(140, 450, +1, r.Col1 + 195, r.Row4 + 30, 30);
   pen.Arc(270, 0, -1, r.Col1 + 204, r.Row4 - 21.75, 22.5);
-  BelowYaWithCurlAt(r.Col2, r, pen);
+  pen.Arc(180, 90, -1, r.Col2 + 120.6, r.Row4 + 22.2, 12);
+  pen.Arc(90, -90, -1, r.Col2 + 126, r.Row4 + 20.25, 10.5);
+  pen.Arc(90, 210, +1, LastX, LastY + 16.5, 15);
+  pen.Arc(210, 360, +1, LastX + 27, LastY - 12, 30);
+  pen.Arc(0, 63, +1, LastX - 39, LastY, 39);
+  pen.Arc(235, 180, -1, LastX + 21, LastY - 37.8, 42);
+  pen.Arc(180, 0, -1, LastX + 15, LastY + 1.5, 15);
 }
 
 // Two ways of writing ra, side by side.
 void WriteRa(StrokeRec& r, Pen& pen) {
-  BelowRaBowlAt(r.Col1, r, pen);
+  BowlOfRaBelow(r, pen);
   pen.LineDown(r.Col1 + 288, r.Row4 - 33, r.Row4 - 6.3);
   pen.Arc(180, 270, +1, r.Col1 + 318, r.Row4 - 3, 30);
   pen.LineRight(r.Col1 + 318, r.Row4 + 27, r.Col1 + 378);
@@ -157,7 +165,10 @@ void WriteSha(StrokeRec& r, Pen& pen) {
 
 // Two ways of writing ssa, side by side.
 void WriteSsa(StrokeRec& r, Pen& pen) {
-  BelowSsaAsLetterAt(r.Col1, r, pen);
+  pen.Arc(0, 360, +1, r.Col1 + 168.75, r.Row4 + 37.5, 18.75);
+  const EndPoint bowl = pen.Arc(190, 346, +1, r.Col1 + 206.25, r.Row4 + 37.5, 18.75);
+  pen.Arc(332, 390, +1, r.Col1 + 202.125, r.Row4 + 27, 26.25);
+  pen.LineDown(bowl.x + 5, bowl.y, bowl.y + 20);
   pen.Arc(140, 350, +1, r.Col1 + 324.25, r.Row4 + 28.125, 22.5);
   pen.Arc(190, 400, +1, r.Col1 + 369.25, r.Row4 + 28.125, 22.5);
   pen.LineDown(LastX + 5, LastY + 5, LastY + 47.25);
@@ -223,31 +234,8 @@ constexpr TeluguTile kForms[] = {
 
 }  // namespace
 
-void BelowNaWithTailAt(double column, StrokeRec& r, Pen& pen) {
-  const EndPoint back = pen.Arc(70, -50, -1, column + 146.25, r.Row4 - 11.25, 56.25);
-  pen.Arc(310, 10, -1, back.x - 9.45, back.y - 10.575, 13.5);
-  pen.Arc(225, 315, +1, back.x + 32.4, back.y - 34.2, 36);
-}
-
-void BelowYaWithCurlAt(double column, StrokeRec& r, Pen& pen) {
-  pen.Arc(180, 90, -1, column + 120.6, r.Row4 + 22.2, 12);
-  pen.Arc(90, -90, -1, column + 126, r.Row4 + 20.25, 10.5);
-  pen.Arc(90, 210, +1, LastX, LastY + 16.5, 15);
-  pen.Arc(210, 360, +1, LastX + 27, LastY - 12, 30);
-  pen.Arc(0, 63, +1, LastX - 39, LastY, 39);
-  pen.Arc(235, 180, -1, LastX + 21, LastY - 37.8, 42);
-  pen.Arc(180, 0, -1, LastX + 15, LastY + 1.5, 15);
-}
-
-void BelowRaBowlAt(double column, StrokeRec& r, Pen& pen) {
-  pen.Arc(210, 330, +1, column + 125, r.Row4 - 18, 60);
-}
-
-void BelowSsaAsLetterAt(double column, StrokeRec& r, Pen& pen) {
-  pen.Arc(0, 360, +1, column + 168.75, r.Row4 + 37.5, 18.75);
-  const EndPoint bowl = pen.Arc(190, 346, +1, column + 206.25, r.Row4 + 37.5, 18.75);
-  pen.Arc(332, 390, +1, column + 202.125, r.Row4 + 27, 26.25);
-  pen.LineDown(bowl.x + 5, bowl.y, bowl.y + 20);
+void BowlOfRaBelow(const StrokeRec& r, Pen& pen) {
+  pen.Arc(210, 330, +1, r.Col1 + 125, r.Row4 - 18, 60);
 }
 
 std::span<const TeluguTile> TeluguConsonantsBelowFromTa() {

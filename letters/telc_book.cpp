@@ -19,6 +19,12 @@ void WriteRraAbout(double x, double y, double scale, Pen& pen) {
   CurlOfA(pen, x, y, scale);
 }
 
+/// The foot of ssa from the end of its bowl, bent to the right, `scale` as in WriteRraAbout. By
+/// that bend it differs from the foot of pha.
+void WriteFootOfSsa(EndPoint bowl, double scale, Pen& pen) {
+  pen.Arc(180, 215, +1, bowl.x + 100 * scale, bowl.y, 100 * scale);
+}
+
 // Each letter: its anchors, then its strokes in writing order, a line each.
 
 void WriteDda(StrokeRec& r, Pen& pen) {
@@ -52,14 +58,32 @@ void WriteVa(StrokeRec& r, Pen& pen) {
   VaWithTick(TickPasses::Once, r, pen);
 }
 
+// Of ssa X1, Y1 is the middle of the ring.
+void WriteSsa(StrokeRec& r, Pen& pen) {
+  r.X1 = r.Col2 + 70;
+  r.Y1 = r.Row3 + 37.5;
+  RingOfPa(r.X1, r.Y1, 1, pen);
+  const EndPoint bowl = BowlAndBackOfPa(r.X1, r.Y1, 1, pen);
+  TickOfPa(r.X1, r.Y1, r, pen);
+  WriteFootOfSsa(bowl, 1, pen);
+}
+
 void WriteRra(StrokeRec& r, Pen& pen) {
   WriteRraAbout(r.Col3 + 125, r.Row3 - 28, 1, pen);
 }
 
 // The forms that hang below another consonant.
 
+// Of na and ya X1, Y1 is where the pen begins.
+
+// A back from above, a loop and a tail to the right.
 void WriteBelowNa(StrokeRec& r, Pen& pen) {
-  BelowNaWithTailAt(r.Col1, r, pen);
+  r.X1 = r.Col1 + 165;
+  r.Y1 = r.Row4 - 64;
+  pen.Arc(66, -68, -1, r.X1 - 22, r.Y1 + 49.5, 54);
+  pen.Arc(292, 120, -1, r.X1 - 7.5, r.Y1 + 85, 15.5);
+  pen.Arc(120, 18, -1, r.X1 - 5, r.Y1 + 90, 21);
+  pen.Arc(198, 290, +1, r.X1 + 38, r.Y1 + 76, 24);
 }
 
 // X1, Y1 is the middle of the ring that the stem from above runs into.
@@ -72,16 +96,27 @@ void WriteBelowMa(StrokeRec& r, Pen& pen) {
   pen.Arc(67, 325, +1, r.X1 - 5.75, r.Y1 + 13.75, 30.25);
 }
 
+// A curl, a bowl, a rising back with a hook on top.
 void WriteBelowYa(StrokeRec& r, Pen& pen) {
-  BelowYaWithCurlAt(r.Col1, r, pen);
+  r.X1 = r.Col1 + 110;
+  r.Y1 = r.Row4 + 14;
+  pen.Arc(157, -78, -1, r.X1 + 11, r.Y1 + 4.5, 12);
+  pen.Arc(102, 256, +1, r.X1 + 16.5, r.Y1 + 31, 15);
+  pen.Arc(256, 365, +1, r.X1 + 20, r.Y1 + 17, 29.5);
+  pen.Arc(5, 56, +1, r.X1 - 25, r.Y1 + 21, 75);
+  pen.Arc(236, 11, -1, r.X1 + 28, r.Y1 - 58, 20.5);
 }
 
 void WriteBelowRa(StrokeRec& r, Pen& pen) {
-  BelowRaBowlAt(r.Col1, r, pen);
+  BowlOfRaBelow(r, pen);
 }
 
+// The whole letter without its tick, half as large.
 void WriteBelowSsa(StrokeRec& r, Pen& pen) {
-  BelowSsaAsLetterAt(r.Col1, r, pen);
+  r.X1 = r.Col1 + 168.75;
+  r.Y1 = r.Row4 + 37.5;
+  RingOfPa(r.X1, r.Y1, 0.5, pen);
+  WriteFootOfSsa(BowlAndBackOfPa(r.X1, r.Y1, 0.5, pen), 0.5, pen);
 }
 
 void WriteBelowRra(StrokeRec& r, Pen& pen) {
@@ -96,6 +131,7 @@ constexpr BookForm kBook[] = {
     {.tile = 44, .write = WriteMa      }, // మ
     {.tile = 45, .write = WriteYa      }, // య
     {.tile = 48, .write = WriteVa      }, // వ
+    {.tile = 50, .write = WriteSsa     }, // ష
     {.tile = 56, .write = WriteBelowNa }, // ్న
     {.tile = 61, .write = WriteBelowMa }, // ్మ
     {.tile = 62, .write = WriteBelowYa }, // ్య

@@ -50,20 +50,17 @@ void WriteVaAt(double column, TickPasses passes, StrokeRec& r, Pen& pen) {
 
 /// The ring of pa, pha, ssa and ha; returns the place where it closes.
 EndPoint WriteRing(StrokeRec& r, Pen& pen) {
-  return pen.Arc(0, 360, +1, r.X1 + 45, r.Row3 + 37.5, 37.5);
+  return RingOfPa(r.X1 + 45, r.Row3 + 37.5, 1, pen);
 }
 
 /// The bowl of pa, pha, ssa, sa and ha beside the ring, and its back; returns the end of the bowl.
 EndPoint WriteBowlAndBack(StrokeRec& r, Pen& pen) {
-  const EndPoint bowl = pen.Arc(190, 346, +1, r.X1 + 120, r.Row3 + 37.5, 37.5);
-  pen.Arc(332, 420, +1, r.X1 + 78, r.Row3 + 4, 89.25);
-  return bowl;
+  return BowlAndBackOfPa(r.X1 + 45, r.Row3 + 37.5, 1, pen);
 }
 
 /// The tick of pa, pha, ssa, sa and ha.
 void WriteTickOfPa(StrokeRec& r, Pen& pen) {
-  r.WX1 = r.X1 + 100;
-  HeadTick(pen, r.WX1, r.Row2 - 10, 56.25);
+  TickOfPa(r.X1 + 45, r.Row3 + 37.5, r, pen);
 }
 
 /// The letter pa, and the beginning of pha; returns the place where the ring closes.
@@ -289,6 +286,21 @@ void YaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
 
 void VaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {
   WriteVaAt(r.Col4, passes, r, pen);
+}
+
+EndPoint RingOfPa(double x, double y, double scale, Pen& pen) {
+  return pen.Arc(0, 360, +1, x, y, 37.5 * scale);
+}
+
+EndPoint BowlAndBackOfPa(double x, double y, double scale, Pen& pen) {
+  const EndPoint bowl = pen.Arc(190, 346, +1, x + 75 * scale, y, 37.5 * scale);
+  pen.Arc(332, 420, +1, x + 33 * scale, y - 33.5 * scale, 89.25 * scale);
+  return bowl;
+}
+
+void TickOfPa(double x, double y, StrokeRec& r, Pen& pen) {
+  r.WX1 = x + 55;
+  HeadTick(pen, r.WX1, y - 122.5, 56.25);
 }
 
 std::span<const TeluguTile> TeluguConsonantsFromTa() {

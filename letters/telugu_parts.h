@@ -41,18 +41,26 @@ void MaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
 void YaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
 void VaWithTick(TickPasses passes, StrokeRec& r, Pen& pen);
 
+/// The ring of pa, pha, ssa and ha about (x, y), and the bowl beside it with its back. `scale` is
+/// the letter's size, 1 that of a whole one. Each returns its end, the second one that of the bowl.
+EndPoint RingOfPa(double x, double y, double scale, Pen& pen);
+EndPoint BowlAndBackOfPa(double x, double y, double scale, Pen& pen);
+
+/// Their tick, which stands over a ring about (x, y).
+void TickOfPa(double x, double y, StrokeRec& r, Pen& pen);
+
 // In telc_below_ta_to_rra.cpp.
 
-/// The way of the form of na with a long back, a small loop and a tail to the right.
-void BelowNaWithTailAt(double column, StrokeRec& r, Pen& pen);
-
-/// The way of the form of ya that begins with a curl and ends with a hook on its back.
-void BelowYaWithCurlAt(double column, StrokeRec& r, Pen& pen);
-
 /// The way of the form of ra that is a bowl under the letter.
-void BelowRaBowlAt(double column, StrokeRec& r, Pen& pen);
+void BowlOfRaBelow(const StrokeRec& r, Pen& pen);
 
-/// The way of the form of ssa that is a small ssa without its tick.
-void BelowSsaAsLetterAt(double column, StrokeRec& r, Pen& pen);
+// In telv.cpp.
+
+/// The arch and bowls of u and uu; X1 becomes `column`.
+void BowlsOfU(double column, StrokeRec& r, Pen& pen);
+
+/// What follows them: the marks on top, the bar and, in uu, the curl at its end.
+void RestOfU(StrokeRec& r, Pen& pen);
+void RestOfUu(StrokeRec& r, Pen& pen);
 
 }  // namespace bramlee

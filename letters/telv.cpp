@@ -3,6 +3,7 @@
 // a quarter (18.75), large rounds one row (75), the long rising backs one and a half (112.5). Every
 // stroke is absolute: nothing but the registers joins one to another.
 #include "letters/letter_sets.h"
+#include "letters/telugu_parts.h"
 #include "letters/telugu_shapes.h"
 #include "letters/telugu_tiles.h"
 
@@ -11,14 +12,6 @@ namespace {
 
 // Parts that several letters share: a change to one changes every letter that uses it. `column`
 // is the left edge of the letter's own column, which X1 becomes.
-
-/// The arch and bowls of u and uu.
-void WriteUBowls(double column, StrokeRec& r, Pen& pen) {
-  r.X1 = column;
-  pen.Arc(30, 185, +1, r.X1 + 120, r.Row3 + 25, 100);
-  pen.Arc(180, 360, +1, r.X1 + 70, r.Row3 + 25, 50);
-  pen.Arc(180, 370, +1, r.X1 + 170, r.Row3 + 25, 50);
-}
 
 /// Short vocalic r, which the long one goes on from.
 void WriteVocalicRAt(double column, StrokeRec& r, Pen& pen) {
@@ -92,18 +85,13 @@ void WriteIi(StrokeRec& r, Pen& pen) {
 }
 
 void WriteU(StrokeRec& r, Pen& pen) {
-  WriteUBowls(r.Col1, r, pen);
-  pen.LineDown(r.X1 + 120, r.Row2 - 37.5, r.Row2);
-  pen.LineRight(r.X1 + 10, r.Row3, r.X1 + 240);
+  BowlsOfU(r.Col1, r, pen);
+  RestOfU(r, pen);
 }
 
 void WriteUu(StrokeRec& r, Pen& pen) {
-  WriteUBowls(r.Col2, r, pen);
-  r.CX1 = r.X1 + 270, r.CY1 = r.Row3 + 30, r.CY2 = r.Row3 - 30, r.Rad = 30;
-  pen.LineDown(r.X1 + 97.5, r.Row2 - 37.5, r.Row2);
-  pen.LineDown(r.X1 + 142.5, r.Row2 - 37.5, r.Row2);
-  pen.LineRight(r.X1 + 10, r.Row3, r.CX1);
-  TwinCurl(pen);
+  BowlsOfU(r.Col2, r, pen);
+  RestOfUu(r, pen);
 }
 
 void WriteVocalicR(StrokeRec& r, Pen& pen) {
@@ -183,6 +171,26 @@ constexpr TeluguTile kVowels[] = {
 };
 
 }  // namespace
+
+void BowlsOfU(double column, StrokeRec& r, Pen& pen) {
+  r.X1 = column;
+  pen.Arc(30, 185, +1, r.X1 + 120, r.Row3 + 25, 100);
+  pen.Arc(180, 360, +1, r.X1 + 70, r.Row3 + 25, 50);
+  pen.Arc(180, 370, +1, r.X1 + 170, r.Row3 + 25, 50);
+}
+
+void RestOfU(StrokeRec& r, Pen& pen) {
+  pen.LineDown(r.X1 + 120, r.Row2 - 37.5, r.Row2);
+  pen.LineRight(r.X1 + 10, r.Row3, r.X1 + 240);
+}
+
+void RestOfUu(StrokeRec& r, Pen& pen) {
+  r.CX1 = r.X1 + 270, r.CY1 = r.Row3 + 30, r.CY2 = r.Row3 - 30, r.Rad = 30;
+  pen.LineDown(r.X1 + 97.5, r.Row2 - 37.5, r.Row2);
+  pen.LineDown(r.X1 + 142.5, r.Row2 - 37.5, r.Row2);
+  pen.LineRight(r.X1 + 10, r.Row3, r.CX1);
+  TwinCurl(pen);
+}
 
 void WriteTeluguVowel(StrokeRec& rec, DrawingSurface& sheet) {
   WriteTelugu({kVowels, TeluguVowelSigns()}, rec, sheet);
