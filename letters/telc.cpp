@@ -48,6 +48,12 @@ void WriteChaAt(double column, StrokeRec& r, Pen& pen) {
   HeadTick(pen, r.WX1, r.Row2, 52.5);
 }
 
+/// One of the ways in which ddha is written: dda's with a stroke down from between its bowls.
+void WriteDdhaAt(double column, int ringEnd, StrokeRec& r, Pen& pen) {
+  const EndPoint bowl = DdaAt(column, ringEnd, r, pen);
+  pen.LineDown(bowl.x, bowl.y, bowl.y + 49.375);
+}
+
 // Each letter: its anchors, then its strokes in writing order, a line each. X1 is the left edge
 // of the letter's own column, WX1 the place of its HeadTick or FootHook, which move it.
 
@@ -165,9 +171,9 @@ void WriteDda(StrokeRec& r, Pen& pen) {
 }
 
 void WriteDdha(StrokeRec& r, Pen& pen) {
-  DdhaAt(r.Col1, 0, r, pen);
-  DdhaAt(r.Col2, 180, r, pen);
-  DdhaAt(r.Col3, kWholeRing, r, pen);
+  WriteDdhaAt(r.Col1, 0, r, pen);
+  WriteDdhaAt(r.Col2, 180, r, pen);
+  WriteDdhaAt(r.Col3, kWholeRing, r, pen);
 }
 
 void WriteNna(StrokeRec& r, Pen& pen) {
@@ -217,11 +223,6 @@ EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen) {
   if (ringEnd != 0) pen.Arc(45, ringEnd, +1, column + 185.34375, r.Row2 + 90.85, 24.6875);
   HeadTick(pen, r.WX1, r.Row2 - 2.9625, 69.125);
   return bowl;
-}
-
-void DdhaAt(double column, int ringEnd, StrokeRec& r, Pen& pen) {
-  const EndPoint bowl = DdaAt(column, ringEnd, r, pen);
-  pen.LineDown(bowl.x, bowl.y, bowl.y + 49.375);
 }
 
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet) {

@@ -31,8 +31,10 @@ void WriteDda(StrokeRec& r, Pen& pen) {
   DdaAt(r.Col1, kWholeRing, r, pen);
 }
 
+// The stroke hangs out below the letter, as in tha and dha.
 void WriteDdha(StrokeRec& r, Pen& pen) {
-  DdhaAt(r.Col1, kWholeRing, r, pen);
+  const EndPoint bowl = DdaAt(r.Col1, kWholeRing, r, pen);
+  pen.LineDown(bowl.x, bowl.y, r.Row4 + 22.5);
 }
 
 void WriteTa(StrokeRec& r, Pen& pen) {

@@ -15,9 +15,6 @@ namespace bramlee {
 /// place between its bowls. The ring at its right ends at the angle `ringEnd`; 0 is no ring.
 EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen);
 
-/// One of the ways in which ddha is written: dda's with a stroke down from between its bowls.
-void DdhaAt(double column, int ringEnd, StrokeRec& r, Pen& pen);
-
 /// The `ringEnd` of the way with a whole ring.
 inline constexpr int kWholeRing = 405;
 
