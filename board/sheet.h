@@ -83,10 +83,6 @@ class Sheet final : public QWidget, public RewindableSurface {
   /// Shows what is new at once, without waiting for the event loop.
   void ShowNewDots();
 
-  /// From sheet pixels to the widget's, and back.
-  QTransform FromSheet() const { return {}; }
-  QPointF ToSheet(const QPointF& place) const { return FromSheet().inverted().map(place); }
-
   /// While on, a run's end does not ask for a repaint: the caller shows what is new.
   void SetShownByCaller(bool on) { shownByCaller_ = on; }
 
