@@ -1,16 +1,11 @@
 #include "tools/strokes/pen_strokes_report.h"
 
-#include <cmath>
 #include <span>
 
 #include "tools/strokes/number_text.h"
 
 namespace bramlee {
 namespace {
-
-std::string ToThousandth(double number) {
-  return ShortestText(std::round(number * 1000) / 1000 + 0.0);  // no -0
-}
 
 template <class Thing, class Text>
 std::string List(std::span<const Thing> things, Text text) {

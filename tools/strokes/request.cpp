@@ -1,9 +1,7 @@
 #include "tools/strokes/request.h"
 
 #include <QCommandLineParser>
-#include <charconv>
 #include <cmath>
-#include <optional>
 
 namespace bramlee {
 namespace {
@@ -15,36 +13,9 @@ constexpr double kLeastStep = 1e-6;
 constexpr double kLeastScale = 0.1;
 constexpr double kLargestScale = 8;
 
-/// A number that takes up the whole text.
-template <class Number>
-std::optional<Number> NumberIn(const QString& text) {
-  const QByteArray bytes = text.toUtf8();
-  Number number{};
-  const auto [end, error] = std::from_chars(bytes.begin(), bytes.end(), number);
-  if (error != std::errc() || end != bytes.end()) return std::nullopt;
-  return number;
-}
-
-QString SetName(const LetterSet& set) {
-  return QString::fromUtf8(set.name.data(), static_cast<qsizetype>(set.name.size()));
-}
-
-QString BoardNames() {
-  QStringList names;
-  for (const LetterSet& set : LetterSets()) names.append(SetName(set));
-  return names.join(u' ');
-}
-
 struct Options {
-  QCommandLineOption alt{QStringLiteral("alt"), QStringLiteral("The letters' alternative forms.")};
-  QCommandLineOption book{
-      QStringLiteral("book"),
-      QStringLiteral("The letters as in the book, where they stand otherwise there.")};
   QCommandLineOption given{QStringLiteral("given"),
                            QStringLiteral("The letters as given, as without --book.")};
-  QCommandLineOption place{QStringLiteral("place"),
-                           QStringLiteral("A digit at place N, 1 to 5, of a typed number."),
-                           QStringLiteral("N")};
   QCommandLineOption step{
       QStringLiteral("step"),
       QStringLiteral("Pixels between the dots of a line, degrees between those of an arc. "
@@ -77,11 +48,10 @@ class Reader {
     parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."));
     parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."),
                                   QStringLiteral("[TILE]"));
-    parser_.addOptions({options_.alt, options_.book, options_.given, options_.place, options_.step,
-                        options_.penStrokes, options_.svg, options_.png, options_.scale, help_,
-                        version_});
+    letters_.AddTo(parser_);
+    parser_.addOptions({options_.given, options_.step, options_.penStrokes, options_.svg,
+                        options_.png, options_.scale, help_, version_});
     parsed_ = parser_.parse(arguments);
-    rest_ = parser_.positionalArguments();
   }
 
   Parsed Read() {
@@ -92,9 +62,8 @@ class Reader {
               .text = QStringLiteral("bramlee-strokes " BRAMLEE_VERSION "\n"),
               .error = {}};
     }
-    for (const auto part :
-         {&Reader::ReadBoard, &Reader::ReadTile, &Reader::ReadForm, &Reader::ReadBook,
-          &Reader::ReadPlace, &Reader::ReadStep, &Reader::ReadPenStrokes, &Reader::ReadPictures}) {
+    for (const auto part : {&Reader::ReadLetters, &Reader::ReadGiven, &Reader::ReadStep,
+                            &Reader::ReadPenStrokes, &Reader::ReadPictures}) {
       const QString error = (this->*part)();
       if (!error.isEmpty()) return {.request = {}, .text = {}, .error = error};
     }
@@ -102,56 +71,11 @@ class Reader {
   }
 
  private:
-  QString ReadBoard() {
-    if (rest_.isEmpty()) return QStringLiteral("no board is named: %1").arg(BoardNames());
-    if (rest_.size() > 2) return QStringLiteral("one argument too many: %1").arg(rest_.at(2));
-    request_.set = FindLetterSet(rest_.at(0).toStdString());
-    if (request_.set != nullptr) return {};
-    return QStringLiteral("no board \"%1\": %2").arg(rest_.at(0), BoardNames());
-  }
+  QString ReadLetters() { return letters_.Read(parser_, request_); }
 
-  QString ReadTile() {
-    request_.lastTile = request_.set->tiles;
-    if (rest_.size() < 2) return {};
-    const auto tile = NumberIn<int>(rest_.at(1));
-    if (!tile || *tile < 1 || *tile > request_.set->tiles) {
-      return QStringLiteral("no tile \"%1\": %2 has tiles 1 to %3")
-          .arg(rest_.at(1), SetName(*request_.set))
-          .arg(request_.set->tiles);
-    }
-    request_.firstTile = request_.lastTile = *tile;
-    return {};
-  }
-
-  QString ReadForm() {
-    request_.form.alternative = parser_.isSet(options_.alt);
-    if (!request_.form.alternative || !request_.set->secondForms.empty()) return {};
-    return QStringLiteral("--alt: %1 has no alternative forms").arg(SetName(*request_.set));
-  }
-
-  QString ReadBook() {
-    request_.form.book = parser_.isSet(options_.book);
+  QString ReadGiven() {
     if (!request_.form.book || !parser_.isSet(options_.given)) return {};
     return QStringLiteral("--book: goes without --given");
-  }
-
-  QString ReadPlace() {
-    if (!parser_.isSet(options_.place)) return {};
-    const QString text = parser_.value(options_.place);
-    const int digits = request_.set->digits;
-    if (digits == 0) return QStringLiteral("--place: %1 has no digits").arg(SetName(*request_.set));
-    if (request_.firstTile > digits) {
-      return QStringLiteral("--place: tile %1 is no digit, these are 1 to %2")
-          .arg(request_.firstTile)
-          .arg(digits);
-    }
-    const auto place = NumberIn<int>(text);
-    if (!place || *place < 1 || *place > 5) {
-      return QStringLiteral("--place: \"%1\" is no place from 1 to 5").arg(text);
-    }
-    request_.form.place = *place;
-    request_.lastTile = std::min(request_.lastTile, digits);
-    return {};
   }
 
   QString ReadStep() {
@@ -205,6 +129,7 @@ class Reader {
   }
 
   QCommandLineParser parser_;
+  const LetterArguments letters_;
   const Options options_;
   const QCommandLineOption help_{
       {QStringLiteral("h"), QStringLiteral("help")},
@@ -215,7 +140,6 @@ class Reader {
       QStringLiteral("The version.")
   };
   bool parsed_ = false;
-  QStringList rest_;
   Request request_;
 };
 

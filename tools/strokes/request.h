@@ -4,25 +4,18 @@
 #include <QString>
 #include <QStringList>
 
-#include "letters/letter_sets.h"
 #include "strokes/pen_strokes.h"
+#include "tools/letters/letter_arguments.h"
 
 namespace bramlee {
 
 /// A request that can be carried out.
-struct Request {
-  const LetterSet* set = nullptr;
-  int firstTile = 1;
-  int lastTile = 1;
-  TileForm form;
+struct Request : LetterRequest {
   double step = kUsualStep;
   bool penStrokes = false;  ///< whether pen strokes are asked for, rather than runs
   QString svg;              ///< the file for the letter as SVG; empty for none
   QString png;              ///< the file for the letter as PNG; empty for none
   double scale = 1;         ///< of the PNG: its pixels to a sheet pixel
-
-  /// A tile of the set, in the form that is asked for.
-  LetterId Tile(int tile) const { return {.set = set->name, .tile = tile, .form = form}; }
 };
 
 /// What the arguments come to: a text to print (help, version), an error of one line, or, when
