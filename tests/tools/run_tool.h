@@ -1,6 +1,7 @@
 // Running a tool that was built beside the tests.
 #pragma once
 
+#include <QFile>
 #include <QProcess>
 #include <QStringList>
 
@@ -14,8 +15,9 @@ struct ToolRun {
   bool ErrorIsOneLine() const { return error.endsWith('\n') && error.count('\n') == 1; }
 };
 
-/// Runs a tool, without a window system, and waits for its end.
-inline ToolRun RunTool(const QString& name, const QStringList& arguments) {
+/// Runs a tool on that standard input, without a window system, and waits for its end.
+inline ToolRun RunTool(const QString& name, const QStringList& arguments,
+                       const QByteArray& input = {}) {
   QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
@@ -23,6 +25,8 @@ inline ToolRun RunTool(const QString& name, const QStringList& arguments) {
   }
   process.setProcessEnvironment(environment);
   process.start(QStringLiteral(BRAMLEE_BINARY_DIR "/tools/") + name, arguments);
+  process.write(input);
+  process.closeWriteChannel();
   const bool ended = process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit;
   return {.status = ended ? process.exitCode() : -1,
           .out = process.readAllStandardOutput(),
@@ -33,6 +37,22 @@ inline ToolRun RunTool(const QString& name, const QStringList& arguments) {
 inline ToolRun Strokes(const char* arguments) {
   return RunTool(QStringLiteral("bramlee-strokes"),
                  QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+}
+
+/// The long options that a tool's help lists, such as "--help".
+inline QByteArrayList OptionsOf(const QByteArray& help) {
+  QByteArrayList options;
+  for (const QByteArray& line : help.split('\n')) {
+    const auto at = line.indexOf("--");
+    if (at >= 0 && line.startsWith("  -")) options.append(line.mid(at).split(' ').constFirst());
+  }
+  return options;
+}
+
+/// What a manual page of tools/ says, without the signs that a dash is written with.
+inline QByteArray ManPage(const QString& name) {
+  QFile file(QStringLiteral(BRAMLEE_TEST_DATA "/../../tools/") + name);
+  return file.open(QIODevice::ReadOnly) ? file.readAll().replace("\\-", "-") : QByteArray();
 }
 
 }  // namespace bramlee

@@ -274,19 +274,11 @@ TEST(Version, IsOneLine) {
   EXPECT_EQ(run.out.count('\n'), 1);
 }
 
-TEST(ManPage, NamesEveryOptionOfTheHelp) {
-  QFile file(QStringLiteral(BRAMLEE_TEST_DATA "/../../tools/bramlee-strokes.1"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray page = file.readAll().replace("\\-", "-");
-  int options = 0;
-  for (const QByteArray& line : Strokes("--help").out.split('\n')) {
-    const auto at = line.indexOf("--");
-    if (at < 0 || !line.startsWith("  -")) continue;
-    ++options;
-    const QByteArray option = line.mid(at).split(' ').constFirst();
-    EXPECT_TRUE(page.contains(option)) << option.constData();
-  }
-  EXPECT_EQ(options, 11);
+TEST(StrokesManPage, NamesEveryOptionOfTheHelp) {
+  const QByteArray page = ManPage(QStringLiteral("bramlee-strokes.1"));
+  const QByteArrayList options = OptionsOf(Strokes("--help").out);
+  for (const QByteArray& option : options) EXPECT_TRUE(page.contains(option)) << option.constData();
+  EXPECT_EQ(options.size(), 11);
 }
 
 TEST(Output, ThatCannotBeWrittenEndsWithStatusOne) {
