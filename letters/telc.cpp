@@ -145,13 +145,7 @@ void WriteNya(StrokeRec& r, Pen& pen) {
 }
 
 void WriteTta(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col1;
-  pen.Arc(90, 450, +1, r.X1 + 66.5, r.Row2 + 25, 25);
-  pen.Arc(-220, -150, +1, r.X1 + 125, r.Row3, 102.5);
-  pen.Arc(190, 360, +1, r.X1 + 76.25, r.Row3 + 28, 46.875);
-  pen.Arc(190, 345, +1, r.X1 + 170, r.Row3 + 28, 46.875);
-  pen.Arc(-25, 45, +1, r.X1 + 122, r.Row3, 102.5);
-  pen.LineDown(r.X1 + 66.5, r.Row2 - 30, r.Row2);
+  TtaWithRing(90, -150, r, pen);
 }
 
 void WriteTtha(StrokeRec& r, Pen& pen) {
@@ -223,6 +217,16 @@ EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen) {
   if (ringEnd != 0) pen.Arc(45, ringEnd, +1, column + 185.34375, r.Row2 + 90.85, 24.6875);
   HeadTick(pen, r.WX1, r.Row2 - 2.9625, 69.125);
   return bowl;
+}
+
+void TtaWithRing(int ringFrom, int bowEnd, StrokeRec& r, Pen& pen) {
+  r.X1 = r.Col1;
+  pen.Arc(ringFrom, ringFrom + 360, +1, r.X1 + 66.5, r.Row2 + 25, 25);
+  pen.Arc(-220, bowEnd, +1, r.X1 + 125, r.Row3, 102.5);
+  pen.Arc(190, 360, +1, r.X1 + 76.25, r.Row3 + 28, 46.875);
+  pen.Arc(190, 345, +1, r.X1 + 170, r.Row3 + 28, 46.875);
+  pen.Arc(-25, 45, +1, r.X1 + 122, r.Row3, 102.5);
+  pen.LineDown(r.X1 + 66.5, r.Row2 - 30, r.Row2);
 }
 
 void WriteTeluguConsonant(StrokeRec& rec, DrawingSurface& sheet) {

@@ -1,6 +1,7 @@
 // The forms in which Telugu consonants hang below another consonant, tiles 18 to 34: those of ka to
 // nna. The rest are in telc_below_ta_to_rra.cpp. They stand around and under Row4 (475), most of
 // them half as large as the letter itself, and have no HeadTick.
+#include "letters/telugu_parts.h"
 #include "letters/telugu_shapes.h"
 #include "letters/telugu_tiles.h"
 
@@ -142,12 +143,7 @@ void WriteNya(StrokeRec& r, Pen& pen) {
 }
 
 void WriteTta(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col1;
-  pen.Arc(90, 450, +1, r.X1 + 91.5, r.Row4 + 23.75, 12.5);
-  pen.Arc(-220, -150, +1, r.X1 + 108.375, r.Row5 - 33.75, 37.5);
-  pen.Arc(190, 360, +1, r.X1 + 97.125, r.Row5 - 23.90625, 23.4375);
-  pen.Arc(190, 345, +1, r.X1 + 144.234375, r.Row5 - 24.375, 23.4375);
-  pen.Arc(-25, 50, +1, r.X1 + 133.5, r.Row4 + 42.5, 37.5);
+  BelowTtaWithRing(90, r, pen);
 }
 
 void WriteTtha(StrokeRec& r, Pen& pen) {
@@ -195,6 +191,15 @@ constexpr TeluguTile kForms[] = {
 };
 
 }  // namespace
+
+void BelowTtaWithRing(int ringFrom, StrokeRec& r, Pen& pen) {
+  r.X1 = r.Col1;
+  pen.Arc(ringFrom, ringFrom + 360, +1, r.X1 + 91.5, r.Row4 + 23.75, 12.5);
+  pen.Arc(-220, -150, +1, r.X1 + 108.375, r.Row5 - 33.75, 37.5);
+  pen.Arc(190, 360, +1, r.X1 + 97.125, r.Row5 - 23.90625, 23.4375);
+  pen.Arc(190, 345, +1, r.X1 + 144.234375, r.Row5 - 24.375, 23.4375);
+  pen.Arc(-25, 50, +1, r.X1 + 133.5, r.Row4 + 42.5, 37.5);
+}
 
 std::span<const TeluguTile> TeluguConsonantsBelow() {
   return kForms;

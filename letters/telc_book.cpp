@@ -1,6 +1,7 @@
 // Telugu consonants as in the book. A tile that shows several ways of writing its letter keeps the
 // one that primers print, in the first of its columns; the others differ from the given letter in a
-// part alone. What a book form shares with its given letter is in telugu_parts.h.
+// part alone, or in where a ring begins. What a book form shares with its given letter is in
+// telugu_parts.h.
 #include "letters/book_forms.h"
 #include "letters/telugu_parts.h"
 #include "letters/telugu_shapes.h"
@@ -37,9 +38,18 @@ void WriteDdha(StrokeRec& r, Pen& pen) {
   pen.LineDown(bowl.x, bowl.y, r.Row4 + 22.5);
 }
 
+// The ring of tta, ta and la goes on into the bow.
+
+void WriteTta(StrokeRec& r, Pen& pen) {
+  TtaWithRing(141, -158, r, pen);
+}
+
 void WriteTa(StrokeRec& r, Pen& pen) {
-  LeftRingOfTaAt(r.Col1, kBowlOfTa, r, pen);
-  TaFromBowlAt(r.Col1, r, pen);
+  TaWithRing(195, r, pen);
+}
+
+void WriteLa(StrokeRec& r, Pen& pen) {
+  LaWithRing(184, r, pen);
 }
 
 // The given ones write their tick twice.
@@ -75,6 +85,10 @@ void WriteRra(StrokeRec& r, Pen& pen) {
 }
 
 // The forms that hang below another consonant.
+
+void WriteBelowTta(StrokeRec& r, Pen& pen) {
+  BelowTtaWithRing(151, r, pen);
+}
 
 // Of na and ya X1, Y1 is where the pen begins.
 
@@ -126,12 +140,15 @@ void WriteBelowRra(StrokeRec& r, Pen& pen) {
 }
 
 constexpr BookForm kBook[] = {
+    {.tile = 13, .write = WriteTta     }, // ట
     {.tile = 15, .write = WriteDda     }, // డ
     {.tile = 16, .write = WriteDdha    }, // ఢ
+    {.tile = 30, .write = WriteBelowTta}, // ్ట
     {.tile = 35, .write = WriteTa      }, // త
     {.tile = 39, .write = WriteNa      }, // న
     {.tile = 44, .write = WriteMa      }, // మ
     {.tile = 45, .write = WriteYa      }, // య
+    {.tile = 47, .write = WriteLa      }, // ల
     {.tile = 48, .write = WriteVa      }, // వ
     {.tile = 50, .write = WriteSsa     }, // ష
     {.tile = 56, .write = WriteBelowNa }, // ్న

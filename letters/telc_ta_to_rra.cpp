@@ -87,8 +87,7 @@ EndPoint WriteBaAt(double column, StrokeRec& r, Pen& pen) {
 
 // Three ways of writing ta, side by side.
 void WriteTa(StrokeRec& r, Pen& pen) {
-  LeftRingOfTaAt(r.Col1, 90, r, pen);
-  TaFromBowlAt(r.Col1, r, pen);
+  TaWithRing(90, r, pen);
 
   r.WX1 = r.Col2 + 135;
   pen.Arc(90, 450, +1, r.Col2 + 52.5, r.Row2 + 55.05, 18);
@@ -164,9 +163,7 @@ void WriteRa(StrokeRec& r, Pen& pen) {
 }
 
 void WriteLa(StrokeRec& r, Pen& pen) {
-  r.X1 = r.Col3;
-  pen.Arc(90, 450, +1, r.X1 + 65, r.Row2 + 36, 30);
-  pen.Arc(-190, 32, +1, r.X1 + 130, r.Row2 + 55, 96);
+  LaWithRing(90, r, pen);
 }
 
 void WriteVa(StrokeRec& r, Pen& pen) {
@@ -249,17 +246,20 @@ constexpr TeluguTile kLetters[] = {
 
 }  // namespace
 
-void LeftRingOfTaAt(double column, int from, StrokeRec& r, Pen& pen) {
-  pen.Arc(from, from + 360, +1, column + 40, r.Row2 + 64.5, 30);
+void TaWithRing(int ringFrom, StrokeRec& r, Pen& pen) {
+  r.WX1 = r.Col1 + 130;
+  pen.Arc(ringFrom, ringFrom + 360, +1, r.Col1 + 40, r.Row2 + 64.5, 30);
+  pen.Arc(-175, 0, +1, r.Col1 + 100.3, r.Row2 + 64.5, 90);
+  pen.Arc(0, 450, +1, r.Col1 + 160, r.Row2 + 64.5, 30);
+  pen.Arc(270, 450, +1, r.Col1 + 160, r.Row2 + 17.7, 18);
+  pen.LineLeft(r.Col1 + 101, r.Row2 - 0.3, r.Col1 + 156);
+  HeadTick(pen, r.WX1, r.Row2, 52.5);
 }
 
-void TaFromBowlAt(double column, StrokeRec& r, Pen& pen) {
-  r.WX1 = column + 130;
-  pen.Arc(-175, 0, +1, column + 100.3, r.Row2 + 64.5, 90);
-  pen.Arc(0, 450, +1, column + 160, r.Row2 + 64.5, 30);
-  pen.Arc(270, 450, +1, column + 160, r.Row2 + 17.7, 18);
-  pen.LineLeft(column + 101, r.Row2 - 0.3, column + 156);
-  HeadTick(pen, r.WX1, r.Row2, 52.5);
+void LaWithRing(int ringFrom, StrokeRec& r, Pen& pen) {
+  r.X1 = r.Col3;
+  pen.Arc(ringFrom, ringFrom + 360, +1, r.X1 + 65, r.Row2 + 36, 30);
+  pen.Arc(-190, 32, +1, r.X1 + 130, r.Row2 + 55, 96);
 }
 
 void NaWithTick(TickPasses passes, StrokeRec& r, Pen& pen) {

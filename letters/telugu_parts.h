@@ -18,16 +18,21 @@ EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen);
 /// The `ringEnd` of the way with a whole ring.
 inline constexpr int kWholeRing = 405;
 
+// Letters that begin with a ring, once around from the angle `ringFrom`. The tables begin it at its
+// top, where the pen has to be lifted; in the book it begins where it goes on into the bow.
+
+/// The letter tta; the bow beside its ring ends at the angle `bowEnd`.
+void TtaWithRing(int ringFrom, int bowEnd, StrokeRec& r, Pen& pen);
+
+// In telc_below.cpp.
+
+void BelowTtaWithRing(int ringFrom, StrokeRec& r, Pen& pen);
+
 // In telc_ta_to_rra.cpp.
 
-/// The way of ta with a ring at both ends of its bowl: all but the left ring, which runs on into
-/// the bowl when it begins and ends at the angle kBowlOfTa.
-void TaFromBowlAt(double column, StrokeRec& r, Pen& pen);
-
-/// That ring, once around from the angle `from`.
-void LeftRingOfTaAt(double column, int from, StrokeRec& r, Pen& pen);
-
-inline constexpr int kBowlOfTa = 195;
+/// The way of ta with a ring at both ends of its bowl, and the letter la.
+void TaWithRing(int ringFrom, StrokeRec& r, Pen& pen);
+void LaWithRing(int ringFrom, StrokeRec& r, Pen& pen);
 
 /// How often the pen goes over the tick of na, ma, ya and va, dot for dot.
 enum class TickPasses : std::uint8_t { Once = 1, Twice = 2 };
