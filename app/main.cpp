@@ -7,6 +7,7 @@
 #include "board/board.h"
 #include "board/companions.h"
 #include "card/card.h"
+#include "companions/fit/fit.h"
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
 #include "files/environment.h"
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
   bramlee::RegisterMaths();
   bramlee::AddCompanion(bramlee::AddWatching);
   bramlee::AddCompanion(bramlee::AddTracing);
+  bramlee::AddCompanion(bramlee::AddFitting);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();
