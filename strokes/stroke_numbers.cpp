@@ -38,7 +38,7 @@ constexpr double kArrowLengths[] = {3.2, 2.4, 1.7};
 constexpr double kLatestTail = 1.8;
 constexpr double kTailStep = 0.4;
 /// The head is so wide, as a part of the ink and of the disc: it has to stand out on either.
-constexpr double kHeadOfPen = 0.7;
+constexpr double kHeadOfPen = 0.85;
 constexpr double kHeadOfDisc = 0.45;
 /// Free room beside an arrow, in sheet pixels.
 constexpr double kArrowGap = 1.5;

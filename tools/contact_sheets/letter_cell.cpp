@@ -1,9 +1,9 @@
 #include "tools/contact_sheets/letter_cell.h"
 
-#include <QPainterPath>
 #include <algorithm>
 
-#include "strokes/stroke_numbers.h"
+#include "ink/stamps.h"
+#include "ink/stroke_signs.h"
 
 namespace bramlee {
 namespace {
@@ -11,17 +11,12 @@ namespace {
 constexpr int kCaption = 22;  ///< height of the line above a letter
 constexpr double kMargin = 50;
 constexpr double kLargest = 1.6;  ///< picture pixels to a sheet pixel; dots stay dots
-constexpr double kPenWidth = 10;  ///< of the boards' pen, in sheet pixels
 
 constexpr QRgb kColours[] = {0xC62828, 0x1565C0, 0x2E7D32, 0xEF6C00,
                              0x6A1B9A, 0x00838F, 0x795548, 0xD81B60};
 
 QColor ColourOfStroke(std::size_t stroke) {
   return QColor(kColours[stroke % std::size(kColours)]);
-}
-
-QPointF On(const Point& point) {
-  return {point.x, point.y};
 }
 
 /// From the sheet into the room of a cell.
@@ -35,42 +30,14 @@ QTransform Fit(const Box& box, const QRectF& room) {
   return fit;
 }
 
-QPolygonF Polygon(std::span<const Point> points, const QTransform& fit) {
-  QPolygonF polygon;
-  for (const Point& point : points) polygon.append(fit.map(On(point)));
-  return polygon;
-}
-
-void DrawArrow(QPainter& painter, const StrokeArrow& arrow, const QTransform& fit) {
-  if (!arrow.IsDrawn()) return;
-  painter.setPen(QPen(Qt::black, 1.5 * fit.m11()));
-  painter.drawPolyline(Polygon(arrow.shaft, fit));
-  QPainterPath head;
-  head.addPolygon(Polygon(arrow.head, fit));
-  painter.fillPath(head, Qt::black);
-}
-
-void DrawNumber(QPainter& painter, int number, const StrokeNumber& place, const QTransform& fit,
-                const QColor& colour) {
-  if (place.radius == 0) return;
-  DrawArrow(painter, place.arrow, fit);
-  const double radius = place.radius * fit.m11();
-  const QPointF at = fit.map(On(place.centre));
-  const QRectF disc(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius);
-  painter.setPen(QPen(colour, 1.5));
-  painter.setBrush(place.clean ? Qt::white : Qt::yellow);
-  painter.drawEllipse(disc);
-  painter.drawText(disc, Qt::AlignCenter, QString::number(number));
-  painter.setBrush(Qt::NoBrush);
-}
-
 void DrawPath(QPainter& painter, const StrokePath& path, const QTransform& fit,
               const QColor& colour) {
   if (path.points.empty()) return;
-  const QPolygonF line = Polygon(path.points, fit);
+  QPolygonF line;
+  for (const Point& point : path.points) line.append(fit.map(QPointF(point.x, point.y)));
   QColor body = colour;
   body.setAlpha(150);
-  painter.setPen(QPen(body, kPenWidth * fit.m11(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(body, kDrawWidth * fit.m11(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   if (line.size() == 1) return painter.drawPoint(line[0]);
   painter.drawPolyline(line);
 }
@@ -86,6 +53,7 @@ void DrawJoins(QPainter& painter, const Letter& letter, const QTransform& fit) {
       });
     }
   }
+  painter.setBrush(Qt::NoBrush);
 }
 
 }  // namespace
@@ -118,10 +86,15 @@ void DrawLetter(QPainter& painter, const Letter& letter, const Box& shown, const
     DrawPath(painter, strokes[i], fit, ColourOfStroke(i));
   }
   DrawJoins(painter, letter, fit);
-  const auto numbers = PlaceNumbers(strokes, {.penHalfWidth = kPenWidth / 2});
+  painter.save();
+  painter.setTransform(fit, true);
+  const auto numbers = PlaceNumbers(strokes, {.penHalfWidth = kDrawWidth / 2});
   for (std::size_t i = 0; i < numbers.size(); ++i) {
-    DrawNumber(painter, static_cast<int>(i + 1), numbers[i], fit, ColourOfStroke(i));
+    const QColor rim = numbers[i].clean ? Qt::white : Qt::yellow;
+    PaintNumber(painter, static_cast<int>(i + 1), numbers[i],
+                {.sign = ColourOfStroke(i), .rim = rim});
   }
+  painter.restore();
 }
 
 }  // namespace bramlee

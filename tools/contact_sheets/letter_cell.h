@@ -1,6 +1,6 @@
 // One letter in a cell of a contact sheet: each pen stroke in a colour of its own, its number and
 // arrow where the boards show them, a small white dot where one run goes on with the other. A
-// number without a clean place is on a yellow disc.
+// number without a clean place is yellow.
 #pragma once
 
 #include <QPainter>
