@@ -8,6 +8,7 @@
 #include "board/companions.h"
 #include "card/card.h"
 #include "companions/fit/fit.h"
+#include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
 #include "files/environment.h"
@@ -39,6 +40,7 @@ int main(int argc, char** argv) {
   bramlee::RegisterMaths();
   bramlee::AddCompanion(bramlee::AddWatching);
   bramlee::AddCompanion(bramlee::AddTracing);
+  bramlee::AddCompanion(bramlee::AddNumbers);
   bramlee::AddCompanion(bramlee::AddFitting);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);

@@ -8,6 +8,10 @@
 
 namespace bramlee {
 
+/// The choice that the child writes with the left hand, false at first. Whatever shows where to
+/// write follows it.
+inline constexpr char kLeftHandChoice[] = "trace/leftHand";
+
 /// The choices, by name, kept in the user's configuration (QSettings, "bramlee/bramlee"). One for
 /// the whole program, as all boards follow them. Where the configuration cannot be written they
 /// last as long as the program runs.

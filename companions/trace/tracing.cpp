@@ -14,7 +14,7 @@ namespace bramlee {
 namespace {
 
 const QString kLevel = QStringLiteral("trace/level");
-const QString kLeftHand = QStringLiteral("trace/leftHand");
+const QString kLeftHand = QString::fromLatin1(kLeftHandChoice);
 const QString kByClicks = QStringLiteral("trace/byClicks");
 
 constexpr int kFrameMs = 20;
