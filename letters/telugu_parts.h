@@ -1,6 +1,8 @@
 // Parts of single Telugu letters that their book forms are made of as well: a change to one changes
 // both. Each stands in the source of its given letter. `column` is the left edge of the letter's
-// own column in sheet pixels; angles are degrees.
+// own column in sheet pixels; angles are degrees. A letter that begins with a ring is written once
+// around it from the angle `ringFrom`: the tables begin at its top, where the pen has to be lifted
+// then, the book where the ring goes on into the bow.
 #pragma once
 
 #include <cstdint>
@@ -18,14 +20,12 @@ EndPoint DdaAt(double column, int ringEnd, StrokeRec& r, Pen& pen);
 /// The `ringEnd` of the way with a whole ring.
 inline constexpr int kWholeRing = 405;
 
-// Letters that begin with a ring, once around from the angle `ringFrom`. The tables begin it at its
-// top, where the pen has to be lifted; in the book it begins where it goes on into the bow.
-
 /// The letter tta; the bow beside its ring ends at the angle `bowEnd`.
 void TtaWithRing(int ringFrom, int bowEnd, StrokeRec& r, Pen& pen);
 
 // In telc_below.cpp.
 
+/// The form of tta.
 void BelowTtaWithRing(int ringFrom, StrokeRec& r, Pen& pen);
 
 // In telc_ta_to_rra.cpp.
