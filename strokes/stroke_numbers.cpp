@@ -44,8 +44,10 @@ constexpr double kHeadOfDisc = 0.45;
 constexpr double kArrowGap = 1.5;
 /// How far beside its line an arrow may come where its stroke bends, in sheet pixels.
 constexpr double kArrowSlack = 0.75;
-/// The cosine of the largest angle between an arrow's shaft and its head.
+/// The cosine of the largest angle between an arrow's shaft and its head; and of the one that is
+/// preferred on the ink, where a bent arrow is seen less well.
 constexpr double kHeadInLine = 0.75;
+constexpr double kHeadInLineOnInk = 0.93;
 
 /// A disc is nearer to its own beginning by so much, in sheet pixels.
 constexpr double kNearer = 0.5;
@@ -76,12 +78,12 @@ Point After(const StrokePath& path, double way) {
 }
 
 /// Whether one sees at a glance where the arrow points.
-bool HeadIsInLine(const StrokeArrow& arrow) {
+bool HeadIsInLine(const StrokeArrow& arrow, double cosine) {
   if (!arrow.IsDrawn()) return false;
   const std::vector<Point>& shaft = arrow.shaft;
   const Point& end = shaft.back();
   const Point& before = shaft[shaft.size() - std::min<std::size_t>(shaft.size(), 4)];
-  return Dot(Towards(before, end), Towards(end, arrow.head[0])) >= kHeadInLine;
+  return Dot(Towards(before, end), Towards(end, arrow.head[0])) >= cosine;
 }
 
 /// How a stroke sets out.
@@ -274,19 +276,21 @@ StrokeArrow Placer::ArrowBeside(std::size_t stroke, double side) const {
                              .length = length * radius,
                              .aside = side * (rule_.penHalfWidth + kArrowGap + headHalfWidth_),
                              .headHalfWidth = headHalfWidth_});
-      if (HeadIsInLine(arrow) && HasRoom(arrow)) return arrow;
+      if (HeadIsInLine(arrow, kHeadInLine) && HasRoom(arrow)) return arrow;
     }
   }
   return {};
 }
 
 StrokeArrow Placer::ArrowOn(std::size_t stroke) const {
-  for (const double length : kArrowLengths) {
-    const StrokeArrow arrow = ArrowAlong(strokes_[stroke], {.from = 0,
-                                                            .length = length * rule_.discRadius,
-                                                            .aside = 0,
-                                                            .headHalfWidth = headHalfWidth_});
-    if (HeadIsInLine(arrow)) return arrow;
+  for (const double inLine : {kHeadInLineOnInk, kHeadInLine}) {
+    for (const double length : kArrowLengths) {
+      const StrokeArrow arrow = ArrowAlong(strokes_[stroke], {.from = 0,
+                                                              .length = length * rule_.discRadius,
+                                                              .aside = 0,
+                                                              .headHalfWidth = headHalfWidth_});
+      if (HeadIsInLine(arrow, inLine)) return arrow;
+    }
   }
   return {};
 }

@@ -154,6 +154,19 @@ TEST(StrokeNumbersTest, HaveArrowsBesideTheirStrokesWhereThereIsRoom) {
   EXPECT_EQ(on.head[0].x, 200);
 }
 
+TEST(StrokeNumbersTest, HaveAShorterArrowOnTheInkWhereALongerOneWouldBend) {
+  StrokePath hook = LineFrom({200, 100}, {200, 113});
+  for (int i = 1; i <= 40; ++i) {
+    const double angle = i * 3.14159265 / 40;
+    hook.points.push_back({212 - 12 * std::cos(angle), 113 + 12 * std::sin(angle)});
+  }
+  const std::vector walls{LineFrom({188, 0}, {188, 400}), LineFrom({212, 0}, {212, 400})};
+  const StrokeArrow arrow = PlaceNumbers({&hook, 1}, kRightHand, walls).at(0).arrow;
+  ASSERT_TRUE(arrow.IsDrawn());
+  EXPECT_NEAR(arrow.head[0].x, 200, 5);
+  EXPECT_LT(arrow.head[0].y, 125);
+}
+
 TEST(StrokeNumbersTest, OfASmallRingHaveAnArrowOutsideOrNone) {
   StrokePath ring;
   for (int i = 0; i <= 40; ++i) {
