@@ -7,6 +7,7 @@
 #include "board/board.h"
 #include "board/companions.h"
 #include "card/card.h"
+#include "companions/book/book.h"
 #include "companions/fit/fit.h"
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
   bramlee::AddCompanion(bramlee::AddTracing);
   bramlee::AddCompanion(bramlee::AddNumbers);
   bramlee::AddCompanion(bramlee::AddFitting);
+  bramlee::AddCompanion(bramlee::AddBookSwitch);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();

@@ -11,8 +11,9 @@ constexpr LineRule kPathLines{.step = 1};
 
 }  // namespace
 
-QPainterPath LetterPath(std::string_view letterSet, int tile) {
-  const Letter letter = RecordTile({.set = letterSet, .tile = tile, .form = {}}, kPathLines.step);
+QPainterPath LetterPath(std::string_view letterSet, int tile, bool book) {
+  const Letter letter =
+      RecordTile({.set = letterSet, .tile = tile, .form = {.book = book}}, kPathLines.step);
   QPainterPath path;
   for (const Run& run : letter.Runs()) {
     for (const Lines& piece : LinesOf(run, kPathLines)) {

@@ -61,6 +61,12 @@ void KeepBoth(Album& album, const QString& name, const Subject& subject, Draw dr
        large.convertToFormat(QImage::Format_Indexed8, palette, Qt::ThresholdDither), 0);
 }
 
+Subject InTheBook(const Subject& subject) {
+  Subject book = subject;
+  book.book = true;
+  return book;
+}
+
 void DrawTiles(Album& album) {
   for (const Subject& subject : Subjects()) {
     const QString set = QString::fromUtf8(subject.letterSet.data(),
@@ -69,6 +75,9 @@ void DrawTiles(Album& album) {
       if (ShowsLettering(subject.letterSet, tile)) continue;  // its picture lies on the sheet
       KeepBoth(album, QStringLiteral("%1/%2").arg(set).arg(tile), subject,
                [&](double larger) { return TilePicture(subject, tile, larger); });
+      if (!HasBookForm(*FindLetterSet(subject.letterSet), tile)) continue;
+      KeepBoth(album, QStringLiteral("book/%1/%2").arg(set).arg(tile), subject,
+               [&](double larger) { return TilePicture(InTheBook(subject), tile, larger); });
     }
   }
   KeepBoth(album, QStringLiteral("hinv/0"), Subjects()[2], LetteringPicture);
@@ -93,11 +102,12 @@ void DrawForms(Album& album) {
     const bool charted =
         subject.letterSet.starts_with("hin") || subject.letterSet.starts_with("tel");
     if (!charted) continue;
-    Keep(album,
-         QStringLiteral("charts/%1.jpg")
-             .arg(QString::fromUtf8(subject.letterSet.data(),
-                                    static_cast<qsizetype>(subject.letterSet.size()))),
-         ChartPicture(subject));
+    const QString chart =
+        QStringLiteral("charts/%1.jpg")
+            .arg(QString::fromUtf8(subject.letterSet.data(),
+                                   static_cast<qsizetype>(subject.letterSet.size())));
+    Keep(album, chart, ChartPicture(subject));
+    Keep(album, QStringLiteral("book/") + chart, ChartPicture(InTheBook(subject)));
   }
   Keep(album, QStringLiteral("card/idcard.jpg"), IdCardPicture());
   Keep(album, QStringLiteral("card/school.jpg"), SchoolPicture());

@@ -15,10 +15,11 @@ namespace bramlee {
 /// How one subject's pictures look.
 struct Subject {
   std::string_view letterSet;
-  QSize tile;     ///< pixels of a tile's picture: four to a pixel of the tile as designed
-  QColor ink;     ///< the letters
-  QColor ground;  ///< behind them
-  int columns;    ///< letters in a row of the chart
+  QSize tile;         ///< pixels of a tile's picture: four to a pixel of the tile as designed
+  QColor ink;         ///< the letters
+  QColor ground;      ///< behind them
+  int columns;        ///< letters in a row of the chart
+  bool book = false;  ///< whether the letters are those of the book
 };
 
 /// The subjects in the order of the home form.

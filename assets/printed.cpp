@@ -77,7 +77,7 @@ QRectF CornerPlace(const QRectF& card) {
 }
 
 void DrawCornerSign(QPainter& painter, const Subject& subject, int tile, const QRectF& card) {
-  const QString sign = QString::fromStdString(PrintedLetter(subject.letterSet, tile));
+  const QString sign = QString::fromStdString(PrintedLetter(subject.letterSet, tile, subject.book));
   if (sign.isEmpty()) return;
   DrawPrinted(painter, sign, CornerPlace(card), Qt::AlignRight, kPrintColour);
 }

@@ -49,7 +49,7 @@ Signs SignsOf(const QPainterPath& path) {
 
 /// The tile's strokes, two signs close together: so there is room to draw them large.
 QPainterPath TilePath(const Subject& subject, int tile) {
-  const QPainterPath path = LetterPath(subject.letterSet, tile);
+  const QPainterPath path = LetterPath(subject.letterSet, tile, subject.book);
   if (subject.letterSet != "mat") return path;
   const Signs signs = SignsOf(path);
   if (signs.second.isEmpty()) return path;
@@ -152,7 +152,7 @@ QImage SetButtonPicture(int set, double larger) {
 QImage SignPicture(int tile, double larger) {
   const Subject& subject = kSubjects[6];
   Card card(subject.tile, subject.ground, larger);
-  const QPainterPath path = SignsOf(LetterPath(subject.letterSet, tile)).first;
+  const QPainterPath path = SignsOf(LetterPath(subject.letterSet, tile, subject.book)).first;
   const QRectF place = card.Whole().adjusted(50, 40, -50, -40);
   const QRectF bounds = path.boundingRect();
   const double scale = std::min(place.width() / std::max(bounds.width(), 1.0),

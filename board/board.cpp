@@ -4,6 +4,7 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "board/book_letters.h"
 #include "board/companions.h"
 #include "board/reach.h"
 #include "board/strip.h"
@@ -78,6 +79,7 @@ Board::Board(const BoardRecord& record)
   scroller_->viewport()->installEventFilter(this);
   ResetToDesign();
   reach_ = ReachOfAll();
+  connect(&BookLetters::Instance(), &BookLetters::Changed, this, &Board::FollowBook);
   MakeCompanions(*this);
 }
 
@@ -94,9 +96,7 @@ void Board::MakeControls() {
   const int lastTile = record_.lastTile != 0 ? record_.lastTile : letters_.tiles;
   for (int i = record_.firstTile; i <= lastTile; ++i) {
     PictureBox* tile = AddPicture(Indexed("pic", i), QStringLiteral("Click To Draw"));
-    tile->SetPicture(
-        QStringLiteral(":/pictures/%1/%2.jpg").arg(QString::fromLatin1(record_.letterSet)).arg(i));
-    tile->setAccessibleName(QString::fromStdString(LetterName(record_.letterSet, i)));
+    ShowLetterOf(i);
     connect(tile, &PictureBox::clicked, this, [this, i] { pic_Click(i); });
   }
   TextBox* title = AddText(QStringLiteral("txthdr1"), QString::fromUtf8(record_.title));
@@ -135,7 +135,7 @@ QRect Board::ReachOfAll() const {
     for (const std::int16_t alternative : {std::int16_t{0}, std::int16_t{1}}) {
       StrokeRec rec = FillStrokeRec(letters_.sheet, static_cast<std::int16_t>(tile));
       rec.AltFlag = alternative;
-      all = all.united(ReachOf(letters_.write, rec));
+      all = all.united(ReachOf(letters_.write, rec)).united(ReachOf(ProgramFor(rec), rec));
     }
   }
   return all.toAlignedRect();
@@ -167,7 +167,7 @@ void Board::BringIntoView(const StrokeRec& rec) {
   QRect reach;
   // A letter that cannot be written is found out when its turn to be written comes.
   Trap(QStringLiteral("brd:12"),
-       [&](ErrInfo&) { reach = ReachOf(record_.program(*this, rec), rec).toAlignedRect(); });
+       [&](ErrInfo&) { reach = ReachOf(ProgramFor(rec), rec).toAlignedRect(); });
   if (reach.isEmpty()) return;
   reach.adjust(-kEdge, -kEdge, kEdge, kEdge);
   // Of a letter larger than the window its beginning counts: the top left.

@@ -72,6 +72,13 @@ class Board : public Form {
   /// they are written.
   void pic_Click(int index);
 
+  /// Has this board write the letters of the book, whatever all boards do.
+  void WantBookLetters(bool on);
+  /// Whether a tile that stands otherwise in the book is written so.
+  bool WritesBookLetters() const;
+  /// The program that writes the record's letter now.
+  WriteLetter ProgramFor(const StrokeRec& rec) const;
+
   // --- what the handlers and the boards' own parts share
   /// Whether that tile's click wipes the sheet first.
   bool IsGroupStart(int index) const;
@@ -133,6 +140,9 @@ class Board : public Form {
 
  private:
   void MakeControls();
+  void FollowBook();
+  void ShowLetterOf(int tile) const;
+  TileForm FormOf(const StrokeRec& rec) const;
   void MakeMenus();
   void RunFormLoad();
   void ResetToDesign();
@@ -152,6 +162,7 @@ class Board : public Form {
   BoardPen pen_;
   Strip* strip_ = nullptr;
   QRect reach_;
+  bool wantsBook_ = false;
   QSize designed_;  ///< of the sheet with all that is on it; empty before it is laid out
   bool fitsWindow_ = false;
 };

@@ -93,15 +93,11 @@ void WriteTile(Board& board, StrokeRec& rec) {
     if (record.strangeTile != nullptr) MsgBox(QString::fromUtf8(record.strangeTile));
     return;
   }
-  board.Write(record.program(board, rec), rec);
+  board.Write(board.ProgramFor(rec), rec);
 }
 
 void Board::Write(WriteLetter program, StrokeRec& rec) {
-  const LetterId id{
-      .set = letters_.name,
-      .tile = rec.LetterNo,
-      .form = {.alternative = rec.AltFlag == 1, .place = rec.LoopNo}
-  };
+  const LetterId id{.set = letters_.name, .tile = rec.LetterNo, .form = FormOf(rec)};
   const auto speakIfPlayIsOn = [this, rec] {
     if (Checked(QStringLiteral("mnuaud"))) record_.cue(*this, rec);
   };

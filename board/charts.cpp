@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 
+#include "board/book_letters.h"
 #include "files/trap.h"
 #include "ui/form_ids.h"
 #include "ui/forms.h"
@@ -44,6 +45,7 @@ constexpr ChartRecord kHindiVowels{
     .form = kHindiVowelsChart,
     .title = "Hindi Vowels",
     .picture = ":/pictures/charts/hinv.jpg",
+    .bookPicture = ":/pictures/book/charts/hinv.jpg",
     .board = kHindiVowelsForm,
     .layOut = LayOutHindi,
 };
@@ -51,6 +53,7 @@ constexpr ChartRecord kHindiConsonants{
     .form = kHindiConsonantsChart,
     .title = "Hindi Consonants",
     .picture = ":/pictures/charts/hinc.jpg",
+    .bookPicture = ":/pictures/book/charts/hinc.jpg",
     .board = "",
     .layOut = LayOutHindi,
 };
@@ -58,6 +61,7 @@ constexpr ChartRecord kTeluguVowels{
     .form = kTeluguVowelsChart,
     .title = "TELUGU-VOWELS",
     .picture = ":/pictures/charts/telv.jpg",
+    .bookPicture = ":/pictures/book/charts/telv.jpg",
     .board = kTeluguVowelsForm,
     .layOut = LayOutTelugu,
     .maximised = true,
@@ -67,6 +71,7 @@ constexpr ChartRecord kTeluguConsonants{
     .form = kTeluguConsonantsChart,
     .title = "TELUGU-CONSONANTS",
     .picture = ":/pictures/charts/telc.jpg",
+    .bookPicture = ":/pictures/book/charts/telc.jpg",
     .board = kTeluguConsonantsForm,
     .layOut = LayOutTelugu,
     .maximised = true,
@@ -78,8 +83,14 @@ Chart::Chart(const ChartRecord& record) : Form(record.form), record_(record) {
   setWindowTitle(QString::fromLatin1(record.title));
   picture_ = AddPicture(Indexed("pic", 1));
   picture_->setAccessibleName(QStringLiteral("Chart: %1").arg(windowTitle()));
-  picture_->SetPicture(QString::fromLatin1(record.picture));
+  FollowBook();
+  connect(&BookLetters::Instance(), &BookLetters::Changed, this, [this] { FollowBook(); });
   connect(picture_, &PictureBox::clicked, this, &Chart::pic_Click);
+}
+
+void Chart::FollowBook() {
+  const bool book = BookLetters::Instance().On();
+  picture_->SetPicture(QString::fromLatin1(book ? record_.bookPicture : record_.picture));
 }
 
 void Chart::Form_Load() {

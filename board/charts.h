@@ -7,10 +7,11 @@ namespace bramlee {
 
 /// How one chart differs from the others.
 struct ChartRecord {
-  const char* form;     ///< the form's name
-  const char* title;    ///< the window's caption
-  const char* picture;  ///< resource of pic(1)
-  const char* board;    ///< form that a click shows; "" for none
+  const char* form;         ///< the form's name
+  const char* title;        ///< the window's caption
+  const char* picture;      ///< resource of pic(1)
+  const char* bookPicture;  ///< the same with the letters of the book
+  const char* board;        ///< form that a click shows; "" for none
   void (*layOut)(Form&, PictureBox&);
   bool maximised = false;   ///< whether it is shown as a board is
   bool formClicks = false;  ///< whether a click beside the picture shows the board too
@@ -32,6 +33,8 @@ class Chart : public Form {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void FollowBook();
+
   const ChartRecord& record_;
   PictureBox* picture_;
 };

@@ -5,8 +5,8 @@ namespace bramlee {
 
 class Board;
 
-/// Puts strip_trace and strip_level on the board's strip, and, while tracing is on, strip_hand and
-/// strip_clicks. Space then writes the stroke that is on for the child.
+/// Puts strip_trace and strip_level on the board's strip, and, while tracing is on, strip_hand,
+/// strip_clicks and strip_given. Space then writes the stroke that is on for the child.
 void AddTracing(Board& board);
 
 }  // namespace bramlee

@@ -38,6 +38,15 @@ QIcon ClicksPicture() {
   });
 }
 
+/// A tile with a letter.
+QIcon GivenPicture() {
+  return StripPicture({
+      {{14, 14},  {86, 14}, {86, 86}, {14, 86}, {14, 14}},
+      {{32, 70}, {50, 30}, {68, 70}},
+      {{40, 56},  {60, 56} }
+  });
+}
+
 QIcon LevelPicture(TraceLevel level) {
   const int bars = static_cast<int>(std::size(kTraceLevels)) - static_cast<int>(level);
   std::vector<StripStroke> strokes;

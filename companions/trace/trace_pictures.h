@@ -10,6 +10,7 @@ namespace bramlee {
 QIcon TracePicture();
 QIcon LeftHandPicture();
 QIcon ClicksPicture();
+QIcon GivenPicture();
 /// As many bars as the level asks for exactness.
 QIcon LevelPicture(TraceLevel level);
 

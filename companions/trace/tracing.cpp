@@ -16,6 +16,7 @@ namespace {
 const QString kLevel = QStringLiteral("trace/level");
 const QString kLeftHand = QString::fromLatin1(kLeftHandChoice);
 const QString kByClicks = QStringLiteral("trace/byClicks");
+const QString kGiven = QStringLiteral("trace/given");
 
 constexpr int kFrameMs = 20;
 
@@ -112,8 +113,14 @@ void Tracing::MakeButtons() {
                        .picture = ClicksPicture(),
                        .checkable = true},
                       [this] { Choices::Instance().Choose(kByClicks, clicks_->isChecked()); });
-  hand_->hide();
-  clicks_->hide();
+  given_ = strip.AddButton(kGroup,
+                           {.name = "strip_given",
+                            .text = QStringLiteral("Trace the letters as the board has them"),
+                            .key = {},
+                            .picture = GivenPicture(),
+                            .checkable = true},
+                           [this] { Choices::Instance().Choose(kGiven, given_->isChecked()); });
+  for (StripButton* option : {hand_, clicks_, given_}) option->hide();
   auto* key = new QShortcut(Qt::Key_T, &board_);
   key->setAutoRepeat(false);
   connect(key, &QShortcut::activated, this, [this] { SwitchOn(!on_); });
@@ -123,8 +130,8 @@ void Tracing::SwitchOn(bool on) {
   if (on_ == on) return;
   on_ = on;
   trace_->setChecked(on);
-  hand_->setVisible(on);
-  clicks_->setVisible(on);
+  for (StripButton* option : {hand_, clicks_, given_}) option->setVisible(on);
+  board_.WantBookLetters(on && !given_->isChecked());
   input_.SwitchOn(on);
   pen_.SetTaker(on ? [] { return true; } : std::function<bool()>());
   StopMoving();
@@ -148,6 +155,8 @@ void Tracing::FollowChoices() {
   level_->setIcon(LevelPicture(level));
   hand_->setChecked(choices.Of(kLeftHand, false).toBool());
   clicks_->setChecked(choices.Of(kByClicks, false).toBool());
+  given_->setChecked(choices.Of(kGiven, false).toBool());
+  board_.WantBookLetters(on_ && !given_->isChecked());
   input_.SetByClicks(clicks_->isChecked());
   Restart();
 }

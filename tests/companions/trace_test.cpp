@@ -262,8 +262,8 @@ TEST_F(Traced, ADotIsTapped) {
   constexpr int kI = 9;
   Board& board = OpenTracing("fbrmengs01");
   board.pic_Click(kI);
-  QTest::mouseClick(&board.sheet(), Qt::LeftButton, {}, Way("engs", kI, 0).front());
-  DrawStroke(board, "engs", kI, 1);
+  DrawStroke(board, "engs", kI, 0);
+  QTest::mouseClick(&board.sheet(), Qt::LeftButton, {}, Way("engs", kI, 1).front());
   EXPECT_EQ(board.Tile(kI)->accessibleDescription(), Q("Written"));
 }
 

@@ -39,10 +39,10 @@ class TracedBoard : public BoardTest {
   }
   static void Press(const Board& board, const char* name) { Button(board, name)->click(); }
 
-  /// The points of a tile's stroke, as a board just opened has it.
+  /// The points of a tile's stroke, as it stands in the book.
   static std::vector<QPoint> Way(std::string_view set, int tile, std::size_t stroke) {
     std::vector<QPoint> way;
-    const Letter& letter = LetterOf({.set = set, .tile = tile, .form = {}});
+    const Letter& letter = LetterOf({.set = set, .tile = tile, .form = {.book = true}});
     for (const Point& point : letter.Shape().strokes[stroke].points) {
       way.emplace_back(static_cast<int>(point.x), static_cast<int>(point.y));
     }
