@@ -22,9 +22,10 @@ void WriteShortStemOfGa(double length, StrokeRec& r, Pen& pen) {
   pen.LineDown(r.X1 + 100, r.Y1, r.Y1 + length);
 }
 
-/// प with a hook at its right, to the angle `end`, which is फ without its long stem.
+/// फ without its bar: प and, from its stem on, a hook to the angle `end`.
 void WritePhaTo(double end, StrokeRec& r, Pen& pen) {
   WriteStemAndBowl(360, r, pen);
+  pen.LineDown(r.X1 + 145, r.Y1, r.Y1 + kHindiStem);
   pen.Arc(180, end, -1, r.X1 + 185, r.Y1 + 72, 40);
 }
 
@@ -73,8 +74,8 @@ void WriteHalfPha(StrokeRec& r, Pen& pen) {
 
 void WriteSha(StrokeRec& r, Pen& pen) {
   pen.Arc(360, 0, -1, r.X1 + 37.75, r.Y1 + 26, 26);
-  pen.Arc(360, 290, -1, r.X1 - 3.75, r.Y1 + 26, 67.5);
-  pen.SlantRight(45, r.X1 + 5.3, r.Y1 + 78.2, r.Y1 + kHindiStem);
+  const EndPoint bow = pen.Arc(360, 278, -1, r.X1 - 3.75, r.Y1 + 26, 67.5);
+  pen.SlantRight(48, bow.x, bow.y, r.Y1 + kHindiStem);
 }
 
 void WriteSsa(StrokeRec& r, Pen& pen) {
@@ -119,7 +120,7 @@ constexpr BookLetter kWholes[] = {
     {17, {WriteTha},                  {525, 150},     {490, 75}},     // थ
     {19, {WriteDha},                  {1008.75, 150}, {970, 87.5}},   // ध
     {21, {WritePa},                   {265, 150},     {150, 150}},    // प
-    {22, {WritePha},                  {482.5, 150},   {367.5, 200}},  // फ
+    {22, {WritePha},                  {},             {367.5, 200}},  // फ
     {30, {WriteSha},                  {275, 150},     {240, 75}},     // श
     {31, {WriteSsa},                  {482.5, 150},   {367.5, 150}},  // ष
 };
@@ -135,7 +136,7 @@ constexpr BookLetter kHalves[] = {
     {17, {WriteTha},                  {},             {490, 35}},
     {19, {WriteDha},                  {},             {970, 38.75}},
     {21, {WriteHalfPa},               {},             {150, 112.5}},
-    {22, {WriteHalfPha},              {482.5, 150},   {367.5, 172.5}},
+    {22, {WriteHalfPha},              {},             {367.5, 172.5}},
     {27, {WriteHalfRa, WriteHalfRa},  {},             {437.5, 62.5}},
     {30, {WriteSha},                  {},             {240, 35}},
     {31, {WriteHalfSsa},              {},             {367.5, 112.5}},

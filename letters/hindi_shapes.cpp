@@ -31,21 +31,6 @@ void WriteUBows(const StrokeRec& r, Pen& pen) {
   pen.Arc(90, -170, -1, r.X1 + 30, r.Y1 + 105, 45);
 }
 
-void WriteUuTo(double end, const StrokeRec& r, Pen& pen) {
-  WriteUBows(r, pen);
-  pen.Arc(150, end, -1, r.X1 + 90, r.Y1 + 90, 37.5);
-  pen.LineRight(r.X1 - 12, r.Y1, r.X1 + 129);
-}
-
-void WriteRiFromStem(const StrokeRec& r, Pen& pen) {
-  pen.LineDown(r.X1, r.Y1, r.Y1 + kHindiStem);
-  pen.SlantUpRight(45, r.X1, r.Y1 + 82.5, r.Y1 + 50);
-  const EndPoint loop = pen.Arc(-70, 270, +1, r.X1 + 31.05, r.Y1 + 37.8, 9);
-  pen.SlantRight(45, loop.x, loop.y, loop.y + 23.4);
-  pen.Arc(90, 300, +1, r.X1 + 54, r.Y1 + 99, 30);
-  pen.LineRight(r.X1 - 75, r.Y1, r.X1 + 75);
-}
-
 void WriteMoonBowl(const StrokeRec& r, Pen& pen) {
   pen.Arc(190, 350, +1, r.X1, r.Y1 - 45, 30);
 }

@@ -27,12 +27,6 @@ void WriteStemAndBowl(double end, const StrokeRec& r, Pen& pen);
 /// The arm of त्र that runs to its stem, from an arch about `archX`, and the one that leaves it.
 void WriteArmsOfTra(double archX, const StrokeRec& r, Pen& pen);
 
-/// The whole of ऊ, its tail to the angle `end`.
-void WriteUuTo(double end, const StrokeRec& r, Pen& pen);
-
-/// ऋ from its stem at X1 to its bar.
-void WriteRiFromStem(const StrokeRec& r, Pen& pen);
-
 /// The two bows of उ and ऊ.
 void WriteUBows(const StrokeRec& r, Pen& pen);
 

@@ -141,12 +141,19 @@ void WriteU(StrokeRec& r, Pen& pen) {
 }
 
 void WriteUu(StrokeRec& r, Pen& pen) {
-  WriteUuTo(0, r, pen);
+  WriteUBows(r, pen);
+  pen.Arc(150, 0, -1, r.X1 + 90, r.Y1 + 90, 37.5);
+  pen.LineRight(r.X1 - 12, r.Y1, r.X1 + 129);
 }
 
 void WriteRi(StrokeRec& r, Pen& pen) {
   pen.Arc(110, -110, -1, r.X1 - 37.5, r.Y1 + 60, 37.5);
-  WriteRiFromStem(r, pen);
+  pen.LineDown(r.X1, r.Y1, r.Y1 + kHindiStem);
+  pen.SlantUpRight(45, r.X1, r.Y1 + 82.5, r.Y1 + 50);
+  const EndPoint loop = pen.Arc(-70, 270, +1, r.X1 + 31.05, r.Y1 + 37.8, 9);
+  pen.SlantRight(45, loop.x, loop.y, loop.y + 23.4);
+  pen.Arc(90, 300, +1, r.X1 + 54, r.Y1 + 99, 30);
+  pen.LineRight(r.X1 - 75, r.Y1, r.X1 + 75);
 }
 
 void WriteRiOtherwise(StrokeRec& r, Pen& pen) {

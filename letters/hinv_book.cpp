@@ -8,12 +8,21 @@ namespace {
 // Each letter: its strokes in writing order, a line each.
 
 void WriteUu(StrokeRec& r, Pen& pen) {
-  WriteUuTo(-70, r, pen);
+  WriteUBows(r, pen);
+  pen.Arc(130, -85, -1, r.X1 + 90, r.Y1 + 110, 33.5);
+  pen.LineRight(r.X1 - 42, r.Y1, r.X1 + 139);
 }
 
 void WriteRi(StrokeRec& r, Pen& pen) {
-  WriteArmsOfTra(r.X1 - 62.5, r, pen);
-  WriteRiFromStem(r, pen);
+  const EndPoint arch = pen.Arc(160, 45, -1, r.X1 - 50.5, r.Y1 + 60, 26.25);
+  pen.SlantRight(50, arch.x, arch.y, r.Y1 + 68);
+  pen.SlantLeft(46, r.X1, r.Y1 + 68, r.Y1 + 128);
+  pen.LineDown(r.X1, r.Y1, r.Y1 + kHindiStem);
+  pen.SlantUpRight(43, r.X1, r.Y1 + 82.5, r.Y1 + 44);
+  const EndPoint loop = pen.Arc(-70, 270, +1, r.X1 + 41, r.Y1 + 38, 7);
+  pen.SlantRight(10, loop.x, loop.y, r.Y1 + 78);
+  pen.Arc(100, 300, +1, r.X1 + 52, r.Y1 + 104, 26);
+  pen.LineRight(r.X1 - 75, r.Y1, r.X1 + 75);
 }
 
 void WriteSignOfAa(StrokeRec& r, Pen& pen) {

@@ -21,10 +21,13 @@ void WriteDot(double x, StrokeRec& r, Pen& pen) {
   pen.LineDown(x, r.Y6, r.Unit / 5 + r.Y6);
 }
 
-/// S about `middle` of two equal bows of that radius, which meet on Row3.
+/// S about `middle` of two bows that meet near Row3, the lower one larger; it is four times
+/// `radius` high.
 void WriteBows(double middle, double radius, StrokeRec& r, Pen& pen) {
-  pen.Arc(30, 270, +1, middle, r.Row3 - radius, radius);
-  pen.Arc(90, -150, -1, middle, r.Row3 + radius, radius);
+  const double upper = 0.94 * radius;
+  const double lower = 1.06 * radius;
+  pen.Arc(20, 270, +1, middle, r.Row3 - 2 * radius + upper, upper);
+  pen.Arc(90, -160, -1, middle, r.Row3 + 2 * radius - lower, lower);
 }
 
 // Each letter: its anchors, then its strokes in writing order, a line each.

@@ -99,6 +99,17 @@ Named HindiVowel(int tile, bool book) {
   return kHindiVowels[tile - 1];
 }
 
+// The book writes these signs alone.
+constexpr int kTimes = 13;
+constexpr int kDividedBy = 14;
+
+Named Number(int tile, bool book) {
+  const Named number = kNumbers[tile - 1];
+  if (book && tile == kTimes) return {number.name, "×"};
+  if (book && tile == kDividedBy) return {number.name, "÷"};
+  return number;
+}
+
 /// What a letter is named and printed with.
 struct Joined {
   std::string before, after;
@@ -146,7 +157,7 @@ std::string Printed(std::string_view set, int tile, bool book) {
   if (set == "hinc") return PrintedHindiConsonant(tile, book);
   if (set == "telv") return kTeluguVowels[tile - 1];
   if (set == "telc") return kTeluguConsonants[tile - 1];
-  return kNumbers[tile - 1].printed;
+  return Number(tile, book).printed;
 }
 
 }  // namespace

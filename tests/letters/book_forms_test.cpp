@@ -98,14 +98,23 @@ TEST(BookForms, OfRoundLettersAreTheSameRoundFromItsUpperRight) {
   EXPECT_EQ(Book("engs", 7)[2], Given("engs", 7)[2]);  // the tail of g
 }
 
-TEST(BookForms, OfSAreTwoEqualBowsThatMeet) {
-  for (const auto& [set, tile] : {std::pair("engc", 19), std::pair("engs", 19)}) {
-    const Runs s = Book(set, tile);
+TEST(BookForms, OfSAreTwoBowsThatMeetBetweenTheSameLinesAsTheGivenOnes) {
+  struct Lines {
+    const char* set;
+    double top, bottom;
+  };
+  for (const auto& [set, top, bottom] : {
+           Lines{"engc", 150, 350},
+           Lines{"engs", 125, 275}
+  }) {
+    const Runs s = Book(set, 19);
     ASSERT_EQ(s.size(), 2U);
-    const double radius = s[0].arguments[5];
-    EXPECT_EQ(s[1].arguments[5], radius);
-    EXPECT_EQ(s[1].arguments[3], s[0].arguments[3]);
-    EXPECT_EQ(s[1].arguments[4], s[0].arguments[4] + 2 * radius);
+    const auto& upper = s[0].arguments;
+    const auto& lower = s[1].arguments;
+    EXPECT_NEAR(upper[4] - upper[5], top, 1e-9);
+    EXPECT_NEAR(upper[4] + upper[5], lower[4] - lower[5], 1e-9);
+    EXPECT_NEAR(lower[4] + lower[5], bottom, 1e-9);
+    EXPECT_EQ(upper[3], lower[3]);
   }
 }
 

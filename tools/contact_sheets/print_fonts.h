@@ -14,10 +14,11 @@ inline std::vector<QString> PrintFontsOf(std::string_view letterSet) {
     return {QStringLiteral("Lohit Devanagari"), QStringLiteral("Nakula"), QStringLiteral("Gargi")};
   }
   if (letterSet.starts_with("tel")) {
-    return {QStringLiteral("Lohit Telugu"), QStringLiteral("Pothana2000"),
-            QStringLiteral("Vemana2000")};
+    return {QStringLiteral("Lohit Telugu"), QStringLiteral("Mandali"), QStringLiteral("Gidugu"),
+            QStringLiteral("NTR"), QStringLiteral("Pothana2000")};
   }
-  return {QStringLiteral("URW Gothic"), QStringLiteral("DejaVu Sans")};
+  return {QStringLiteral("URW Gothic"), QStringLiteral("Nimbus Sans"),
+          QStringLiteral("DejaVu Sans")};
 }
 
 }  // namespace bramlee
