@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <utility>
 
+#include "files/trap.h"
+
 namespace bramlee {
 namespace {
 
@@ -49,11 +51,13 @@ void BoardPen::Write(PlacedLetter letter, std::function<void()> speak) {
   sheet_.DropMarks();  // the way back leads through the last letter only
   page_.Add(std::move(letter));
   speak_ = std::move(speak);
-  Q_EMIT Changed();
-  if (taker_ != nullptr && taker_()) return;
   // The next letter does not go on with one that ended half-way.
-  auto unfinished = qScopeGuard([this] { ForgetPage(); });
-  Run(Until::PageEnd);
+  auto unfinished = qScopeGuard([this] { LeaveUnfinished(); });
+  if (taker_ != nullptr && taker_()) {
+    SayChanged();
+  } else {
+    Run(Until::PageEnd);
+  }
   unfinished.dismiss();
 }
 
@@ -61,7 +65,7 @@ void BoardPen::WriteRuling(Letter lines, ColourWord colour) {
   const Writing writing(*this);
   const bool overRest = !player_.AtEnd();
   page_.Add({.letter = std::move(lines), .colour = colour, .placing = {}, .ruling = true});
-  auto unfinished = qScopeGuard([this] { ForgetPage(); });
+  auto unfinished = qScopeGuard([this] { LeaveUnfinished(); });
   if (overRest) {
     player_.LayRulings();
   } else {
@@ -70,11 +74,17 @@ void BoardPen::WriteRuling(Letter lines, ColourWord colour) {
   unfinished.dismiss();
 }
 
+/// What stands of it by now stays.
+void BoardPen::LeaveUnfinished() noexcept {
+  page_.Clear();
+  SayChanged();
+}
+
 void BoardPen::ForgetPage() {
   page_.Clear();
   speak_ = nullptr;
   Q_EMIT Wiped();
-  Q_EMIT Changed();
+  SayChanged();
 }
 
 std::size_t BoardPen::LastLetter() const {
@@ -85,13 +95,21 @@ std::size_t BoardPen::LastLetter() const {
   return letters.size();
 }
 
+/// What follows the pen may fail where nothing may be thrown, and is no reason for the pen to stop.
+void BoardPen::SayChanged() noexcept {
+  Trap(QStringLiteral("pen:01"), [this](ErrInfo&) { Q_EMIT Changed(); });
+}
+
 void BoardPen::Run(Until until) {
   ++running_;
   const auto ran = qScopeGuard([this] {
     --running_;
-    Q_EMIT Changed();
+    SayChanged();
   });
-  Q_EMIT Changed();
+  SayChanged();
+  // In the middle of a stroke the player does not set the pen, which has had another colour since.
+  const Player::Where stands = player_.Stands();
+  if (stands.begun) sheet_.SetPen(page_.Letters()[stands.letter].colour);
   while (again_ || !player_.AtEnd()) {
     if (again_) {
       SpeakAgain();
@@ -135,7 +153,7 @@ void BoardPen::ShowFrame() {
   if (frameCall_ != nullptr) frameCall_();
   LetWindowsLive();
   const Player::Where stands = Stands();
-  if (stands != std::exchange(told_, stands)) Q_EMIT Changed();
+  if (stands != std::exchange(told_, stands)) SayChanged();
 }
 
 void BoardPen::WaitAFrame() {
@@ -150,7 +168,7 @@ void BoardPen::SpeakAgain() {
   player_.StepToLetterStart();
   if (paced_) sheet_.ShowNewDots();
   player_.GoOn();
-  Q_EMIT Changed();
+  SayChanged();
   Speak();
 }
 
@@ -167,7 +185,7 @@ void BoardPen::Pause() {
   if (!IsWriting()) return;
   toStrokeEnd_ = false;
   player_.Pause();
-  Q_EMIT Changed();
+  SayChanged();
 }
 
 void BoardPen::GoOn() {
@@ -183,7 +201,7 @@ void BoardPen::StrokeOn() {
 
 /// In the middle of a writing the loop of that goes on; else this is a writing of its own.
 void BoardPen::RunFromHand() {
-  Q_EMIT Changed();
+  SayChanged();
   if (IsWriting() || (!again_ && player_.AtEnd())) return;
   const bool toStrokeEnd = toStrokeEnd_;
   const Writing writing(*this);
@@ -195,8 +213,8 @@ bool BoardPen::StrokeBack() {
   toStrokeEnd_ = false;
   player_.Pause();
   const bool back = player_.StepBack();
-  sheet_.SetPen(sheet_.ForeColor());
-  Q_EMIT Changed();
+  if (!IsWriting()) sheet_.SetPen(sheet_.ForeColor());
+  SayChanged();
   return back;
 }
 
@@ -210,7 +228,7 @@ bool BoardPen::WriteStrokeNow() {
   const bool left = !player_.AtEnd();
   player_.WriteStroke();
   sheet_.SetPen(sheet_.ForeColor());
-  Q_EMIT Changed();
+  SayChanged();
   return left;
 }
 

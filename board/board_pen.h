@@ -103,7 +103,8 @@ class BoardPen : public QObject {
 
  Q_SIGNALS:
   /// What the pen has written, where it stands or whether it goes is another from now on. Comes at
-  /// the start and the end of what is written, at pauses, and between pen strokes.
+  /// the start and the end of what is written, at pauses, and between pen strokes. What a slot
+  /// throws is caught.
   void Changed();
   /// The sheet is wiped, and with it the page.
   void Wiped();
@@ -111,6 +112,8 @@ class BoardPen : public QObject {
  private:
   enum class Until : std::uint8_t { PageEnd, Pause };
 
+  void SayChanged() noexcept;
+  void LeaveUnfinished() noexcept;
   void BeginWriting();
   void EndWriting();
   void Run(Until until);
