@@ -95,6 +95,7 @@ Strip::Strip(Board& board)
   }
   row->addStretch();
   scroller_->setFrameShape(QFrame::NoFrame);
+  scroller_->setFocusPolicy(Qt::NoFocus);  // or a click on a button would move the focus there
   scroller_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroller_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroller_->setWidgetResizable(true);
@@ -103,11 +104,11 @@ Strip::Strip(Board& board)
   scroller_->viewport()->setAutoFillBackground(false);
   row_->setAutoFillBackground(false);
   scroller_->setFixedHeight(kStripButtonPixels + 2 * kMargin);
-  addWidget(scroller_);
+  shown_ = addWidget(scroller_);
   fold_->setObjectName(QStringLiteral("strip_fold"));
   fold_->setAutoRaise(true);
   fold_->setFocusPolicy(Qt::TabFocus);
-  connect(fold_, &QToolButton::clicked, this, [this] { Fold(!scroller_->isHidden()); });
+  connect(fold_, &QToolButton::clicked, this, [this] { Fold(shown_->isVisible()); });
   addWidget(fold_);
   board.addToolBar(Qt::BottomToolBarArea, this);
   connect(&Choices::Instance(), &Choices::Changed, this, [this](const QString& name) {
@@ -136,6 +137,20 @@ StripButton* Strip::AddButton(Group group, const StripItem& item, std::function<
 
 void Strip::AddControl(Group group, QWidget* control) {
   groups_[static_cast<std::size_t>(group)]->addWidget(control);
+  SetTabOrders();
+}
+
+/// From left to right, whatever came first.
+void Strip::SetTabOrders() {
+  QWidget* before = nullptr;
+  const auto next = [&before](QWidget* control) {
+    if (before != nullptr) setTabOrder(before, control);
+    before = control;
+  };
+  for (const QHBoxLayout* group : groups_) {
+    for (int i = 0; i < group->count(); ++i) next(group->itemAt(i)->widget());
+  }
+  next(fold_);
 }
 
 /// A text box or slider of the strip that has the focus needs its keys itself.
@@ -158,7 +173,7 @@ void Strip::Fold(bool folded) {
 
 void Strip::FollowChoice() {
   const bool folded = Choices::Instance().Of(kFolded, false).toBool();
-  scroller_->setHidden(folded);
+  shown_->setVisible(!folded);
   const QString text = folded ? QStringLiteral("Show the strip") : QStringLiteral("Fold the strip");
   fold_->setAccessibleName(text);
   fold_->setToolTip(text);

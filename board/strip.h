@@ -68,10 +68,12 @@ class Strip : public QToolBar {
   bool WantsKey(const QKeyEvent& event) const;
   void Fold(bool folded);
   void FollowChoice();
+  void SetTabOrders();
 
   Board& board_;
   QScrollArea* scroller_;
   QWidget* row_;
+  QAction* shown_ = nullptr;  ///< whether the row is shown; a tool bar shows a hidden widget again
   std::array<QHBoxLayout*, 3> groups_{};
   QToolButton* fold_;
   std::map<int, std::function<void()>> keys_;

@@ -71,8 +71,8 @@ class Watching : public QObject {
     };
     back_ =
         add("strip_back", "Stroke back", QStringLiteral("Left"), BackPicture(), &Watching::Back);
-    pause_ = add("strip_pause", "Pause", QStringLiteral("Space"), PausePicture(),
-                 &Watching::PauseOrGoOn);
+    pause_ =
+        add("strip_pause", "Pause", QStringLiteral("Space"), pausePicture_, &Watching::PauseOrGoOn);
     on_ = add("strip_on", "Stroke on", QStringLiteral("Right"), OnPicture(), &Watching::On);
     again_ = add("strip_again", "Again", QStringLiteral("R"), AgainPicture(), &Watching::Again);
     strip.AddControl(Strip::Group::Watch, MakeSlider());
@@ -145,10 +145,12 @@ class Watching : public QObject {
     if (pause_->accessibleName() == text) return;
     pause_->setAccessibleName(text);
     pause_->setToolTip(text + QStringLiteral(" (Space)"));
-    pause_->setIcon(paused ? GoOnPicture() : PausePicture());
+    pause_->setIcon(paused ? goOnPicture_ : pausePicture_);
   }
 
   Board& board_;
+  const QIcon pausePicture_ = PausePicture();
+  const QIcon goOnPicture_ = GoOnPicture();
   StripButton* back_;
   StripButton* pause_;
   StripButton* on_;
