@@ -144,7 +144,7 @@ class Placer {
   double headHalfWidth_;  ///< of an arrow
   InkGrid ink_;
   std::vector<Begin> begins_;
-  std::vector<std::size_t> drawn_;  ///< the strokes that plot something
+  std::vector<std::size_t> drawn_;  ///< the strokes that plot something, as their turn comes
   std::vector<StrokeNumber> numbers_;
 };
 
@@ -178,7 +178,7 @@ double Placer::CostOf(const Point& centre, std::size_t stroke) const {
   for (const std::size_t other : begins_[stroke].near) {
     const double nearer = DistanceBetween(begins_[other].place, centre) - away;
     const double nearerToLead = DistanceBetween(begins_[other].lead, centre) - toLead;
-    cost += kDoubtful * std::clamp(1 - (nearer + nearerToLead / 2) / rule_.discRadius, 0.0, 2.0);
+    cost += kDoubtful * std::clamp(1 - (nearer + nearerToLead) / rule_.discRadius, 0.0, 2.0);
   }
   return cost;
 }
@@ -231,12 +231,20 @@ bool Placer::PlaceDisc(std::size_t stroke, const Search& search) {
   return least == 0;
 }
 
-/// Returns whether all stand in clean places.
+/// Returns whether all stand in clean places. A disc that finds none is the first of the next try.
 bool Placer::PlaceDiscs(const Search& search) {
-  std::ranges::fill(numbers_, StrokeNumber());
-  bool clean = true;
-  for (const std::size_t stroke : drawn_) clean = PlaceDisc(stroke, search) && clean;
-  return clean;
+  for (std::size_t tries = 0; tries <= drawn_.size(); ++tries) {
+    std::ranges::fill(numbers_, StrokeNumber());
+    auto failed = drawn_.end();
+    for (auto it = drawn_.begin(); it != drawn_.end(); ++it) {
+      const bool clean = PlaceDisc(*it, search);
+      if (!clean && failed == drawn_.end()) failed = it;
+    }
+    if (failed == drawn_.end()) return true;
+    if (failed == drawn_.begin()) return false;
+    std::rotate(drawn_.begin(), failed, failed + 1);
+  }
+  return false;
 }
 
 /// Whether an arrow beside its stroke stands free.

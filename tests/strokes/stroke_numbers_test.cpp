@@ -128,12 +128,14 @@ TEST(StrokeNumbersTest, KeepClearOfObstacles) {
 
 TEST(StrokeNumbersTest, OfStrokesThatBeginAtOnePlaceStandAtTheirOwnStrokes) {
   const std::vector strokes{LineFrom({200, 100}, {200, 300}), LineFrom({200, 100}, {350, 100})};
-  const Numbers numbers = PlaceNumbers(strokes, kRightHand);
-  EXPECT_TRUE(numbers[0].clean && numbers[1].clean);
-  EXPECT_LT(DistanceBetween(numbers[0].centre, {200, 110}),
-            DistanceBetween(numbers[0].centre, {210, 100}));
-  EXPECT_LT(DistanceBetween(numbers[1].centre, {210, 100}),
-            DistanceBetween(numbers[1].centre, {200, 110}));
+  for (const NumberRule& rule : {kRightHand, kLeftHand}) {
+    const Numbers numbers = PlaceNumbers(strokes, rule);
+    EXPECT_TRUE(numbers[0].clean && numbers[1].clean);
+    EXPECT_LT(DistanceBetween(numbers[0].centre, {200, 110}),
+              DistanceBetween(numbers[0].centre, {210, 100}));
+    EXPECT_LT(DistanceBetween(numbers[1].centre, {210, 100}),
+              DistanceBetween(numbers[1].centre, {200, 110}));
+  }
 }
 
 TEST(StrokeNumbersTest, HaveArrowsInTheDirectionOfThePen) {
