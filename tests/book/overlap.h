@@ -1,0 +1,14 @@
+// How much two letters overlap when they are laid over each other.
+#pragma once
+
+#include "tests/book/centre_line.h"
+
+namespace bramlee {
+
+/// Lays the one line over the other with the scale and the shift that fit best, the two axes free
+/// by a quarter of each other, thickens both alike, as the boards' pen is on a letter of 150
+/// pixels, and returns the part of their ink that both have: 1 for the same letter, 0 for nothing
+/// in common.
+double Overlap(const CentreLine& line, const CentreLine& other);
+
+}  // namespace bramlee
