@@ -18,7 +18,8 @@ constexpr int kDrawnFrames = 25;
 constexpr int kSeenFrames = 50;  ///< a second
 constexpr double kRadius = 70;   ///< of the star over the sheet, in sheet pixels
 
-/// A tile's star takes this part of its height, in its top right corner.
+/// A tile's star takes this part of its height, in its top left corner: its sign in print stands at
+/// the right.
 constexpr double kShareOfTile = 0.4;
 
 const QColor kGold(0xF9, 0xA8, 0x25);
@@ -90,7 +91,7 @@ class TileStar : public QWidget {
  private:
   void FollowTile() {
     const int side = static_cast<int>(kShareOfTile * parentWidget()->height());
-    setGeometry(parentWidget()->width() - side - 1, 1, side, side);
+    setGeometry(1, 1, side, side);
   }
 
   bool full_ = false;
