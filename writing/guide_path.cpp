@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace bramlee {
 namespace {
@@ -73,17 +74,16 @@ std::size_t GuidePath::IndexAfter(std::size_t from, double units) const {
   return from + static_cast<std::size_t>(std::ceil(units / spacing_));
 }
 
-std::size_t GuidePath::NearestTo(const Point& place, std::size_t first, std::size_t last) const {
-  const auto squared = [&](std::size_t i) {
+std::size_t GuidePath::NearestTo(const Point& place, std::size_t first, std::size_t last,
+                                 double slower) const {
+  std::size_t nearest = first;
+  double least = std::numeric_limits<double>::infinity();
+  double beyond = 0;
+  for (std::size_t i = first; i <= last; ++i, beyond += slower * spacing_) {
     const double right = points_[i].x - place.x;
     const double down = points_[i].y - place.y;
-    return right * right + down * down;
-  };
-  std::size_t nearest = first;
-  double least = squared(first);
-  for (std::size_t i = first + 1; i <= last; ++i) {
-    const double distance = squared(i);
-    if (distance < least) nearest = i, least = distance;
+    const double squared = right * right + down * down + beyond * beyond;
+    if (squared < least) nearest = i, least = squared;
   }
   return nearest;
 }

@@ -37,8 +37,11 @@ class GuidePath {
   }
 
   /// The index of the point nearest to `place`, of those from `first` to `last`; of points that are
-  /// equally near the first. Both are indices of points.
-  std::size_t NearestTo(const Point& place, std::size_t first, std::size_t last) const;
+  /// equally near the first. Both are indices of points. A point counts as `slower` units further
+  /// off, at a right angle, for each unit that it lies beyond `first`: where the way comes back
+  /// over itself, the part that comes first is the nearest.
+  std::size_t NearestTo(const Point& place, std::size_t first, std::size_t last,
+                        double slower = 0) const;
 
  private:
   std::vector<Point> points_;

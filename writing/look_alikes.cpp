@@ -17,7 +17,7 @@ constexpr std::size_t kPoints = 32;
 /// How much nearer than the right way another has to be: by this share of how far apart those two
 /// are, and by so many units at least. 0 would refuse more of what small children write rightly.
 constexpr double kClearShare = 0.4;
-constexpr double kClear = 2;
+constexpr double kClear = 1.75;
 
 /// A loop is looked for between so many points; it is so long at least, and is not nearly all of
 /// the stroke; its ends are so near, where the points are not further apart.
@@ -25,6 +25,10 @@ constexpr std::size_t kLoopPoints = 128;
 constexpr double kLeastLoop = 20;
 constexpr double kMostOfStroke = 0.9;
 constexpr double kLoopEnds = 2;
+/// A loop of this radius is wide enough for a hand to show which way round it goes. It does when it
+/// takes in this share of the area the other way round.
+constexpr double kWideLoop = 4;
+constexpr double kOtherWay = 0.2;
 
 using Shape = std::array<Point, kPoints>;
 
@@ -42,15 +46,18 @@ Shape Centred(Shape shape) {
   return shape;
 }
 
-double Between(const Shape& one, const Shape& other) {
-  double sum = 0;
-  for (std::size_t i = 0; i < kPoints; ++i) sum += DistanceBetween(one[i], other[i]);
-  return sum / kPoints;
-}
-
+/// Compares where the two ways differ, the more the more they do there.
 bool IsClearlyNearer(const Shape& ink, const Shape& other, const Shape& right) {
-  const double nearer = Between(ink, right) - Between(ink, other);
-  return nearer > kClear && nearer > kClearShare * Between(other, right);
+  double nearer = 0;
+  double apart = 0;
+  double weights = 0;
+  for (std::size_t i = 0; i < kPoints; ++i) {
+    const double weight = DistanceBetween(other[i], right[i]);
+    nearer += weight * (DistanceBetween(ink[i], right[i]) - DistanceBetween(ink[i], other[i]));
+    apart += weight * weight;
+    weights += weight;
+  }
+  return nearer > kClear * weights && nearer > kClearShare * apart;
 }
 
 Shape Backwards(Shape shape) {
@@ -63,7 +70,7 @@ Shape Mirrored(Shape shape) {
   return shape;
 }
 
-Shape Straight(const Shape& shape) {
+Shape Straight(Shape shape) {
   return ShapeOf(std::array{shape.front(), shape.back()});
 }
 
@@ -111,34 +118,56 @@ std::optional<Loop> LoopOf(std::span<const Point> way, double spacing) {
   return longest;
 }
 
-bool LooksLikeOtherLoop(const Shape& ink, std::span<const Point> right) {
+/// Twice the area within a way that is closed by a straight line; below 0 when it goes the other
+/// way round.
+double AreaOf(std::span<const Point> way) {
+  double area = 0;
+  for (std::size_t i = 0; i < way.size(); ++i) {
+    const Point& next = way[(i + 1) % way.size()];
+    area += way[i].x * next.y - next.x * way[i].y;
+  }
+  return area;
+}
+
+/// Whether ink goes the other way round where the right way has that loop. How far round it begins
+/// does not matter.
+bool GoesOtherWayRound(std::span<const Point> ink, std::span<const Point> right) {
+  const double area = AreaOf(right);
+  return std::abs(area) > kWideLoop * LengthOf(right) &&
+         AreaOf(ink) * area < -kOtherWay * area * area;
+}
+
+bool LooksLikeOtherLoop(std::span<const Point> ink, std::span<const Point> right) {
   const double length = LengthOf(right);
   if (length < kLeastLoop) return false;
   std::vector<Point> way = EvenlyAlong(right, kLoopPoints);
   const std::optional<Loop> loop = LoopOf(way, length / (kLoopPoints - 1));
   if (!loop) return false;
-  const Shape meant = Centred(ShapeOf(right));
-  const auto from = way.begin() + static_cast<std::ptrdiff_t>(loop->from);
-  const auto to = way.begin() + static_cast<std::ptrdiff_t>(loop->to);
-  std::reverse(from, to);
-  if (IsClearlyNearer(ink, Centred(ShapeOf(way)), meant)) return true;
-  way.erase(from, to);
-  return IsClearlyNearer(ink, Centred(ShapeOf(way)), meant);
+  const std::vector<Point> drawn = EvenlyAlong(ink, kLoopPoints);
+  const std::size_t count = loop->to - loop->from;
+  if (GoesOtherWayRound(std::span(drawn).subspan(loop->from, count),
+                        std::span(way).subspan(loop->from, count))) {
+    return true;
+  }
+  way.erase(way.begin() + static_cast<std::ptrdiff_t>(loop->from),
+            way.begin() + static_cast<std::ptrdiff_t>(loop->to));
+  return IsClearlyNearer(Centred(ShapeOf(ink)), Centred(ShapeOf(way)), Centred(ShapeOf(right)));
 }
 
 }  // namespace
 
-bool LooksLikeAnother(std::span<const Point> ink, std::span<const Point> right, OtherStroke next) {
-  const Shape drawn = ShapeOf(ink);
-  const Shape meant = ShapeOf(right);
-  if (!next.empty() && IsClearlyNearer(drawn, ShapeOf(next), meant)) return true;
-  const Shape drawnMiddle = Centred(drawn);
-  const Shape meantMiddle = Centred(meant);
-  for (const auto change : {&Backwards, &Mirrored, &TurnedOver}) {
-    if (IsClearlyNearer(drawnMiddle, Centred(change(meantMiddle)), meantMiddle)) return true;
+bool LooksLikeNext(std::span<const Point> ink, std::span<const Point> right,
+                   std::span<const Point> next) {
+  return !next.empty() && IsClearlyNearer(ShapeOf(ink), ShapeOf(next), ShapeOf(right));
+}
+
+bool LooksMisshapen(std::span<const Point> ink, std::span<const Point> right) {
+  const Shape drawn = Centred(ShapeOf(ink));
+  const Shape meant = Centred(ShapeOf(right));
+  for (const auto change : {&Backwards, &Mirrored, &TurnedOver, &Straight}) {
+    if (IsClearlyNearer(drawn, Centred(change(meant)), meant)) return true;
   }
-  return IsClearlyNearer(drawnMiddle, Centred(Straight(meantMiddle)), meantMiddle) ||
-         LooksLikeOtherLoop(drawnMiddle, right);
+  return LooksLikeOtherLoop(ink, right);
 }
 
 }  // namespace bramlee

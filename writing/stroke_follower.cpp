@@ -7,6 +7,9 @@ namespace {
 
 /// How far beyond the radius it looks ahead.
 constexpr double kLookAhead = 6;
+/// How much it keeps to what comes next on a stroke that goes over itself, as
+/// GuidePath::NearestTo().
+constexpr double kSlower = 0.05;
 /// How many times faster a pen that is back in the corridor makes up for what it went beside it.
 constexpr double kMakesUp = 2;
 /// How much wider the corridor is where the pen comes down; it narrows over the first radius of the
@@ -21,7 +24,8 @@ void StrokeFollower::GoOn(const GuidePath& path, const Point& place, double step
   const double gain = path.Between(from_, at_);
   const double off = std::max(0.0, 1 - gain / kComesBack);
   const Point meant{place.x - miss_.x * off, place.y - miss_.y * off};
-  const std::size_t nearest = path.NearestTo(meant, at_, path.IndexAfter(at_, radius + kLookAhead));
+  const std::size_t nearest =
+      path.NearestTo(meant, at_, path.IndexAfter(at_, radius + kLookAhead), kSlower);
   const double widened = kWiderAtStart - (kWiderAtStart - 1) * std::min(1.0, gain / radius);
   if (DistanceBetween(meant, path.Points()[nearest]) > radius * widened) {
     beside_ += step;

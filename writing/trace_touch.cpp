@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "writing/look_alikes.h"
+
 namespace bramlee {
 namespace {
 
 /// A pen that moves less keeps its place: at 240 points a second a hand that rests would make ink.
 constexpr double kGrain = 0.5;
 /// A pen that moves further in one go passed the places between.
-constexpr double kMostStep = 1.5;
+constexpr double kMostStep = 3;
 
 /// A stroke of this length is a dot: any small mark at its place is one.
 constexpr double kDot = 7;
@@ -130,15 +132,17 @@ bool TraceTouch::IsReversed(const GuidePath& path, double radius) const {
   return backwards + kClearly < forwards && backwards <= radius;
 }
 
-bool TraceTouch::IsDone(const GuidePath& path, OtherStroke next, const StrokeFollower& follower,
-                        double radius) const {
+bool TraceTouch::IsDone(const GuidePath& path, std::span<const Point> next,
+                        const StrokeFollower& follower, double radius) const {
   if (path.Length() <= kDot) return !follower.IsAstray();
   const auto way = path.Points().subspan(follower.From());
-  const bool isShort = path.Length() <= kShort;
-  return (isShort ? !follower.IsAstray() : IsAtEnd(path, follower.At(), radius)) &&
-         inkLength_ >= kLeastInk * path.Between(follower.From(), path.Last()) &&
-         DistanceBetween(latest_, way.back()) <= kLiftRadii * radius &&
-         !LooksLikeAnother(ink_, way, next);
+  if (inkLength_ < kLeastInk * path.Between(follower.From(), path.Last()) ||
+      DistanceBetween(latest_, way.back()) > kLiftRadii * radius ||
+      LooksLikeNext(ink_, way, next)) {
+    return false;
+  }
+  if (path.Length() <= kShort) return !follower.IsAstray() && !IsReversed(path, radius);
+  return IsAtEnd(path, follower.At(), radius) && !LooksMisshapen(ink_, way);
 }
 
 bool TraceTouch::HasComeFurther(const GuidePath& path, std::size_t written,
@@ -150,8 +154,8 @@ bool TraceTouch::HasComeFurther(const GuidePath& path, std::size_t written,
          inkLength_ >= kLeastInk * way;
 }
 
-TraceVerdict TraceTouch::Lift(const GuidePath& path, OtherStroke next, std::size_t written,
-                              const TraceRule& rule) {
+TraceVerdict TraceTouch::Lift(const GuidePath& path, std::span<const Point> next,
+                              std::size_t written, const TraceRule& rule) {
   if (latest_ != ink_.back()) TakeInk(path, rule.radius);
   if (!IsElsewhere() && IsScribble(path)) return TraceVerdict::Scribble;
   const auto isDone = [&](const StrokeFollower& follower) {

@@ -3,10 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "writing/guide_path.h"
-#include "writing/look_alikes.h"
 #include "writing/stroke_follower.h"
 
 namespace bramlee {
@@ -42,7 +42,7 @@ class TraceTouch {
   void Move(const GuidePath& path, const Point& place, const TraceRule& rule);
 
   /// What the touch has come to, now that the pen is lifted. `next` is the stroke that follows.
-  TraceVerdict Lift(const GuidePath& path, OtherStroke next, std::size_t written,
+  TraceVerdict Lift(const GuidePath& path, std::span<const Point> next, std::size_t written,
                     const TraceRule& rule);
   /// As far as which the stroke is written after that verdict.
   std::size_t WrittenAfter(const GuidePath& path, std::size_t written, const TraceRule& rule,
@@ -60,7 +60,7 @@ class TraceTouch {
   std::size_t Begin() const;
   bool IsScribble(const GuidePath& path) const;
   bool IsReversed(const GuidePath& path, double radius) const;
-  bool IsDone(const GuidePath& path, OtherStroke next, const StrokeFollower& follower,
+  bool IsDone(const GuidePath& path, std::span<const Point> next, const StrokeFollower& follower,
               double radius) const;
   bool HasComeFurther(const GuidePath& path, std::size_t written, const StrokeFollower& follower,
                       double radius) const;
