@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QScrollArea>
 #include <algorithm>
+#include <cmath>
 
 #include "board/book_letters.h"
 #include "board/companions.h"
@@ -45,17 +46,19 @@ Entry EntryOf(const Entry (&table)[Count], int index) {
   return table[index - 1];
 }
 
-/// The scale at which what is designed for `designed` pixels fills the view, in its middle.
-Scale ScaleInto(QSize view, QSize designed) {
-  const double factor = std::max(
-      std::min(1.0 * view.width() / designed.width(), 1.0 * view.height() / designed.height()),
-      kSmallestFactor);
-  const auto before = [factor](int room, int length) {
-    return std::max(static_cast<int>((room - length * factor) / 2), 0);
+/// The scale at which that part of a board as designed fills the view, in its middle.
+Scale ScaleInto(QSize view, const QRect& part) {
+  const double factor =
+      std::max(std::min(1.0 * view.width() / part.width(), 1.0 * view.height() / part.height()),
+               kSmallestFactor);
+  const auto origin = [factor](int room, int start, int length) {
+    const double before = std::max((room - length * factor) / 2, 0.0);
+    return static_cast<int>(std::floor(before - start * factor));
   };
   return {
       .factor = factor,
-      .origin = {before(view.width(), designed.width()), before(view.height(), designed.height())}
+      .origin = {origin(view.width(), part.left(), part.width()),
+                 origin(view.height(), part.top(), part.height())}
   };
 }
 
@@ -143,11 +146,16 @@ QRect Board::ReachOfAll() const {
 
 void Board::FitSheet() {
   QRect all = reach_;
+  QRect placed = reach_;
   for (const QObject* child : sheet_->children()) {
     const auto* control = qobject_cast<const QWidget*>(child);
-    if (control != nullptr) all = all.united(PixelsOf(PlaceOf(control)));
+    if (control == nullptr) continue;
+    const QRect pixels = PixelsOf(PlaceOf(control));
+    all = all.united(pixels);
+    if (IsPlaced(control)) placed = placed.united(pixels);
   }
-  designed_ = {all.right() + kEdge, all.bottom() + kEdge};
+  scrolled_ = {all.right() + kEdge, all.bottom() + kEdge};
+  fitted_ = placed.adjusted(-kEdge, -kEdge, kEdge, kEdge) & QRect({}, scrolled_);
   ScaleSheet();
 }
 
@@ -157,9 +165,9 @@ void Board::SetFitsWindow(bool on) {
 }
 
 void Board::ScaleSheet() {
-  if (designed_.isEmpty()) return;  // not laid out yet
-  sheet_->setMinimumSize(fitsWindow_ ? designed_ * kSmallestFactor : designed_);
-  SetScale(sheet_, fitsWindow_ ? ScaleInto(scroller_->maximumViewportSize(), designed_) : Scale());
+  if (fitted_.isEmpty()) return;  // not laid out yet
+  sheet_->setMinimumSize(fitsWindow_ ? fitted_.size() * kSmallestFactor : scrolled_);
+  SetScale(sheet_, fitsWindow_ ? ScaleInto(scroller_->maximumViewportSize(), fitted_) : Scale());
 }
 
 void Board::BringIntoView(const StrokeRec& rec) {

@@ -163,7 +163,8 @@ class Board : public Form {
   Strip* strip_ = nullptr;
   QRect reach_;
   bool wantsBook_ = false;
-  QSize designed_;  ///< of the sheet with all that is on it; empty before it is laid out
+  QSize scrolled_;  ///< of the sheet as designed, with all that is on it
+  QRect fitted_;    ///< its part that a window shows which the board fits; empty before Form_Load
   bool fitsWindow_ = false;
 };
 

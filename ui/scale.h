@@ -12,7 +12,8 @@ namespace bramlee {
 /// from `origin`.
 struct Scale {
   double factor = 1;
-  QPoint origin;  ///< where the design's top left corner lies, in pixels of the ground
+  QPoint
+      origin;  ///< where the design's top left corner lies, in the ground's pixels; maybe outside
 
   friend bool operator==(const Scale&, const Scale&) = default;
 };

@@ -76,6 +76,10 @@ void PlaceAnew(QWidget* control) {
   if (const auto place = KeptPlace(control)) Place(control, *place);
 }
 
+bool IsPlaced(const QWidget* control) {
+  return KeptPlace(control).has_value();
+}
+
 TwipsRect PlaceOf(const QWidget* control) {
   const Scale scale = ScaleOf(control->parentWidget());
   const QRect pixels = control->geometry();

@@ -33,6 +33,9 @@ void MoveTo(QWidget* control, double left, double top);  ///< its size stays
 /// Puts a control that was placed where its place lies at its ground's present scale.
 void PlaceAnew(QWidget* control);
 
+/// Whether the control was ever placed.
+bool IsPlaced(const QWidget* control);
+
 /// Where the control stands, in twips as designed: as placed, or worked out from its pixels.
 TwipsRect PlaceOf(const QWidget* control);
 
