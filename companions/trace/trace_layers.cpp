@@ -1,12 +1,12 @@
 #include "companions/trace/trace_layers.h"
 
-#include <QFont>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "ink/stamps.h"
+#include "ink/stroke_signs.h"
 
 namespace bramlee {
 namespace {
@@ -45,10 +45,6 @@ QPolygonF DotsAlong(const QPolygonF& line) {
     due = along - length;
   }
   return dots;
-}
-
-QPointF PlaceOf(const Point& point) {
-  return {point.x, point.y};
 }
 
 }  // namespace
@@ -120,32 +116,8 @@ void TraceMarks::PaintWay(QPainter& painter) const {
   painter.setBrush(kStart);
   const double radius = kStartRadius + pulse_ * kPulseGrowth;
   painter.drawEllipse(way_->rest.front(), radius, radius);
-  PaintNumber(painter);
-  if (!way_->arrow.IsDrawn()) return;
-  QPolygonF shaft;
-  for (const Point& point : way_->arrow.shaft) shaft << PlaceOf(point);
-  painter.setPen(RoundPen(kMark, 2));
-  painter.drawPolyline(shaft);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(kMark);
-  QPolygonF head;
-  for (const Point& point : way_->arrow.head) head << PlaceOf(point);
-  painter.drawPolygon(head);
-  painter.setBrush(Qt::NoBrush);
-}
-
-void TraceMarks::PaintNumber(QPainter& painter) const {
-  if (way_->numberRadius == 0) return;
-  painter.setPen(QPen(kMark, 1));
-  painter.setBrush(Qt::white);
-  painter.drawEllipse(way_->numberAt, way_->numberRadius, way_->numberRadius);
-  QFont font = painter.font();
-  font.setPixelSize(static_cast<int>(1.4 * way_->numberRadius));
-  painter.setFont(font);
-  const double side = 2 * way_->numberRadius;
-  QRectF disc(0, 0, side, side);
-  disc.moveCenter(way_->numberAt);
-  painter.drawText(disc, Qt::AlignCenter, QString::number(way_->number));
+  PaintArrow(painter, way_->sign.arrow, {});
+  PaintNumber(painter, way_->number, way_->sign, {});
 }
 
 void TraceMarks::PaintInk(QPainter& painter) const {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "board/sheet.h"
-#include "strokes/stroke_arrow.h"
+#include "strokes/stroke_numbers.h"
 
 namespace bramlee {
 
@@ -30,16 +30,14 @@ class TraceGuide : public SheetLayer {
 /// change says which part of the sheet it touches.
 class TraceMarks : public SheetLayer {
  public:
-  /// The way that is on: a dotted line along `rest`, the start dot at its beginning, the arrow.
+  /// The way that is on: a dotted line along `rest`, the start dot at its beginning, and the sign
+  /// of the stroke; without a number where the way goes on in the stroke's middle.
   struct Way {
     QPolygonF rest;
-    StrokeArrow arrow;
-    std::size_t number = 0;   ///< of the stroke in its letter, from 1
-    QPointF numberAt;         ///< the centre of its disc
-    double numberRadius = 0;  ///< 0 for none
+    int number = 0;  ///< of the stroke in its letter, from 1
+    StrokeNumber sign;
   };
   void SetWay(std::optional<Way> way) { way_ = std::move(way); }
-  const std::optional<Way>& TheWay() const { return way_; }
   /// How much larger the start dot is for now, 0 to 1.
   void SetPulse(double pulse) { pulse_ = pulse; }
 
@@ -53,8 +51,6 @@ class TraceMarks : public SheetLayer {
   void WipeInk();
   /// Around the last stretch of ink.
   QRectF LastInk() const;
-  /// How many touches have left ink that is seen.
-  std::size_t Inks() const { return inks_.size(); }
 
   void Paint(QPainter& painter) const override;
 
@@ -66,7 +62,6 @@ class TraceMarks : public SheetLayer {
   };
 
   void PaintWay(QPainter& painter) const;
-  void PaintNumber(QPainter& painter) const;
   void PaintInk(QPainter& painter) const;
 
   std::optional<Way> way_;

@@ -18,8 +18,6 @@ const QString kLeftHand = QString::fromLatin1(kLeftHandChoice);
 const QString kByClicks = QStringLiteral("trace/byClicks");
 const QString kGiven = QStringLiteral("trace/given");
 
-constexpr int kFrameMs = 20;
-
 /// A child's finger or hand misses by so much on any screen.
 constexpr double kLeastRadiusMm = 4;
 constexpr double kMmPerInch = 25.4;
@@ -29,12 +27,6 @@ constexpr double kMostDpi = 600;
 
 /// A tag for what cannot be written for lack of memory.
 const QString kTag = QStringLiteral("tra:01");
-
-QPolygonF LineOf(const std::vector<Point>& points) {
-  QPolygonF line;
-  for (const Point& point : points) line << QPointF(point.x, point.y);
-  return line;
-}
 
 Point PointOf(QPointF place) {
   return {place.x(), place.y()};
@@ -59,6 +51,7 @@ Tracing::Tracing(Board& board)
     : board_(board),
       sheet_(board.sheet()),
       pen_(board.pen()),
+      view_(sheet_),
       star_(sheet_, this),
       input_(sheet_,
              {.down = [this](QPointF place) { Down(place); },
@@ -66,20 +59,20 @@ Tracing::Tracing(Board& board)
               .up = [this] { Trap(kTag, [this](ErrInfo&) { Up(); }); },
               .cancel = [this] { Cancel(); }},
              this) {
-  sheet_.AddLayerBeneath(guide_);
-  sheet_.AddLayerAbove(marks_);
   MakeButtons();
   space_ = new QShortcut(Qt::Key_Space, &board);
   space_->setAutoRepeat(false);
   space_->setEnabled(false);
   connect(space_, &QShortcut::activated, this,
           [this] { Trap(kTag, [this](ErrInfo&) { WriteNextForChild(); }); });
-  frames_.setInterval(kFrameMs);
-  connect(&frames_, &QTimer::timeout, this, [this] { MoveOn(); });
   connect(&pen_, &BoardPen::Changed, this, [this] { FollowPen(); });
-  connect(&pen_, &BoardPen::Wiped, this, [this] { marks_.WipeInk(); });
+  connect(&pen_, &BoardPen::Wiped, this, [this] { view_.WipeInk(); });
   connect(&board_, &Board::DrawAllStarts, this, [this] { SwitchOn(false); });
-  connect(&Choices::Instance(), &Choices::Changed, this, [this] { FollowChoices(); });
+  connect(&Choices::Instance(), &Choices::Changed, this, [this](const QString& name) {
+    if (name == kLevel) FollowLevel();
+    if (name == kLeftHand || name == kByClicks || name == kGiven) FollowChoices();
+  });
+  FollowLevel();
   FollowChoices();
 }
 
@@ -134,8 +127,7 @@ void Tracing::SwitchOn(bool on) {
   board_.WantBookLetters(on && !given_->isChecked());
   input_.SwitchOn(on);
   pen_.SetTaker(on ? [] { return true; } : std::function<bool()>());
-  StopMoving();
-  if (!on) marks_.WipeInk();
+  if (!on) view_.WipeInk();
   Restart();
 }
 
@@ -144,7 +136,7 @@ void Tracing::NextLevel() {
   Choices::Instance().Choose(kLevel, QString::fromLatin1(NameOf(kTraceLevels[next])));
 }
 
-void Tracing::FollowChoices() {
+void Tracing::FollowLevel() {
   const Choices& choices = Choices::Instance();
   const std::string name = choices.Of(kLevel, QStringLiteral("normal")).toString().toStdString();
   const TraceLevel level = TraceLevelNamed(name).value_or(TraceLevel::Normal);
@@ -153,6 +145,10 @@ void Tracing::FollowChoices() {
   level_->setAccessibleName(text);
   level_->setToolTip(text);
   level_->setIcon(LevelPicture(level));
+}
+
+void Tracing::FollowChoices() {
+  const Choices& choices = Choices::Instance();
   hand_->setChecked(choices.Of(kLeftHand, false).toBool());
   clicks_->setChecked(choices.Of(kByClicks, false).toBool());
   given_->setChecked(choices.Of(kGiven, false).toBool());
@@ -189,8 +185,8 @@ void Tracing::Restart() {
   }
   tracer_ = Tracer(std::move(strokes), tracer_.Level());
   space_->setEnabled(!tracer_.IsFinished());
-  StopMoving();
-  ShowGuide();
+  view_.Stop();
+  view_.ShowGuide(tracer_.Strokes(), LetterColour(), ColourOf(board_.record().backColor));
   ShowWay();
 }
 
@@ -227,9 +223,8 @@ void Tracing::WriteDoneStroke(Target target) {
 /// The pen writes it for all to see. It may be paused meanwhile, and the stroke is then on again.
 void Tracing::WriteStrokeForChild(Target target) {
   writing_ = true;
-  guide_.Hide();
-  marks_.SetWay({});
-  sheet_.UpdateBeneath();
+  view_.HideGuide();
+  view_.HideWay();
   do pen_.StrokeOn();
   while (!IsWritten(target) && !pen_.Stands().begun && on_);
   writing_ = false;
@@ -263,12 +258,11 @@ void Tracing::EndLetter(std::size_t letter) {
 
 void Tracing::Down(QPointF place) {
   if (tracer_.IsFinished()) return;
-  StopMoving();
+  view_.Stop();
   const QPointF onSheet = sheet_.ToSheet(place);
-  marks_.BeginInk(onSheet);
+  view_.BeginInk(onSheet);
   tracer_.SetLeastRadius(LeastRadius());
   tracer_.Down(PointOf(onSheet));
-  sheet_.update();
 }
 
 void Tracing::Move(QPointF place) {
@@ -276,13 +270,11 @@ void Tracing::Move(QPointF place) {
   if (before == TracePen::Up) return;
   const QPointF onSheet = sheet_.ToSheet(place);
   tracer_.Move(PointOf(onSheet));
-  if (tracer_.Pen() == TracePen::Astray) {
-    if (before == TracePen::Astray) return;
+  if (tracer_.Pen() != TracePen::Astray) {
+    view_.GoOnWithInk(onSheet);
+  } else if (before != TracePen::Astray) {
     ShowWay();  // where to go on
-    return;
   }
-  marks_.GoOnWithInk(onSheet);
-  sheet_.update(sheet_.FromSheet().mapRect(marks_.LastInk()).toAlignedRect());
 }
 
 void Tracing::Up() {
@@ -291,7 +283,7 @@ void Tracing::Up() {
   if (!judgement) return;
   const bool isMiss =
       judgement->verdict != TraceVerdict::Done && judgement->verdict != TraceVerdict::Resume;
-  marks_.EndInk(isMiss);
+  view_.EndInk(isMiss);
   if (judgement->verdict == TraceVerdict::Done) return WriteDoneStroke(targets_[stroke]);
   if (judgement->help == TraceHelp::Written) return WriteStrokeForChild(targets_[stroke]);
   ShowWay();
@@ -301,7 +293,7 @@ void Tracing::Up() {
 void Tracing::Cancel() {
   if (tracer_.Pen() == TracePen::Up) return;
   tracer_.Cancel();
-  marks_.EndInk(true);
+  view_.EndInk(true);
   ShowWay();
 }
 
@@ -309,9 +301,9 @@ void Tracing::Help(const TraceJudgement& judgement) {
   switch (judgement.help) {
     case TraceHelp::Pulse:
     case TraceHelp::Wider:
-      return StartMoving(Moves::Pulse);
+      return view_.Pulse();
     case TraceHelp::Show:
-      return StartMoving(Moves::Show);
+      return view_.ShowStroke(tracer_.Strokes()[tracer_.Stroke()], LetterColour());
     default:
       return;
   }
@@ -326,86 +318,16 @@ void Tracing::WriteNextForChild() {
 
 // --- what is seen
 
+void Tracing::ShowWay() {
+  if (tracer_.IsFinished()) return view_.HideWay();
+  const std::size_t stroke = tracer_.Stroke();
+  view_.ShowWay(tracer_, static_cast<int>(targets_[stroke].stroke) + 1, numbers_[stroke],
+                TheHand());
+}
+
 QColor Tracing::LetterColour() const {
   const auto letters = pen_.Letters().Letters();
   return ColourOf(targets_.empty() ? kPenColour : letters[targets_.front().letter].colour);
-}
-
-void Tracing::ShowGuide() {
-  constexpr double kShare = 0.24;  // of the letter's colour; the rest is the ground
-  const QColor colour = LetterColour();
-  const QColor ground = ColourOf(board_.record().backColor);
-  const auto mixed = [&](int part, int groundPart) {
-    return static_cast<int>(std::lround(kShare * part + (1 - kShare) * groundPart));
-  };
-  std::vector<QPolygonF> lines;
-  for (const GuideStroke& stroke : tracer_.Strokes()) lines.push_back(LineOf(stroke.points));
-  guide_.Show(std::move(lines),
-              QColor(mixed(colour.red(), ground.red()), mixed(colour.green(), ground.green()),
-                     mixed(colour.blue(), ground.blue())));
-  sheet_.UpdateBeneath();
-}
-
-void Tracing::ShowWay() {
-  sheet_.update();
-  if (tracer_.IsFinished()) return marks_.SetWay({});
-  const std::vector<Point>& points = tracer_.Strokes()[tracer_.Stroke()].points;
-  const auto last = static_cast<double>(points.size() - 1);
-  const std::ptrdiff_t from = std::lround(tracer_.Progress() * last);
-  StrokePath rest{
-      .points = {points.begin() + from, points.end()}
-  };
-  rest.length = PathOf({.points = rest.points}).length;
-  constexpr double kArrowLength = 26;
-  constexpr double kAside = 16;
-  const double aside = hand_->isChecked() ? kAside : -kAside;
-  const StrokeNumber& number = numbers_[tracer_.Stroke()];
-  marks_.SetWay(TraceMarks::Way{
-      .rest = LineOf(rest.points),
-      .arrow = from == 0 ? number.arrow
-                         : ArrowAlong(rest, {.from = 4, .length = kArrowLength, .aside = aside}),
-      .number = targets_[tracer_.Stroke()].stroke + 1,
-      .numberAt = from == 0 ? QPointF(number.centre.x, number.centre.y) : QPointF(),
-      .numberRadius = from == 0 ? number.radius : 0});
-}
-
-void Tracing::StartMoving(Moves moves) {
-  moves_ = moves;
-  frame_ = 0;
-  frames_.start();
-}
-
-void Tracing::StopMoving() {
-  frames_.stop();
-  moves_ = Moves::None;
-  marks_.SetPulse(0);
-  marks_.SetShown({}, {});
-  sheet_.update();
-}
-
-/// The start dot pulses three times; a stroke is shown at a quarter of the pen's pace.
-void Tracing::MoveOn() {
-  constexpr int kPulseFrames = 25;
-  constexpr int kPulses = 3;
-  constexpr int kRestFrames = 20;
-  constexpr double kPixelsPerFrame = 3.2;
-  ++frame_;
-  if (tracer_.IsFinished()) return StopMoving();
-  if (moves_ == Moves::Pulse) {
-    if (frame_ >= kPulseFrames * kPulses) return StopMoving();
-    marks_.SetPulse(std::pow(std::sin(M_PI * frame_ / kPulseFrames), 2));
-    return sheet_.update();
-  }
-  const std::vector<Point>& points = tracer_.Strokes()[tracer_.Stroke()].points;
-  const auto shown = static_cast<std::size_t>(frame_ * kPixelsPerFrame);
-  if (shown > points.size() + static_cast<std::size_t>(kRestFrames * kPixelsPerFrame)) {
-    return StopMoving();
-  }
-  QColor colour = LetterColour();
-  colour.setAlphaF(0.7F);
-  const auto count = static_cast<std::ptrdiff_t>(std::min(shown, points.size()));
-  marks_.SetShown(LineOf({points.begin(), points.begin() + count}), colour);
-  sheet_.update();
 }
 
 double Tracing::LeastRadius() const {

@@ -4,7 +4,6 @@
 #include <QObject>
 #include <QPointF>
 #include <QShortcut>
-#include <QTimer>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -13,7 +12,7 @@
 #include "board/strip.h"
 #include "companions/trace/stars.h"
 #include "companions/trace/trace_input.h"
-#include "companions/trace/trace_layers.h"
+#include "companions/trace/trace_view.h"
 #include "strokes/stroke_numbers.h"
 #include "writing/tracer.h"
 
@@ -22,8 +21,8 @@ namespace bramlee {
 /// While on, letters that join the board's page are not written by the pen but laid as pale guides.
 /// The child writes their strokes one by one; each that is done is written by the pen at once, in
 /// the letter's colour, so that the sheet then holds the same dots as ever. Draw All, and a pen
-/// that is told to go on by itself, end it. The guides are the letters of the book, unless a teacher
-/// wants those that the board has.
+/// that is told to go on by itself, end it. The guides are the letters of the book, unless a
+/// teacher wants those that the board has.
 class Tracing : public QObject {
   Q_OBJECT
  public:
@@ -35,12 +34,11 @@ class Tracing : public QObject {
     std::size_t letter = 0;
     std::size_t stroke = 0;  ///< of the letter
   };
-  enum class Moves : std::uint8_t { None, Pulse, Show };
-
   void MakeButtons();
   void SwitchOn(bool on);
   void NextLevel();
   void FollowChoices();
+  void FollowLevel();
 
   // --- the pen and the page
   void FollowPen();
@@ -60,14 +58,10 @@ class Tracing : public QObject {
   void Help(const TraceJudgement& judgement);
   void WriteNextForChild();
 
-  // --- what is seen
-  void ShowGuide();
   void ShowWay();
-  void StartMoving(Moves moves);
-  void StopMoving();
-  void MoveOn();
   QColor LetterColour() const;
   double LeastRadius() const;
+  Hand TheHand() const { return hand_->isChecked() ? Hand::Left : Hand::Right; }
 
   Board& board_;
   Sheet& sheet_;
@@ -79,8 +73,7 @@ class Tracing : public QObject {
   StripButton* given_ = nullptr;
   QShortcut* space_ = nullptr;
 
-  TraceGuide guide_;
-  TraceMarks marks_;
+  TraceView view_;
   SheetStar star_;
   TileStars tileStars_;
   TraceInput input_;
@@ -94,10 +87,6 @@ class Tracing : public QObject {
   std::uint64_t edition_ = 0;
   std::size_t letters_ = 0;
   int helped_ = 0;  ///< strokes of the present letter that the pen wrote
-
-  Moves moves_ = Moves::None;
-  int frame_ = 0;
-  QTimer frames_;
 };
 
 }  // namespace bramlee
