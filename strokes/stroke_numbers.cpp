@@ -279,7 +279,7 @@ StrokeArrow Placer::ArrowBeside(std::size_t stroke, double side) const {
   const double radius = rule_.discRadius;
   for (const double length : kArrowLengths) {
     for (double tail = 0; tail <= kLatestTail; tail += kTailStep) {
-      const StrokeArrow arrow = ArrowAlong(
+      StrokeArrow arrow = ArrowAlong(
           strokes_[stroke], {.from = tail * radius,
                              .length = length * radius,
                              .aside = side * (rule_.penHalfWidth + kArrowGap + headHalfWidth_),
@@ -293,10 +293,10 @@ StrokeArrow Placer::ArrowBeside(std::size_t stroke, double side) const {
 StrokeArrow Placer::ArrowOn(std::size_t stroke) const {
   for (const double inLine : {kHeadInLineOnInk, kHeadInLine}) {
     for (const double length : kArrowLengths) {
-      const StrokeArrow arrow = ArrowAlong(strokes_[stroke], {.from = 0,
-                                                              .length = length * rule_.discRadius,
-                                                              .aside = 0,
-                                                              .headHalfWidth = headHalfWidth_});
+      StrokeArrow arrow = ArrowAlong(strokes_[stroke], {.from = 0,
+                                                        .length = length * rule_.discRadius,
+                                                        .aside = 0,
+                                                        .headHalfWidth = headHalfWidth_});
       if (HeadIsInLine(arrow, inLine)) return arrow;
     }
   }
