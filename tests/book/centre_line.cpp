@@ -50,7 +50,7 @@ class Ink {
   explicit Ink(const QImage& picture)
       : width_(picture.width()),
         height_(picture.height()),
-        cells_(static_cast<std::size_t>(width_ * height_)) {
+        cells_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_)) {
     for (int y = 1; y + 1 < height_; ++y) {
       for (int x = 1; x + 1 < width_; ++x) {
         cells_[Index(x, y)] = picture.constScanLine(y)[x] < 128;

@@ -165,7 +165,7 @@ class Grid {
         cell_(cell),
         columns_(static_cast<int>(frame.width / cell) + 2 * kMargin),
         rows_(static_cast<int>(frame.height / cell) + 2 * kMargin),
-        cells_(static_cast<std::size_t>(columns_ * rows_)) {}
+        cells_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_)) {}
 
   /// A disc of that radius, in cells, on each point.
   void Paint(const CentreLine& line, double radius, unsigned char colour) {
