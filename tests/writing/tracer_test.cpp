@@ -233,6 +233,46 @@ TEST(TracerTest, TakesAStrokeThatEndsALittleShort) {
   EXPECT_EQ(VerdictOf(tooLittle, To(83)), TraceVerdict::Resume);
 }
 
+TEST(TracerTest, TakesAShareOfAShortOrLongStrokeForItsEnd) {
+  const auto verdictOf = [](double length, double drawn) {
+    Tracer tracer = Of(To(length));
+    return VerdictOf(tracer, To(drawn));
+  };
+  EXPECT_EQ(verdictOf(40, 29), TraceVerdict::Done);
+  EXPECT_EQ(verdictOf(40, 27), TraceVerdict::Resume);
+  EXPECT_EQ(verdictOf(300, 277), TraceVerdict::Done);
+  EXPECT_EQ(verdictOf(300, 275), TraceVerdict::Resume);
+}
+
+TEST(TracerTest, CountsTheLastLittleMoveBeforeThePenIsLifted) {
+  Tracer tracer = Of(kBar);
+  EXPECT_EQ(VerdictOf(tracer,
+                      {
+                          {0,    0},
+                          {83.3, 0},
+                          {83.7, 0}
+  }),
+            TraceVerdict::Done);
+}
+
+TEST(TracerTest, TakesAShortStrokeForItsPlaceLengthAndDirection) {
+  const Way dash = To(12);
+  Tracer right = Of(dash);
+  EXPECT_EQ(VerdictOf(right, Moved(dash, 3, 8)), TraceVerdict::Done);
+  Tracer reversed = Of(dash);
+  EXPECT_EQ(VerdictOf(reversed, Backwards(dash)), TraceVerdict::Reversed);
+  Tracer half = Of(dash);
+  EXPECT_EQ(VerdictOf(half, To(6)), TraceVerdict::Resume);
+  Tracer leaves = Of(dash);
+  EXPECT_EQ(VerdictOf(leaves,
+                      {
+                          {0,  0 },
+                          {0,  40},
+                          {12, 23}
+  }),
+            TraceVerdict::Scribble);
+}
+
 TEST(TracerTest, SaysTheSameHoweverFarApartThePointsAre) {
   const Way arc = Arc({0, 0}, 50, 180, 360);
   for (const std::size_t every : {1U, 3U, 9U}) {
@@ -486,6 +526,34 @@ TEST(TracerTest, CountsATouchThatComesNoFurtherAsAMiss) {
   EXPECT_EQ(VerdictOf(tracer, To(50)), TraceVerdict::Astray);
   EXPECT_EQ(tracer.Misses(), 2);
   EXPECT_NEAR(tracer.Progress(), 0.5, 0.01);
+}
+
+TEST(TracerTest, GoesOnFromATouchThatHasComeALittleWay) {
+  const Way tick{
+      {0,  0},
+      {30, 0}
+  };
+  Tracer longStroke = Of(kBar);
+  EXPECT_EQ(VerdictOf(longStroke, To(10)), TraceVerdict::Resume);
+  Tracer little = Of(kBar);
+  EXPECT_EQ(VerdictOf(little, To(6)), TraceVerdict::Astray);
+  Tracer shortStroke = Of(tick);
+  EXPECT_EQ(VerdictOf(shortStroke, To(7)), TraceVerdict::Resume);
+}
+
+TEST(TracerTest, DoesNotGoOnFromATouchThatEndsBeforeWhatIsWritten) {
+  Tracer tracer = Of(kBar);
+  Draw(tracer, To(50));
+  EXPECT_EQ(VerdictOf(tracer, To(30)), TraceVerdict::Astray);
+  EXPECT_NEAR(tracer.Progress(), 0.5, 0.01);
+}
+
+TEST(TracerTest, KeepsNothingOfAScribble) {
+  Tracer tracer = Of(kBar);
+  Way scribble = To(50);
+  for (int i = 0; i < 40; ++i) scribble.push_back({50, i % 2 == 0 ? 10.0 : 0.0});
+  EXPECT_EQ(VerdictOf(tracer, scribble), TraceVerdict::Scribble);
+  EXPECT_EQ(tracer.Progress(), 0);
 }
 
 TEST(TracerTest, IsNotFinishedByTapsAlongTheStroke) {
