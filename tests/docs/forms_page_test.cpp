@@ -6,7 +6,13 @@
 
 #include "app/subjects.h"
 #include "board/board.h"
+#include "board/companions.h"
 #include "card/card.h"
+#include "companions/book/book.h"
+#include "companions/fit/fit.h"
+#include "companions/numbers/numbers.h"
+#include "companions/trace/trace.h"
+#include "companions/watch/watch.h"
 #include "home/home.h"
 #include "maths/maths.h"
 #include "media/media.h"
@@ -80,6 +86,14 @@ class FormsPage : public TempDrives {
     RegisterMedia();
     RegisterBoards();
     RegisterMaths();
+    static const bool added = [] {
+      for (const Companion each :
+           {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch}) {
+        AddCompanion(each);
+      }
+      return true;
+    }();
+    ASSERT_TRUE(added);
     sections_ = TextOfSource("docs/forms.md").split(QStringLiteral("\n## "));
   }
   void TearDown() override {
