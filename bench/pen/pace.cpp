@@ -1,5 +1,6 @@
 // Writes the alphabet on the capitals board, on a display and at the pen's pace, and tells for
 // each letter how long it should have taken, how long it took, and what of a processor it used.
+// With the argument "strip" the board has one, and the hand on the pen.
 #include "board/pace.h"
 
 #include <sys/resource.h>
@@ -12,6 +13,8 @@
 #include <string>
 
 #include "board/board.h"
+#include "board/companions.h"
+#include "companions/watch/watch.h"
 #include "engine/drawing_surface.h"
 #include "files/environment.h"
 #include "ui/forms.h"
@@ -89,6 +92,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   const Environment environment;
   RegisterBoards();
+  if (QApplication::arguments().contains(QStringLiteral("strip"))) AddCompanion(AddWatching);
   auto* board = static_cast<Board*>(LoadForm(QStringLiteral("fbrmengc02")));
   board->Present();
   // Until the window manager has placed the window.
