@@ -1,8 +1,9 @@
 // The capitals board in a program that prints, line by line, what reaches it. Beside the board
 // stand a text box, a window with a button, and a handler that asks between two strokes.
 //
-//   watched_board STEP [WIDTHxHEIGHT]
+//   watched_board STEP [WIDTHxHEIGHT] [strip]
 //
+// With "strip" the board has one, with the hand on the pen; "paused" and "runs" tell of the pen.
 // It begins with places on the screen, that of the sheet in its window, in device pixels.
 // Lines it reads: "call NAME" comes back by another thread, as a queued call to the form;
 // "save FILE" saves the picture of the sheet's dots.
@@ -12,14 +13,18 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <cstdio>
 #include <iostream>
 #include <string>
 #include <thread>
+#include <utility>
 
 #include "board/board.h"
+#include "board/companions.h"
+#include "companions/watch/watch.h"
 #include "engine/run.h"
 #include "ui/forms.h"
 #include "ui/message_box.h"
@@ -108,6 +113,7 @@ class WatchedBoard {
     board_ = static_cast<Board*>(LoadForm(QStringLiteral("fbrmengc02")));
     board_->SetText(QStringLiteral("txtspd"), step);
     WatchTiles();
+    WatchPen();
     AddControls();
     other_ = static_cast<OtherWindow*>(LoadForm(QStringLiteral("other")));
     if (size.isEmpty()) {
@@ -143,6 +149,15 @@ class WatchedBoard {
     QObject::connect(board_, &QObject::destroyed, [] { Say(QStringLiteral("gone")); });
   }
 
+  void WatchPen() {
+    QObject::connect(&board_->pen(), &BoardPen::Changed, board_, [this] {
+      const bool paused = board_->pen().IsPaused();
+      if (paused != std::exchange(paused_, paused)) {
+        Say(paused ? QStringLiteral("paused") : QStringLiteral("runs"));
+      }
+    });
+  }
+
   void AddControls() {
     text_ = new QLineEdit(&board_->sheet());
     text_->setGeometry(20, 540, 200, 30);
@@ -167,6 +182,11 @@ class WatchedBoard {
     settling_.stop();
     for (int i = 1; i <= 26; ++i) {
       SayPlace(QStringLiteral("tile %1").arg(i), board_->Tile(i));
+    }
+    for (const QToolButton* button : board_->findChildren<QToolButton*>()) {
+      if (button->objectName().startsWith(QStringLiteral("strip_"))) {
+        SayPlace(button->objectName(), button);
+      }
     }
     SayPlace(QStringLiteral("text"), text_);
     SayPlace(QStringLiteral("asks"), asks_);
@@ -198,6 +218,7 @@ class WatchedBoard {
   OtherWindow* other_;
   QLineEdit* text_;
   QPushButton* asks_;
+  bool paused_ = false;
   QTimer settling_;
   QElapsedTimer settled_;
   QRect place_;
@@ -227,7 +248,8 @@ int main(int argc, char** argv) {
   qApp->installEventFilter(new Watch(qApp));
   const QStringList arguments = QApplication::arguments();
   QSize size;
-  if (arguments.size() > 2) {
+  if (arguments.contains(QStringLiteral("strip"))) AddCompanion(AddWatching);
+  if (arguments.size() > 2 && arguments[2].contains(u'x')) {
     size = {arguments[2].section(u'x', 0, 0).toInt(), arguments[2].section(u'x', 1).toInt()};
   }
   Environment environment;
