@@ -28,8 +28,8 @@ void Keep(Album& album, const QString& name, const QImage& picture, int quality 
 }
 
 /// How many times as many pixels a large picture has, each way. A board that fits a window of 3840
-/// by 2160 pixels is up to 3.44 times as large as designed; at a pixel ratio of 2 a tile 60 by 55
-/// pixels large then takes 413 by 378 of the screen's.
+/// by 2160 pixels is up to 3.7 times as large as designed; at a pixel ratio of 2 the picture of a
+/// tile 60 by 55 pixels large then takes 400 by 363 of the screen's.
 constexpr double kLarger = 1.75;
 
 /// The colours of drawing in two inks on that ground: the inks, and what lies between each and the
