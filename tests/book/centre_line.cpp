@@ -75,7 +75,9 @@ class Ink {
   }
 
  private:
-  std::size_t Index(int x, int y) const { return static_cast<std::size_t>(y * width_ + x); }
+  std::size_t Index(std::ptrdiff_t x, std::ptrdiff_t y) const {
+    return static_cast<std::size_t>(y * width_ + x);
+  }
 
   /// From the cell above, clockwise.
   std::array<bool, 8> Around(int x, int y) const {

@@ -193,7 +193,7 @@ class Grid {
  private:
   static constexpr int kMargin = 40;
 
-  void Mark(int column, int row, unsigned char colour) {
+  void Mark(std::ptrdiff_t column, std::ptrdiff_t row, unsigned char colour) {
     if (column < 0 || column >= columns_ || row < 0 || row >= rows_) return;
     cells_[static_cast<std::size_t>(row * columns_ + column)] |= colour;
   }
