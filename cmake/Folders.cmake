@@ -12,6 +12,8 @@ function(bramlee_folder name)
       # Q_OBJECT stands in classes of windows alone; a search elsewhere would only take its time.
       set_target_properties(bramlee_${name} PROPERTIES AUTOMOC ON)
       bramlee_precompile(bramlee_${name} bramlee_window_headers)
+    else()
+      bramlee_precompile(bramlee_${name} bramlee_core_headers)
     endif()
   else()
     target_link_libraries(bramlee_${name} PRIVATE bramlee_options)

@@ -12,18 +12,27 @@ function(bramlee_precompiled name)
   set(source ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
   file(CONFIGURE OUTPUT ${source} CONTENT "")
   add_library(${name} OBJECT ${source})
-  target_link_libraries(${name} PRIVATE ${arg_LINKS} bramlee_qt_options)
+  target_link_libraries(${name} PRIVATE ${arg_LINKS})
   target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
 endfunction()
 
-# bramlee_precompile(TARGET NAME): has the target's sources begin with that set.
+# bramlee_precompile(TARGET NAME): has the target's sources begin with that set. The compiler takes
+# it only where the definitions are the same, so the target links what the set does; where they
+# differ nevertheless it warns and reads the headers themselves.
 function(bramlee_precompile target name)
   if(BRAMLEE_PRECOMPILE)
+    get_target_property(links ${name} LINK_LIBRARIES)
+    target_link_libraries(${target} PRIVATE ${links})
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-error=invalid-pch>)
     target_precompile_headers(${target} REUSE_FROM ${name})
   endif()
 endfunction()
 
+bramlee_precompiled(bramlee_core_headers
+  HEADERS <QCoreApplication> <QDir> <QFileInfo> <QHash> <QString> <QStringList> <algorithm> <cmath>
+          <functional> <memory> <optional> <vector>
+  LINKS Qt6::Core bramlee_qt_options)
 bramlee_precompiled(bramlee_window_headers
   HEADERS <QAction> <QApplication> <QComboBox> <QLabel> <QLineEdit> <QMainWindow> <QMenu> <QMenuBar>
           <QPainter> <QTimer> <algorithm> <cmath> <functional> <memory> <optional> <vector>
-  LINKS Qt6::Widgets)
+  LINKS Qt6::Widgets bramlee_qt_options)
