@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir choices;  // what is chosen in tests stays out of the user's configuration
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, choices.path());
   ::testing::InitGoogleTest(&argc, argv);
+  if (::testing::GTEST_FLAG(list_tests)) return RUN_ALL_TESTS();
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();
