@@ -9,8 +9,6 @@ target_compile_options(bramlee_options INTERFACE
   -ffp-contract=off)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(bramlee_options INTERFACE -Wduplicated-cond -Wlogical-op -Wuseless-cast
-    # Collects no garbage while it compiles, which takes a fifth of the time with precompiled headers.
-    --param=ggc-min-expand=10000 --param=ggc-min-heapsize=2000000
     # GCC 12 sees overlaps in std::string's own operator+ that are none (GCC bug 105651)
     $<$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>:-Wno-restrict>)
 endif()
