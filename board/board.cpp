@@ -138,7 +138,10 @@ QRect Board::ReachOfAll() const {
     for (const std::int16_t alternative : {std::int16_t{0}, std::int16_t{1}}) {
       StrokeRec rec = FillStrokeRec(letters_.sheet, static_cast<std::int16_t>(tile));
       rec.AltFlag = alternative;
-      all = all.united(ReachOf(letters_.write, rec)).united(ReachOf(ProgramFor(rec), rec));
+      all = all.united(ReachOf(letters_.write, rec));
+      const TileForm form{.alternative = alternative == 1, .book = true};
+      if (!WritesBookLetters() || !HasBookForm(letters_, tile, form)) continue;
+      all = all.united(ReachOf(ProgramOf(letters_, tile, form), rec));
     }
   }
   return all.toAlignedRect();

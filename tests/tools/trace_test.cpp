@@ -69,13 +69,13 @@ TEST(Trace, SaysHowFarAStrokeIsWrittenThatMayGoOn) {
       {1025, 150},
       {1025, 325}
   });
-  ExpectOutput(Trace(kL, half), Judgement("resume", "0.503", 0, "none") + End("false", 0));
+  ExpectOutput(Trace(kL, half), Judgement("resume", "0.497", 0, "none") + End("false", 0));
   const QByteArray rest = Touch({
       {1025, 325},
       {1025, 350},
       {1175, 350}
   });
-  ExpectOutput(Trace(kL, half + rest), Judgement("resume", "0.503", 0, "none") +
+  ExpectOutput(Trace(kL, half + rest), Judgement("resume", "0.497", 0, "none") +
                                            Judgement("done", "1", 0, "none") + End("true", 0));
 }
 
