@@ -157,7 +157,7 @@ bool TraceInput::OnTouch(const QTouchEvent& event) {
       } else if (point.state() == QEventPoint::Released) {
         pen_.move(point.position());
         Lift();
-      } else {
+      } else if (point.state() == QEventPoint::Updated) {
         pen_.move(point.position());
       }
     }

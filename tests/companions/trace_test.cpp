@@ -159,6 +159,46 @@ TEST_F(Traced, APenThatIsLiftedGoesOnWhereItWas) {
   EXPECT_EQ(board.Tile(kC)->accessibleDescription(), Q("Written"));
 }
 
+TEST_F(Traced, AStrokeGoesOnThoughTheBoardIsScaledAndResizedMeanwhile) {
+  Board& board = OpenTracing(kCapitals);
+  board.pic_Click(kC);
+  const std::vector<QPoint> way = Way("engc", kC, 0);
+  QTest::mousePress(&board.sheet(), Qt::LeftButton, {}, way.front());
+  for (std::size_t i = 0; i < way.size(); ++i) {
+    if (i == way.size() / 3) board.SetFitsWindow(true);
+    if (i == way.size() / 2) board.resize(1024, 700);
+    QCoreApplication::processEvents();
+    Move(board, board.sheet().FromSheet().map(way[i]));
+  }
+  EXPECT_FALSE(board.sheet().FromSheet().isIdentity());
+  QTest::mouseRelease(&board.sheet(), Qt::LeftButton, {},
+                      board.sheet().FromSheet().map(way.back()));
+  EXPECT_EQ(board.Tile(kC)->accessibleDescription(), Q("Written"));
+}
+
+TEST_F(Traced, AFingerTracesALetterAndAnotherOneChangesNothing) {
+  const QImage plain = Plain(kCapitals, kB);
+  Board& board = OpenTracing(kCapitals);
+  board.pic_Click(kB);
+  QPointingDevice* finger = QTest::createTouchDevice();
+  for (std::size_t stroke = 0; stroke < 3; ++stroke) {
+    const std::vector<QPoint> way = Way("engc", kB, stroke);
+    QTest::touchEvent(&board.sheet(), finger).press(1, way.front(), &board.sheet());
+    QTest::touchEvent(&board.sheet(), finger)
+        .stationary(1)
+        .press(2, QPoint(700, 600), &board.sheet());
+    for (const QPoint& place : way) {
+      QTest::touchEvent(&board.sheet(), finger).move(1, place, &board.sheet()).stationary(2);
+    }
+    QTest::touchEvent(&board.sheet(), finger)
+        .release(2, QPoint(700, 600), &board.sheet())
+        .stationary(1);
+    QTest::touchEvent(&board.sheet(), finger).release(1, way.back(), &board.sheet());
+  }
+  EXPECT_EQ(Dots(board), plain);
+  EXPECT_EQ(board.Tile(kB)->accessibleDescription(), Q("Written"));
+}
+
 TEST_F(Traced, AnotherTileLeavesWhatIsWrittenAndBeginsItsOwnLetter) {
   Board& board = OpenTracing(kCapitals);
   board.pic_Click(kB);
