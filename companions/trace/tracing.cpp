@@ -2,7 +2,7 @@
 
 #include <QScreen>
 #include <algorithm>
-#include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "companions/trace/trace.h"
@@ -196,7 +196,7 @@ void Tracing::AddTargets(std::size_t letter, std::size_t firstStroke,
   if (placed.ruling) return;
   std::vector<GuideStroke> guide = GuideOf(placed.letter, placed.placing);
   std::vector<StrokePath> paths;
-  for (const GuideStroke& stroke : guide) paths.push_back(PathOf(stroke));
+  std::ranges::transform(guide, std::back_inserter(paths), PathOf);
   const auto numbers = PlaceNumbers(paths, {.hand = hand_->isChecked() ? Hand::Left : Hand::Right});
   for (std::size_t i = firstStroke; i < guide.size(); ++i) {
     targets_.push_back({.letter = letter, .stroke = i});
