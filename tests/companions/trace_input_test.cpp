@@ -7,6 +7,7 @@
 #include <QTabletEvent>
 #include <QTest>
 #include <QWidget>
+#include <memory>
 #include <string>
 
 namespace bramlee {
@@ -50,7 +51,8 @@ class OnePen : public testing::Test {
   std::string log;
   QWidget widget;
   TraceInput input;
-  QPointingDevice* finger = QTest::createTouchDevice();
+  const std::unique_ptr<QPointingDevice> device{QTest::createTouchDevice()};
+  QPointingDevice* finger = device.get();
   QPointingDevice stylus{QStringLiteral("stylus"),
                          1,
                          QInputDevice::DeviceType::Stylus,

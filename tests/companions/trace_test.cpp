@@ -1,4 +1,6 @@
 // A child traces letters with the mouse.
+#include <memory>
+
 #include "maths/maths.h"
 #include "tests/companions/traced_board.h"
 #include "ui/form_ids.h"
@@ -180,7 +182,8 @@ TEST_F(Traced, AFingerTracesALetterAndAnotherOneChangesNothing) {
   const QImage plain = Plain(kCapitals, kB);
   Board& board = OpenTracing(kCapitals);
   board.pic_Click(kB);
-  QPointingDevice* finger = QTest::createTouchDevice();
+  const std::unique_ptr<QPointingDevice> device{QTest::createTouchDevice()};
+  QPointingDevice* finger = device.get();
   for (std::size_t stroke = 0; stroke < 3; ++stroke) {
     const std::vector<QPoint> way = Way("engc", kB, stroke);
     QTest::touchEvent(&board.sheet(), finger).press(1, way.front(), &board.sheet());
