@@ -41,7 +41,7 @@ QString BoardNames() {
 QString LetterArguments::Read(const QCommandLineParser& parser, LetterRequest& request) const {
   const QStringList arguments = parser.positionalArguments();
   for (const auto part : {&ReadBoard, &ReadTile}) {
-    const QString error = part(arguments, request);
+    QString error = part(arguments, request);
     if (!error.isEmpty()) return error;
   }
   const QString error = ReadForm(parser, request);
