@@ -96,7 +96,8 @@ void WriteSignVocalicLl(StrokeRec& r, Pen& pen) {
   SideHook(pen, bow.x, bow.y, 12);
 }
 
-// The signs that end a syllable stand close behind their letter, without a word.
+// The signs that end a syllable stand close behind their letter. The word that spells their
+// sound is left out.
 
 void WriteAm(StrokeRec& r, Pen& pen) {
   LetterA(pen, r.Col1);

@@ -22,7 +22,7 @@ class GuidePath {
   bool IsEmpty() const { return points_.empty(); }
   /// The points, in units, as far apart as Spacing(); one alone when all lie at one place.
   std::span<const Point> Points() const { return points_; }
-  /// At most 1 unit, and less on a stroke of a few units, so that half of that is told from all.
+  /// At most 1 unit, and less on a stroke of a few units, so that half of it does not pass for all.
   double Spacing() const { return spacing_; }
   /// From the first point to the last along the way, in units.
   double Length() const { return Between(0, Last()); }

@@ -42,7 +42,7 @@ constexpr double kLiftRadii = 2;
 
 /// Ink of this share of the stroke is all of it, where its direction is asked for.
 constexpr double kMostOfIt = 0.7;
-/// The direction is told by so many points, and by so many units on average.
+/// The direction shows in so many points, and by so many units on average.
 constexpr std::size_t kCompared = 32;
 constexpr double kClearly = 2;
 

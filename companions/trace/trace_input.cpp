@@ -27,7 +27,7 @@ bool IsPalm(const QEventPoint& point) {
 TraceInput::TraceInput(QWidget& widget, PenHandlers handlers, QObject* parent)
     : QObject(parent), widget_(&widget), pen_(std::move(handlers)) {
   widget_->installEventFilter(this);
-  qApp->installEventFilter(this);  // a stylus that comes near is told to the application alone
+  qApp->installEventFilter(this);  // only the application hears of a stylus that comes near
 }
 
 void TraceInput::SwitchOn(bool on) {
