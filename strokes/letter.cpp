@@ -11,6 +11,9 @@ namespace bramlee {
 Letter::Letter(const LetterId& id, double step, std::vector<Run> runs)
     : id_(id), step_(step), runs_(std::move(runs)), penStrokes_(JoinedRuns(id_, runs_)) {}
 
+Letter::Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes)
+    : step_(step), runs_(std::move(runs)), penStrokes_(std::move(penStrokes)) {}
+
 const LetterShape& Letter::Shape() const {
   if (!shape_) shape_ = ShapeOf(runs_, penStrokes_);
   return *shape_;

@@ -22,6 +22,8 @@ class Letter {
   /// The letter of these runs, as its program wrote them at that step. `id` says which letter it
   /// is; without a set it is none that has a name, such as the rules of a sheet.
   Letter(const LetterId& id, double step, std::vector<Run> runs);
+  /// Runs whose pen strokes are known, which together hold every run: several letters as one.
+  Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes);
 
   const LetterId& Id() const { return id_; }
   /// The step that its runs were recorded at, and are to be written at.

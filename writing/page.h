@@ -6,19 +6,9 @@
 #include <vector>
 
 #include "strokes/letter.h"
+#include "strokes/placing.h"
 
 namespace bramlee {
-
-/// Where a letter's sheet lies on the page: each coordinate times `scale`, then moved.
-struct Placing {
-  double scale = 1;
-  double right = 0;  ///< sheet pixels
-  double down = 0;   ///< sheet pixels
-
-  /// A letter left where it was laid out keeps its dots to the last bit.
-  bool IsNone() const { return *this == Placing{}; }
-  bool operator==(const Placing&) const = default;
-};
 
 /// A letter on a page.
 struct PlacedLetter {

@@ -1,0 +1,301 @@
+// Hindi in words: consonants joined, vowel signs before, behind, above and below, marks on top. The
+// head line is left out of the letters; the word draws it.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+#include "strokes/hindi_anchors.h"
+#include "strokes/hindi_text.h"
+#include "strokes/word.h"
+#include "strokes/word_ink.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kTilesOfASet = kHindiSetTiles;
+constexpr int kRaTile = 27;
+constexpr int kRephTile = 64;
+
+/// A sign in sheet pixels of its own tile, and the place there that comes to its letter's: on the
+/// head line for one above, at its top for one below, where the sign's own shape meets the letter.
+struct HangingSign {
+  char32_t code;
+  int tile;
+  Point at;
+};
+constexpr HangingSign kAbove[] = {
+    {hindi::kE,        21, {247.5, kWordHead}},
+    {hindi::kAi,       22, {497.5, kWordHead}},
+    {hindi::kMoon,     27, {725, kWordHead}  },
+    {hindi::kDotAbove, 25, {225, kWordHead}  },
+    {hindi::kArcAbove, 27, {725, kWordHead}  },
+};
+constexpr HangingSign kBelow[] = {
+    {hindi::kU,    18, {225, kWordBase}      },
+    {hindi::kUu,   19, {475, kWordBase + 4}  },
+    {hindi::kRi,   20, {730, kWordBase}      },
+    {hindi::kMark, 28, {960, kWordBase + 7.5}},
+};
+
+/// A sign behind its letter: its room and its stem, as its tile has them.
+struct SignBehind {
+  char32_t code;
+  int tile;
+  double left, right;
+  double stem;
+};
+constexpr SignBehind kBehind[] = {
+    {hindi::kAa,     15, 450,   500,    475   },
+    {hindi::kIi,     17, 1000,  1050,   1025  },
+    {hindi::kMoonAa, 15, 450,   500,    475   },
+    {hindi::kO,      23, 722.5, 772.5,  747.5 },
+    {hindi::kAu,     24, 978.7, 1028.7, 1003.7},
+};
+
+// The sign of i: its room, its stem, and the hood that reaches over the letter behind it. It is as
+// high as on its tile, and at least as wide; there it ends so far above the head line.
+constexpr double kRoomOfI = 50;
+constexpr double kStemOfI = 25;
+constexpr double kHoodHeight = 37.5;
+constexpr double kLeastHood = 75;
+constexpr double kHoodEnd = kWordHead - 5.625;
+
+constexpr double kRoomOfDots = 50;  ///< of the two dots beside a letter; they stand in its middle
+constexpr double kRoomOfStop = 60;
+
+/// Marks stand so far right of a sign above that takes their place.
+constexpr double kAsideOfSign = 22;
+constexpr double kAsideOfReph = 34;
+
+/// The reph: where its hook stands on the head line.
+constexpr HangingSign kReph = {
+    0, kRephTile, {444, kWordHead}
+};
+
+/// The dot below, from where signs below hang: to the left under the bowl of a letter with a stem,
+/// straight below another.
+constexpr Point kDotAtStem = {-40, -8};
+constexpr Point kDotAtRound = {-6, 19};
+constexpr Point kDot = {225, kWordHead - 22.5};  ///< the middle of the dot on its tile
+
+constexpr double kLoneMargin = 12;  ///< on both sides of a sign that stands alone
+
+const Letter& SignLetter(int tile, bool book = true) {
+  return LetterOf({.set = "hinv", .tile = tile, .form = {.book = book}});
+}
+
+const Letter& ConsonantLetter(int tile) {
+  return LetterOf({.set = "hinc", .tile = tile, .form = {.book = true}});
+}
+
+template <class Table>
+auto Find(const Table& table, char32_t code) -> decltype(&table[0]) {
+  const auto found =
+      std::ranges::find_if(table, [code](const auto& each) { return each.code == code; });
+  return found == std::end(table) ? nullptr : &*found;
+}
+
+/// The runs of a letter that are its head line.
+std::vector<std::size_t> HeadLineOf(const Letter& letter) {
+  std::vector<std::size_t> runs;
+  for (std::size_t i = 0; i < letter.Runs().size(); ++i) {
+    const Run& run = letter.Runs()[i];
+    if (run.primitive == Primitive::LineRight && run.values[1] == kWordHead) runs.push_back(i);
+  }
+  return runs;
+}
+
+/// Lays one syllable from left to right.
+class Layout {
+ public:
+  explicit Layout(HindiSyllable syllable) : syllable_(std::move(syllable)) {}
+
+  Cluster Lay() {
+    if (syllable_.sign == hindi::kI) LeaveRoomForI();
+    LayLetters();
+    if (syllable_.sign == hindi::kI) WriteI();
+    LayBehind();
+    LayHanging(kBelow, foot_);
+    if (syllable_.sign == hindi::kDotBelow) AddDotBelow(foot_);
+    LayAbove();
+    if (syllable_.dotsBeside) LayDotsBeside();
+    if (syllable_.consonants.empty() && syllable_.vowel == nullptr) GiveLoneRoom();
+    cluster_.width = x_;
+    cluster_.characters = syllable_.characters;
+    cluster_.leftOut = std::move(syllable_.leftOut);
+    return std::move(cluster_);
+  }
+
+ private:
+  /// A sign that stands alone has room around its ink.
+  void GiveLoneRoom() {
+    const Box ink = cluster_.ink.Bounds();
+    Reach around{.from = ink.x, .to = ink.x + ink.width};
+    for (const Reach& reach : cluster_.head) {
+      around.from = std::min(around.from, reach.from), around.to = std::max(around.to, reach.to);
+    }
+    const double right = kLoneMargin - around.from;
+    WordInk moved;
+    moved.Append(cluster_.ink, right);
+    cluster_.ink = std::move(moved);
+    for (Reach& reach : cluster_.head) reach.from += right, reach.to += right;
+    x_ = around.to - around.from + 2 * kLoneMargin;
+  }
+
+  void Add(const Letter& letter, double right, double down = 0) {
+    cluster_.ink.Add(letter, {.right = right, .down = down}, HeadLineOf(letter));
+  }
+
+  void AddHead(double from, double to) { cluster_.head.push_back({.from = from, .to = to}); }
+
+  void LayLetters() {
+    if (syllable_.vowel != nullptr) LayVowel(*syllable_.vowel);
+    for (const HindiConsonant& each : syllable_.consonants) LayConsonant(each);
+  }
+
+  void LayVowel(const HindiVowelAnchors& vowel) {
+    const double right = x_ - vowel.left;
+    Add(SignLetter(vowel.tile), right);
+    AddHead(vowel.headFrom + right, vowel.right + right);
+    head_ = vowel.head + right;
+    x_ = vowel.right + right;
+  }
+
+  void LayConsonant(const HindiConsonant& consonant) {
+    const HindiConsonantAnchors& anchors = *consonant.letter;
+    const bool half = consonant.join == HindiJoin::Half && !consonant.withR;
+    const int set = consonant.withR ? kHindiFootSet : half ? kHindiHalfSet : 1;
+    const Letter& letter = ConsonantLetter(anchors.tile + (set - 1) * kTilesOfASet);
+    const double right = x_ - anchors.left;
+    const double end = half ? anchors.halfRight : anchors.right;
+    Add(letter, right);
+    AddHead(anchors.headFrom + right, end + right);
+    head_ = anchors.head + right;
+    foot_ = {anchors.foot.x + right, anchors.foot.y};
+    if (consonant.withR) foot_.y = std::max(foot_.y, letter.Bounds().y + letter.Bounds().height);
+    if (consonant.dotBelow) {
+      const Point dot = anchors.foot.x == anchors.head ? kDotAtStem : kDotAtRound;
+      AddDotBelow({foot_.x + dot.x, foot_.y + dot.y});
+    }
+    if (consonant.join == HindiJoin::Mark) Hang(*Find(kBelow, hindi::kMark), foot_);
+    x_ = end + right;
+  }
+
+  void AddDotBelow(Point middle) {
+    Add(SignLetter(Find(kAbove, hindi::kDotAbove)->tile), middle.x - kDot.x, middle.y - kDot.y);
+  }
+
+  void LeaveRoomForI() {
+    AddHead(x_, x_ + kRoomOfI);
+    x_ += kRoomOfI;
+  }
+
+  /// One movement: over the letter to the left, then down.
+  void WriteI() {
+    const double stem = kStemOfI;
+    const double width = std::max(head_ - stem, kLeastHood);
+    const double radius = (width * width / 4 + kHoodHeight * kHoodHeight) / (2 * kHoodHeight);
+    const double aside = std::asin(width / 2 / radius) * 180 / std::numbers::pi;
+    const double open = kHoodHeight > radius ? 180 - aside : aside;
+    const Point centre = {stem + width / 2, kHoodEnd - kHoodHeight + radius};
+    const Run strokes[] = {
+        ArcRun(90 - open, 90 + open, +1, centre, radius),
+        MakeRun(Primitive::LineDown, std::array{stem, kWordHead, kWordBase}),
+    };
+    WordInk before;
+    before.AddStroke(strokes);
+    before.Append(cluster_.ink, 0);
+    cluster_.ink = std::move(before);
+  }
+
+  void LayBehind() {
+    const SignBehind* sign = Find(kBehind, syllable_.sign);
+    if (sign == nullptr) return;
+    const double right = x_ - sign->left;
+    Add(SignLetter(sign->tile), right);
+    AddHead(x_, sign->right + right);
+    head_ = sign->stem + right;
+    if (sign->code == hindi::kMoonAa) syllable_.moon = true;
+    x_ = sign->right + right;
+  }
+
+  /// A sign of the table, if the syllable has one, at that place.
+  void LayHanging(std::span<const HangingSign> signs, Point at) {
+    const HangingSign* sign = Find(signs, syllable_.sign);
+    if (sign == nullptr) return;
+    Hang(*sign, at);
+  }
+
+  void Hang(const HangingSign& sign, Point at) {
+    Add(SignLetter(sign.tile), at.x - sign.at.x, at.y - sign.at.y);
+  }
+
+  void LayAbove() {
+    double aside = 0;
+    LayHanging(kAbove, {head_, kWordHead});
+    if (syllable_.moon) {
+      Add(SignLetter(Find(kAbove, hindi::kMoon)->tile, false),
+          head_ - Find(kAbove, hindi::kMoon)->at.x);
+    }
+    if (syllable_.reph) {
+      Add(ConsonantLetter(kReph.tile), head_ - kReph.at.x);
+      aside = kAsideOfReph;
+    } else if (HasSignAbove()) {
+      aside = kAsideOfSign;
+    }
+    if (syllable_.above == 0) return;
+    Hang(*Find(kAbove, syllable_.above),
+         {head_ + aside, kWordHead - (syllable_.moon ? 25.0 : 0.0)});
+  }
+
+  bool HasSignAbove() const {
+    static constexpr char32_t kSigns[] = {hindi::kE, hindi::kAi, hindi::kO, hindi::kAu, hindi::kIi};
+    return std::ranges::find(kSigns, syllable_.sign) != std::end(kSigns) || VowelReachesUp();
+  }
+
+  bool VowelReachesUp() const {
+    static constexpr char32_t kVowels[] = {0x908, 0x910, 0x913, 0x914};  // ई ऐ ओ औ
+    return syllable_.vowel != nullptr &&
+           std::ranges::find(kVowels, syllable_.vowel->code) != std::end(kVowels);
+  }
+
+  void LayDotsBeside() {
+    constexpr int kTile = 26;
+    constexpr double kMiddle = 500;
+    Add(SignLetter(kTile), x_ + kRoomOfDots / 2 - kMiddle);
+    x_ += kRoomOfDots;
+  }
+
+  HindiSyllable syllable_;
+  Cluster cluster_;
+  double x_ = 0;
+  double head_ = 0;           ///< where signs above stand by now
+  Point foot_{0, kWordBase};  ///< where signs below hang
+};
+
+/// A stroke from the head line to the base, or two of them.
+Cluster LayStop(char32_t code) {
+  Cluster cluster{.characters = 1};
+  const int strokes = code == hindi::kDoubleStop ? 2 : 1;
+  for (int i = 0; i < strokes; ++i) {
+    cluster.width += kRoomOfStop / 2;
+    const Run run = MakeRun(Primitive::LineDown, std::array{cluster.width, kWordHead, kWordBase});
+    cluster.ink.AddStroke({&run, 1});
+  }
+  cluster.width += kRoomOfStop / 2;
+  return cluster;
+}
+
+}  // namespace
+
+Cluster ReadHindi(std::span<const TextCharacter> text) {
+  const char32_t first = text.front().code;
+  if (first == hindi::kStop || first == hindi::kDoubleStop) return LayStop(first);
+  HindiSyllable syllable = ReadSyllable(text);
+  if (syllable.characters == 0) return {};
+  return Layout(std::move(syllable)).Lay();
+}
+
+}  // namespace bramlee
