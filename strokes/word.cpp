@@ -29,7 +29,7 @@ constexpr bool IsBlank(char32_t code) {
 }
 
 Cluster ReadLetter(std::span<const TextCharacter> text) {
-  for (const auto read : {ReadLatin, ReadHindi}) {
+  for (const auto read : {ReadLatin, ReadHindi, ReadTelugu}) {
     Cluster cluster = read(text);
     if (cluster.characters > 0) return cluster;
   }

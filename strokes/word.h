@@ -53,7 +53,7 @@ struct Word {
   std::vector<LeftOut> leftOut;
 };
 
-/// Lays out a text of Latin and Hindi letters, digits and signs on one line, however long.
+/// Lays out a text of Latin, Hindi and Telugu letters, digits and signs on one line, however long.
 /// Letters are those of the book. What cannot be written is left out and named; the rest is laid as
 /// if it were not there. The same text gives the same word.
 Word LayWord(std::string_view text, const WordOptions& options = {});

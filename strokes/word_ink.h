@@ -51,6 +51,7 @@ struct Cluster {
 // Each reads the first letter of the characters, at least one, with all signs that follow it.
 Cluster ReadLatin(std::span<const TextCharacter> text);
 Cluster ReadHindi(std::span<const TextCharacter> text);
+Cluster ReadTelugu(std::span<const TextCharacter> text);
 
 /// A character that writes nothing itself and says how its neighbours join, or which way text runs.
 constexpr bool IsJoiner(char32_t code) {

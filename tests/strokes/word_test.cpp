@@ -193,9 +193,36 @@ TEST(WordTest, SetsADotBelow) {
   EXPECT_TRUE(std::ranges::equal(dotted.letter.Runs(), LayWord("\u095C").letter.Runs()));
 }
 
+TEST(WordTest, PutsATeluguSignInThePlaceOfTheTick) {
+  const auto runs = [](const char* text) { return LayWord(text).letter.Runs().size(); };
+  EXPECT_EQ(runs("కి"), runs("క") - 2 + runs("ి"));
+  EXPECT_EQ(runs("కు"), runs("క") + runs("ు")) << "the tick stays";
+  EXPECT_EQ(runs("లె"), runs("ల") + runs("ె")) << "it has none";
+  EXPECT_LT(LayWord("కి").letter.Bounds().y, LayWord("క").letter.Bounds().y - 30);
+}
+
+TEST(WordTest, HangsFurtherTeluguConsonantsBelow) {
+  EXPECT_EQ(TextsOf(LayWord("అమ్మ")), (Texts{"అ", "మ్మ"}));
+  EXPECT_GT(Bottom(LayWord("క్క").letter.Bounds()), Bottom(LayWord("క").letter.Bounds()) + 30);
+  EXPECT_EQ(LayWord("స్త్రీ").letters.size(), 1U);
+  EXPECT_EQ(TextsOf(LayWord("క్\u200Cక")), (Texts{"క్\u200C", "క"}));
+}
+
+TEST(WordTest, PutsTheSignOfTeluguAiAboveAndBelow) {
+  const Box ink = LayWord("కై").letter.Bounds();
+  EXPECT_LT(ink.y, LayWord("క").letter.Bounds().y + 20);
+  EXPECT_GT(Bottom(ink), kWordBase + 40);
+}
+
+TEST(WordTest, LeavesADoubledTeluguSignOutAndNamesIt) {
+  EXPECT_EQ(LeftOutOf(LayWord("కాా")), (Texts{"ా"}));
+  EXPECT_EQ(LeftOutOf(LayWord("అా")), (Texts{"ా"}));
+  EXPECT_EQ(LeftOutOf(LayWord("కంం")), (Texts{"ం"}));
+}
+
 TEST(WordTest, WritesALoneSignAlone) {
-  for (const char* sign :
-       {"ा", "ि", "ी", "ु", "ू", "ृ", "े", "ै", "ो", "ौ", "ं", "ँ", "ः", "्", "़", "ॅ", "ॉ"}) {
+  for (const char* sign : {"ा", "ि", "ी", "ु", "ू", "ृ",  "े",  "ै", "ो", "ौ", "ं", "ँ",  "ः", "्",
+                           "़",  "ॅ",  "ॉ", "ా", "ి", "ు", "ృ", "ై", "ో",  "ౌ",  "్", "ం", "ః"}) {
     const Word word = LayWord(sign);
     EXPECT_EQ(word.letters.size(), 1U) << sign;
     EXPECT_TRUE(word.leftOut.empty()) << sign;
