@@ -13,6 +13,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "files/environment.h"
 #include "media/media.h"
 #include "media/play_media_file.h"
 #include "tests/media/sound_files.h"
@@ -131,6 +132,7 @@ int Run(const QStringList& arguments) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication app(argc, argv);
+  const bramlee::Environment environment;
   try {
     return bramlee::Run(QCoreApplication::arguments().mid(1));
   } catch (const std::exception& error) {
