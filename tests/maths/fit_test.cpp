@@ -50,6 +50,7 @@ class MathsFit : public MathsTest {
     }
   }
   QStringList Standing() const {
+    board->Named<QWidget>(QStringLiteral("txthdr1"))->show();  // it blinks
     QStringList standing;
     for (const QWidget* control : ShownControls()) {
       const QRect place = control->geometry();
