@@ -65,7 +65,8 @@ CardForm::Typed CardForm::WhatWasTyped() const {
 
 void CardForm::PutBack(const Typed& typed) {
   for (std::size_t i = 0; i < typed.head.size(); ++i) {
-    if (typed.head[i]) SetText(Indexed("txt", static_cast<int>(i)), *typed.head[i]);
+    const std::optional<QString>& text = typed.head[i];
+    if (text) SetText(Indexed("txt", static_cast<int>(i)), *text);
   }
   if (typed.item) ShowNewItem(*typed.item);
 }
