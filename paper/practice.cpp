@@ -6,14 +6,25 @@
 namespace bramlee {
 namespace {
 
-/// The sheet of words is that of the Indian sets, whose body lies between head and base line.
-WritingLines LinesOfWords() {
-  constexpr double kBody = kWordBase - kWordHead;
-  return {.top = kWordHead - kBody / 2,
-          .middle = kWordHead,
-          .base = kWordBase,
-          .foot = kWordBase + kBody / 2,
-          .bodyTop = kWordHead};
+/// Where the lines of another sheet run when its body is made as high as that of words.
+WritingLines OnSheetOfWords(const WritingLines& lines) {
+  const double scale = (kWordBase - kWordHead) / lines.BodyHeight();
+  const auto placed = [&](double y) { return kWordBase + (y - lines.base) * scale; };
+  return {.top = placed(lines.top),
+          .middle = placed(lines.middle),
+          .base = placed(lines.base),
+          .foot = placed(lines.foot),
+          .bodyTop = placed(lines.bodyTop)};
+}
+
+/// The set whose lines a text is written on: that of its first letter.
+std::string_view SetOfText(const QString& text) {
+  for (const QChar sign : text) {
+    if (sign.script() == QChar::Script_Devanagari) return "hinc";
+    if (sign.script() == QChar::Script_Telugu) return "telc";
+    if (sign.isLetter()) return "engs";
+  }
+  return "mat";
 }
 
 }  // namespace
@@ -21,14 +32,17 @@ WritingLines LinesOfWords() {
 Practice PracticeOf(const LetterId& id) {
   return {.letter = LetterOf(id),
           .lines = WritingLinesOf(id.set),
+          .set = id.set,
           .caption = QString::fromStdString(LetterName(id.set, id.tile, id.form.book)),
           .word = {}};
 }
 
 Practice WordPractice(const QString& text) {
   const std::string word = text.simplified().toStdString();
+  const std::string_view set = SetOfText(text);
   return {.letter = LayWord(word).letter,
-          .lines = LinesOfWords(),
+          .lines = OnSheetOfWords(WritingLinesOf(set)),
+          .set = set,
           .caption = text.simplified(),
           .word = word};
 }

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <string>
+#include <string_view>
 
 #include "strokes/letter.h"
 #include "strokes/writing_lines.h"
@@ -11,11 +12,12 @@ namespace bramlee {
 
 /// What is written as one, and where the lines of the book run through it.
 struct Practice {
-  Letter letter;
-  WritingLines lines;  ///< in the letter's sheet pixels
-  QString caption;     ///< printed small above the rows; empty for none
+  Letter letter{};
+  WritingLines lines{};    ///< in the letter's sheet pixels
+  std::string_view set{};  ///< the letter set that the lines are of
+  QString caption{};       ///< printed small above the rows; empty for none
   /// UTF-8, of a word: one that is too long for a row is made smaller and then broken into lines.
-  std::string word;
+  std::string word{};
 };
 
 /// The letter of a tile with its name as caption. One without strokes has no runs.

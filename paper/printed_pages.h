@@ -29,8 +29,8 @@ struct PageFormat {
 
 /// What a file says of itself.
 struct DocumentInfo {
-  QString title;
-  QString author;
+  QString title{};
+  QString author{};
   QString language = QStringLiteral("en");  ///< as BCP 47 has it: "en", "hi", "te"
 };
 

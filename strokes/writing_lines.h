@@ -13,16 +13,17 @@ struct WritingLines {
   double middle = 0;   ///< the second
   double base = 0;     ///< what letters stand on
   double foot = 0;     ///< what hangs below the base line ends there
-  double bodyTop = 0;  ///< where the body of a letter begins: one of the upper two
+  double bodyTop = 0;  ///< where what a letter's size is measured by begins: one of the upper two
 
-  /// From its top to the base line.
+  /// From its top to the base line: the height of a capital, a tall small letter, a digit, and of a
+  /// Hindi or Telugu letter without its signs.
   double BodyHeight() const { return base - bodyTop; }
   bool operator==(const WritingLines&) const = default;
 };
 
-/// The lines of a set's sheet. Its body lies between the rows 2 and 4. Small letters, Hindi and
-/// Telugu have a line above that, for what rises over the body; capitals and digits have one in the
-/// body's middle instead. A set that does not exist has no lines.
+/// The lines of a set's sheet: rows of it. Small letters, Hindi and Telugu have the rows 1, 2, 4
+/// and 5, so that the second line is that of x or the head line; capitals and digits have the rows
+/// 2 to 5, with the second line in their middle. A set that does not exist has no lines.
 WritingLines WritingLinesOf(std::string_view letterSet);
 
 }  // namespace bramlee

@@ -12,7 +12,7 @@ Box BoundsOfTile(std::string_view set, int tile) {
   return LetterOf({.set = set, .tile = tile, .form = {}}).Bounds();
 }
 
-TEST(WritingLines, OfCapitalsAndDigitsHaveTheMiddleOfTheBody) {
+TEST(WritingLines, OfCapitalsAndDigitsHaveOneInTheMiddleOfTheBody) {
   const WritingLines capitals{.top = 150, .middle = 250, .base = 350, .foot = 450, .bodyTop = 150};
   const WritingLines digits{.top = 325, .middle = 400, .base = 475, .foot = 550, .bodyTop = 325};
   EXPECT_EQ(WritingLinesOf("engc"), capitals);
@@ -20,8 +20,8 @@ TEST(WritingLines, OfCapitalsAndDigitsHaveTheMiddleOfTheBody) {
   EXPECT_EQ(capitals.BodyHeight(), 200);
 }
 
-TEST(WritingLines, OfSmallLettersAndIndianSetsHaveALineAboveTheBody) {
-  const WritingLines small{.top = 50, .middle = 125, .base = 275, .foot = 350, .bodyTop = 125};
+TEST(WritingLines, OfSmallLettersAndIndianSetsHaveTheLineOfXOrTheHeadLine) {
+  const WritingLines small{.top = 50, .middle = 125, .base = 275, .foot = 350, .bodyTop = 50};
   const WritingLines indian{.top = 250, .middle = 325, .base = 475, .foot = 550, .bodyTop = 325};
   EXPECT_EQ(WritingLinesOf("engs"), small);
   for (const char* set : {"hinv", "hinc", "telv", "telc"}) {

@@ -1,0 +1,241 @@
+// Worksheets laid out and read back.
+#include "paper/worksheet.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include "paper/heading.h"
+#include "paper/pdf_file.h"
+#include "tests/paper/pdf_reading.h"
+
+namespace bramlee {
+namespace {
+
+constexpr double kDotsPerMm = 300 / 25.4;
+
+Practice Tile(std::string_view set, int tile) {
+  return PracticeOf({.set = set, .tile = tile, .form = {.book = true}});
+}
+
+Worksheet SheetOf(std::vector<Practice> practices, std::vector<RowKind> rows) {
+  Worksheet sheet;
+  sheet.practices = std::move(practices);
+  sheet.style.rows = std::move(rows);
+  return sheet;
+}
+
+/// A page in grey, 300 dots an inch, painted by ourselves.
+QImage PictureOf(const LaidOut& made, int page = 0) {
+  const QSizeF size = made.pages->SizeMm() * kDotsPerMm;
+  QImage picture(size.toSize(), QImage::Format_Grayscale8);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(kDotsPerMm, kDotsPerMm);
+  made.pages->Paint(painter, page);
+  return picture;
+}
+
+/// What is darker than that, in millimetres.
+QRectF DarkBox(const QImage& picture, int darker = 60) {
+  QRect box;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (qGray(picture.pixel(x, y)) < darker) box |= QRect(x, y, 1, 1);
+    }
+  }
+  return {box.x() / kDotsPerMm, box.y() / kDotsPerMm, box.width() / kDotsPerMm,
+          box.height() / kDotsPerMm};
+}
+
+bool IsDark(const QImage& picture, double xMm, double yMm, int darker = 200) {
+  return qGray(picture.pixel(static_cast<int>(xMm * kDotsPerMm),
+                             static_cast<int>(yMm * kDotsPerMm))) < darker;
+}
+
+QImage Page(Worksheet sheet) {
+  sheet.heading.shown = false;
+  const LaidOut made = LayOut(sheet);
+  EXPECT_TRUE(made.error.IsNone()) << qPrintable(made.error.text);
+  return made.pages ? PictureOf(made) : QImage();
+}
+
+/// One letter alone in its row: a sheet that is as narrow as that.
+Worksheet Narrow(const Practice& practice, RowKind kind, double bodyMm) {
+  Worksheet sheet = SheetOf({practice}, {kind});
+  sheet.practices[0].caption.clear();
+  sheet.style.bodyMm = bodyMm;
+  sheet.style.ruling = Ruling::None;
+  sheet.page.paperMm = {2 * kMarginMm + bodyMm + 10, 200};
+  return sheet;
+}
+
+TEST(Worksheet, HasLettersOfTheBodyHeight) {
+  for (const double body : kBodySizesMm) {
+    const double pen = 0.06 * body;
+    const QRectF h = DarkBox(Page(Narrow(Tile("engc", 8), RowKind::Model, body)));
+    const QRectF grey = DarkBox(Page(Narrow(Tile("engc", 8), RowKind::Grey, body)), 250);
+    EXPECT_NEAR(grey.height(), body + pen, 0.2) << body;
+    EXPECT_NEAR(grey.width(), 0.75 * body + pen, 0.2) << body;
+    EXPECT_GE(h.height(), grey.height() - 0.2);
+    const QRectF b = DarkBox(Page(Narrow(Tile("engs", 2), RowKind::Grey, body)), 250);
+    EXPECT_NEAR(b.height(), body + pen, 0.2) << "a tall small letter is as high as a capital";
+  }
+}
+
+TEST(Worksheet, HasTheRulingWhereTheLettersStand) {
+  Worksheet sheet = SheetOf({Tile("engc", 8)}, {RowKind::Blank});
+  sheet.practices[0].caption.clear();
+  const QImage english = Page(sheet);
+  for (const double line : {0.0, 10.0, 20.0, 30.0}) {
+    EXPECT_TRUE(IsDark(english, 100, kMarginMm + 0.6 + line)) << line;
+    EXPECT_FALSE(IsDark(english, 100, kMarginMm + 0.6 + line + 1)) << line;
+  }
+  EXPECT_TRUE(IsDark(english, 12.2, 12.6) && IsDark(english, 197.8, 12.6));
+  EXPECT_FALSE(IsDark(english, 11.8, 12.6) || IsDark(english, 198.2, 12.6));
+  sheet.style.ruling = Ruling::Hindi;
+  const QImage hindi = Page(sheet);
+  EXPECT_TRUE(IsDark(hindi, 100, 12.6) && IsDark(hindi, 100, 32.6));
+  EXPECT_FALSE(IsDark(hindi, 100, 22.6) || IsDark(hindi, 100, 42.6));
+}
+
+TEST(Worksheet, WithoutAChoiceHasTheRulingOfTheScript) {
+  EXPECT_EQ(RulingOf("engs"), Ruling::English);
+  EXPECT_EQ(RulingOf("hinv"), Ruling::Hindi);
+  EXPECT_EQ(RulingOf("telc"), Ruling::Telugu);
+  EXPECT_EQ(RulingOf("mat"), Ruling::Boxes);
+  EXPECT_EQ(RulingOf(WordPractice(QStringLiteral("राम")).set), Ruling::Hindi);
+  EXPECT_EQ(RulingOf(WordPractice(QStringLiteral("Ram")).set), Ruling::English);
+}
+
+TEST(Worksheet, HasTheModelAtTheEndOfEachRowForALeftHand) {
+  Worksheet sheet = SheetOf({Tile("engc", 8)}, {RowKind::Blank});
+  sheet.practices[0].caption.clear();
+  sheet.style.ruling = Ruling::None;
+  EXPECT_TRUE(DarkBox(Page(sheet)).isEmpty());
+  sheet.style.hand = Hand::Left;
+  const QRectF model = DarkBox(Page(sheet));
+  EXPECT_GT(model.left(), 160);
+  EXPECT_GT(model.right(), 185);
+}
+
+TEST(Worksheet, BuildsALetterUpInAsManyCells) {
+  // H has three strokes: a black one in each of the first three cells, nothing in the others.
+  Worksheet sheet = SheetOf({Tile("engc", 8)}, {RowKind::BuiltUp});
+  sheet.practices[0].caption.clear();
+  sheet.style.ruling = Ruling::None;
+  const QImage page = Page(sheet);
+  const QRectF black = DarkBox(page);
+  EXPECT_LT(black.right(), 100);
+  const QRectF any = DarkBox(page, 250);
+  EXPECT_NEAR(any.right(), black.right(), 6);
+}
+
+TEST(Worksheet, GoesOnInTheNextRowWithStrokesBuiltUpThatAreMoreThanItsCells) {
+  Worksheet one = Narrow(Tile("engc", 8), RowKind::BuiltUp, 20);
+  const LaidOut made = LayOut(one);
+  ASSERT_TRUE(made.error.IsNone());
+  one.heading.shown = false;
+  EXPECT_GT(DarkBox(Page(one)).height(), 60) << "three rows of one cell";
+}
+
+TEST(Worksheet, KeepsTheRowsOfALetterOnOnePage) {
+  const std::vector<RowKind> five(5, RowKind::Blank);
+  const LaidOut made = LayOut(SheetOf({Tile("engc", 1), Tile("engc", 2)}, five));
+  ASSERT_TRUE(made.error.IsNone());
+  EXPECT_EQ(made.pages->Count(), 2);
+  const LaidOut many = LayOut(SheetOf({Tile("engc", 1)}, std::vector<RowKind>(9, RowKind::Blank)));
+  EXPECT_EQ(many.pages->Count(), 2) << "more rows than a page holds";
+}
+
+TEST(Worksheet, SaysThatARowDoesNotFitThePaper) {
+  Worksheet sheet = SheetOf({Tile("engc", 1)}, {RowKind::Blank});
+  sheet.page.paperMm = {148, 60};
+  const LaidOut made = LayOut(sheet);
+  EXPECT_EQ(made.error.kind, PaperError::Kind::RowTooHigh);
+  EXPECT_EQ(made.pages, nullptr);
+  EXPECT_TRUE(made.error.text.startsWith(QStringLiteral("a row of letters 20 mm high takes ")))
+      << qPrintable(made.error.text);
+}
+
+TEST(Worksheet, LeavesALetterWithoutStrokesOutAndSaysSo) {
+  const LaidOut made = LayOut(SheetOf({Tile("hinv", 13), Tile("hinv", 14)}, {RowKind::Model}));
+  ASSERT_TRUE(made.error.IsNone());
+  EXPECT_EQ(made.pages->Notes(), QStringList{QStringLiteral("picture has no strokes")});
+  const LaidOut none = LayOut(SheetOf({Tile("hinv", 14)}, {RowKind::Model}));
+  EXPECT_EQ(none.error.kind, PaperError::Kind::NothingToPrint);
+  EXPECT_EQ(none.error.text, QStringLiteral("picture has no strokes"));
+}
+
+TEST(Worksheet, OfNothingSaysSo) {
+  EXPECT_EQ(LayOut(Worksheet()).error.text, QStringLiteral("nothing is chosen"));
+  EXPECT_EQ(LayOut(SheetOf({Tile("engc", 1)}, {})).error.text,
+            QStringLiteral("no rows are chosen"));
+}
+
+TEST(Worksheet, LeavesACaptionOutThatNoFontShows) {
+  Worksheet sheet = SheetOf({Tile("engc", 1)}, {RowKind::Model});
+  sheet.practices[0].caption = QStringLiteral("A \U00012000");  // cuneiform
+  const LaidOut made = LayOut(sheet);
+  ASSERT_TRUE(made.error.IsNone());
+  ASSERT_EQ(made.pages->Notes().size(), 1);
+  EXPECT_TRUE(made.pages->Notes()[0].startsWith(QStringLiteral("no font shows the caption")));
+  EXPECT_FALSE(PictureOf(made).isNull());
+}
+
+TEST(Worksheet, MakesALongWordSmallerAndThenBreaksIt) {
+  const auto pageOf = [](const QString& word) {
+    Worksheet sheet = SheetOf({WordPractice(word)}, {RowKind::Grey});
+    sheet.practices[0].caption.clear();
+    sheet.style.ruling = Ruling::None;
+    return DarkBox(Page(sheet), 250);
+  };
+  const QRectF once = pageOf(QStringLiteral("Venkat"));
+  const QRectF smaller = pageOf(QStringLiteral("Venkateshwara"));
+  const QRectF lines = pageOf(QStringLiteral("Venkateshwara ").repeated(5).left(60));
+  EXPECT_LT(smaller.height(), once.height());
+  EXPECT_GT(lines.height(), 2 * smaller.height()) << "two lines at least";
+  for (const QRectF& box : {once, smaller, lines}) {
+    EXPECT_GE(box.left(), kMarginMm - 0.1);
+    EXPECT_LE(box.right(), 210 - kMarginMm + 0.1);
+  }
+}
+
+TEST(Heading, TakesMoreLinesForALongName) {
+  const double width = 186;
+  const double usual = HeadingHeightMm({.name = QStringLiteral("Amina Rao")}, width);
+  EXPECT_EQ(HeadingHeightMm({}, width), usual);
+  EXPECT_EQ(HeadingHeightMm({.name = QString(20, u'm')}, width), usual) << "smaller";
+  EXPECT_GT(HeadingHeightMm({.name = QString(60, u'm')}, width), usual);
+  EXPECT_EQ(HeadingHeightMm({.shown = false}, width), 0);
+}
+
+TEST(Heading, CanBeReadInTheDocument) {
+  SKIP_WITHOUT_PDF_TOOLS();
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("sheet.pdf"));
+  Worksheet sheet = SheetOf({Tile("engc", 1)}, {RowKind::Model});
+  sheet.heading = {.name = QStringLiteral("Amina Rao"), .schoolClass = QStringLiteral("LKG")};
+  ASSERT_TRUE(WritePdf(*LayOut(sheet).pages, {}, file).IsNone());
+  const QString text = TextOfPdf(file).simplified();
+  EXPECT_TRUE(text.startsWith(QStringLiteral("Name Amina Rao Class LKG Date"))) << qPrintable(text);
+  EXPECT_TRUE(text.endsWith(QStringLiteral("capital A"))) << qPrintable(text);
+}
+
+TEST(Choices, HaveNamesThatReadBack) {
+  for (const RowKind kind : RowKinds()) {
+    EXPECT_EQ(RowKindNamed(QLatin1String(NameOf(kind))), kind);
+  }
+  for (const Ruling ruling : Rulings()) {
+    EXPECT_EQ(RulingNamed(QLatin1String(NameOf(ruling))), ruling);
+  }
+  EXPECT_EQ(RowKinds().size(), 6U);
+  EXPECT_EQ(Rulings().size(), 5U);
+  EXPECT_FALSE(RowKindNamed(QStringLiteral("striped")));
+  EXPECT_FALSE(RulingNamed(QString()));
+}
+
+}  // namespace
+}  // namespace bramlee
