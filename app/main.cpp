@@ -12,6 +12,7 @@
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
+#include "companions/words/words.h"
 #include "files/environment.h"
 #include "home/home.h"
 #include "maths/maths.h"
@@ -44,6 +45,7 @@ int main(int argc, char** argv) {
   bramlee::AddCompanion(bramlee::AddNumbers);
   bramlee::AddCompanion(bramlee::AddFitting);
   bramlee::AddCompanion(bramlee::AddBookSwitch);
+  bramlee::AddCompanion(bramlee::AddWords);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();

@@ -86,6 +86,8 @@ class Board : public Form {
   /// joins the page, and the pen runs to its end. Throws what the program or the sheet throws; what
   /// is written by then stays.
   void Write(WriteLetter program, StrokeRec& rec);
+  /// Wipes the sheet as the first tile of a group does: grid and rules that come back are drawn.
+  void StartGroup();
   /// Makes the sheet large enough for all that stands or is written on it, so that it scrolls
   /// where the window is smaller. While the board fits its window, gives it the scale for that.
   void FitSheet();
@@ -146,7 +148,6 @@ class Board : public Form {
   void MakeMenus();
   void RunFormLoad();
   void ResetToDesign();
-  void StartGroup();
   ColourWord GridColour() const;
   void DrawGridInItsColour();
   void DrawRulesInTheirColour(std::int16_t number);

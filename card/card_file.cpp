@@ -12,10 +12,12 @@ namespace {
 
 constexpr int kMostKept = 99;  ///< copies of damaged files
 
+const QString kNoNameYet = QStringLiteral("Enter Your Name");
+
 StudentRec DefaultCard() {
   StudentRec rec;
   rec.StudentSerial = 1;
-  rec.StudentName.Set(QStringLiteral("Enter Your Name"));
+  rec.StudentName.Set(kNoNameYet);
   rec.ClassName.Set(QStringLiteral("BRM"));
   rec.IdCardPath.Set(QStringLiteral("C:\\bramlee\\idcard.jpg"));
   rec.LogoPath.Set(QStringLiteral("C:\\bramlee\\school.jpg"));
@@ -68,6 +70,15 @@ CardContents ReadCard(const RecordFile& file) {
   const std::int32_t count = CountedItems(card.head, file);
   for (std::int32_t i = 1; i <= count; ++i) card.items.push_back(DecodeStudent(file.Get(i)));
   return card;
+}
+
+QString NameOnCard() {
+  QString name;
+  Trap({}, [&name](ErrInfo&) {
+    const RecordFile file(TakeSlot(kCardSlot));
+    if (file.Records() > 0) name = Trim(DecodeStudent(file.Get(1)).StudentName.Text());
+  });
+  return name == kNoNameYet ? QString() : name;
 }
 
 void CheckItem(const RecordFile& file, std::int32_t recNo, const ItemTexts& shown) {

@@ -34,6 +34,10 @@ std::int32_t CountedItems(const StudentRec& first, const RecordFile& file);
 /// Throws ItemChanged unless that item is among the counted ones and still reads as it was shown.
 void CheckItem(const RecordFile& file, std::int32_t recNo, const ItemTexts& shown);
 
+/// The child's name on the card, without outer blanks; empty when there is no card, when it cannot
+/// be read, or when it has the default card's line there.
+QString NameOnCard();
+
 // What fails in these is put into `failure`, if it is given.
 
 /// Writes the default card when the file is missing. A file

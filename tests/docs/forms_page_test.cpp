@@ -13,6 +13,7 @@
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
+#include "companions/words/words.h"
 #include "home/home.h"
 #include "maths/maths.h"
 #include "media/media.h"
@@ -88,7 +89,7 @@ class FormsPage : public TempDrives {
     RegisterMaths();
     static const bool added = [] {
       for (const Companion each :
-           {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch}) {
+           {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch, AddWords}) {
         AddCompanion(each);
       }
       return true;

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "letters/letter_names.h"
+#include "strokes/word.h"
 #include "tests/letters/written.h"
 #include "tests/tools/run_tool.h"
 
@@ -208,6 +209,17 @@ TEST(Picture, OfATileThatWritesNothingIsAnEmptySheet) {
   ASSERT_EQ(pictures.Draw(QStringLiteral("hinv 14")).status, 0);
   EXPECT_TRUE(PathsOf(pictures.Svg()).isEmpty());
   EXPECT_EQ(pictures.Png().pixel(700, 300), kOtherGround);
+}
+
+TEST(Picture, OfAWordShowsItWithRoomAround) {
+  const Pictures pictures;
+  ASSERT_EQ(pictures.Draw(QStringLiteral("--word ill")).status, 0);
+  const QImage png = pictures.Png();
+  const Box ink = LayWord("ill").letter.Bounds();
+  EXPECT_NEAR(png.width(), ink.width + 80, 2);
+  EXPECT_NEAR(png.height(), ink.height + 80, 2);
+  EXPECT_EQ(png.pixel(20, 20), kOtherGround);
+  EXPECT_EQ(png.pixel(png.width() - 40, png.height() / 2), kRed) << "the last l";
 }
 
 TEST(Picture, ThatCannotBeWrittenEndsWithStatusOne) {

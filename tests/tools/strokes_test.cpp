@@ -9,6 +9,7 @@
 
 #include "letters/letter_sets.h"
 #include "strokes/letter.h"
+#include "strokes/word.h"
 #include "tests/golden_strokes.h"
 #include "tests/tools/run_tool.h"
 
@@ -278,7 +279,7 @@ TEST(StrokesManPage, NamesEveryOptionOfTheHelp) {
   const QByteArray page = ManPage(QStringLiteral("bramlee-strokes.1"));
   const QByteArrayList options = OptionsOf(Strokes("--help").out);
   for (const QByteArray& option : options) EXPECT_TRUE(page.contains(option)) << option.constData();
-  EXPECT_EQ(options.size(), 11);
+  EXPECT_EQ(options.size(), 13);
 }
 
 TEST(Output, ThatCannotBeWrittenEndsWithStatusOne) {
@@ -289,6 +290,62 @@ TEST(Output, ThatCannotBeWrittenEndsWithStatusOne) {
   ASSERT_TRUE(process.waitForFinished(-1));
   EXPECT_EQ(process.exitCode(), 1);
   EXPECT_EQ(process.readAllStandardError(), "bramlee-strokes: the output cannot be written\n");
+}
+
+ToolRun WordOf(const QStringList& arguments) {
+  return RunTool(QStringLiteral("bramlee-strokes"),
+                 QStringList{QStringLiteral("--word")} + arguments);
+}
+
+TEST(StrokesOfAWord, ArePrintedAsOneObjectWithItsLetters) {
+  const QString text = QStringLiteral("A \"क\u093F\"");
+  const ToolRun run = WordOf({text, QStringLiteral("--step"), QStringLiteral("1")});
+  EXPECT_EQ(run.status, 0);
+  const QJsonObject word = QJsonDocument::fromJson(LinesOf(run).value(0)).object();
+  EXPECT_EQ(word.value(u"word").toString(), text);
+  const QJsonArray letters = word.value(u"letters").toArray();
+  ASSERT_EQ(letters.size(), 2);
+  EXPECT_EQ(letters[1].toObject().value(u"text").toString(), QStringLiteral("क\u093F"));
+  EXPECT_EQ(letters[1].toObject().value(u"right").toDouble(), word.value(u"width").toDouble());
+  const Word laid = LayWord(text.toStdString());
+  EXPECT_EQ(static_cast<std::size_t>(word.value(u"strokes").toArray().size()),
+            laid.letter.Runs().size());
+  EXPECT_EQ(word.value(u"leftOut").toArray().size(), 2) << "the quotation marks";
+}
+
+TEST(StrokesOfAWord, AreGivenAsPenStrokesToo) {
+  const ToolRun run = WordOf({QStringLiteral("ab"), QStringLiteral("--pen-strokes")});
+  const QJsonObject word = QJsonDocument::fromJson(LinesOf(run).value(0)).object();
+  EXPECT_EQ(word.value(u"word").toString(), QStringLiteral("ab"));
+  EXPECT_EQ(static_cast<std::size_t>(word.value(u"strokes").toArray().size()),
+            LayWord("ab").letter.PenStrokes().size());
+}
+
+TEST(StrokesOfAWord, HaveAHeadLineALetterWhereAsked) {
+  const QString text = QStringLiteral("कल");
+  const auto runs = [](const ToolRun& run) { return run.out.count("\"run\""); };
+  EXPECT_EQ(runs(WordOf({text, QStringLiteral("--head-per-letter")})), runs(WordOf({text})) + 1);
+}
+
+TEST(StrokesOfAWord, NameWhatIsLeftOut) {
+  const ToolRun some = WordOf({QStringLiteral("Zoé")});
+  EXPECT_EQ(some.status, 0);
+  EXPECT_EQ(some.error, "bramlee-strokes: left out: é\n");
+  const ToolRun none = WordOf({QStringLiteral("é")});
+  EXPECT_EQ(none.status, 2);
+  EXPECT_EQ(none.out, "");
+  EXPECT_TRUE(none.ErrorIsOneLine());
+}
+
+TEST(StrokesOfAWord, GoWithoutATileAndItsForms) {
+  for (const char* arguments : {"engc", "engc 1", "--alt", "--book", "--given", "--place 1"}) {
+    const ToolRun run =
+        WordOf(QStringList{QStringLiteral("a")} + QString::fromLatin1(arguments).split(u' '));
+    EXPECT_EQ(run.status, 2) << arguments;
+    EXPECT_TRUE(run.ErrorIsOneLine()) << arguments;
+  }
+  EXPECT_EQ(Strokes("engc 1 --head-per-letter").status, 2);
+  EXPECT_EQ(WordOf({QStringLiteral("  ")}).status, 2);
 }
 
 }  // namespace

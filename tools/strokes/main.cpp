@@ -7,6 +7,7 @@
 #include "tools/strokes/pictures.h"
 #include "tools/strokes/report.h"
 #include "tools/strokes/request.h"
+#include "tools/strokes/word_report.h"
 
 namespace bramlee {
 namespace {
@@ -31,11 +32,26 @@ ExitStatus DrawPictures(const Request& request) {
   return second.isEmpty() ? kDone : Fail(kFailed, second);
 }
 
+/// Names what is left out of the word, and writes the rest.
+ExitStatus AnswerWord(const Request& request) {
+  const Word word = WordAsked(request);
+  if (word.letters.empty()) {
+    return Fail(kBadArguments, QStringLiteral("--word: there are no strokes for any of it"));
+  }
+  for (const LeftOut& each : word.leftOut) {
+    Fail(kDone, QStringLiteral("left out: ") + QString::fromStdString(each.text));
+  }
+  if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
+  const std::string text = request.word.toStdString();
+  return Print(request.penStrokes ? PenStrokesAsJson(word, text) : WordAsJson(word, text));
+}
+
 ExitStatus Answer(const QStringList& arguments) {
   const Parsed parsed = ParseArguments(arguments);
   if (!parsed.error.isEmpty()) return Fail(kBadArguments, parsed.error);
   if (!parsed.text.isEmpty()) return Print(parsed.text.toStdString());
   const Request& request = parsed.request;
+  if (!request.word.isEmpty()) return AnswerWord(request);
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   for (int tile = request.firstTile; tile <= request.lastTile; ++tile) {
     const ExitStatus status =

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "tools/strokes/number_text.h"
+#include "tools/strokes/word_report.h"
 
 namespace bramlee {
 namespace {
@@ -27,15 +28,22 @@ std::string PathAsJson(const StrokePath& path) {
          ", \"closed\": " + (path.closed ? "true" : "false") + '}';
 }
 
+std::string BoxAndStrokes(const Letter& letter) {
+  const Box& box = letter.Bounds();
+  const double sides[] = {box.x, box.y, box.width, box.height};
+  return ", \"box\": " + List<double>(sides, ToThousandth) +
+         ", \"strokes\": " + List<StrokePath>(letter.Shape().strokes, PathAsJson) + "}\n";
+}
+
 }  // namespace
 
 std::string PenStrokesAsJson(const Letter& letter) {
-  const Box& box = letter.Bounds();
-  const double sides[] = {box.x, box.y, box.width, box.height};
   return "{\"set\": \"" + std::string(letter.Id().set) +
-         "\", \"tile\": " + std::to_string(letter.Id().tile) +
-         ", \"box\": " + List<double>(sides, ToThousandth) +
-         ", \"strokes\": " + List<StrokePath>(letter.Shape().strokes, PathAsJson) + "}\n";
+         "\", \"tile\": " + std::to_string(letter.Id().tile) + BoxAndStrokes(letter);
+}
+
+std::string PenStrokesAsJson(const Word& word, std::string_view text) {
+  return "{\"word\": " + QuotedForJson(text) + BoxAndStrokes(word.letter);
 }
 
 }  // namespace bramlee

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
-#include "strokes/letter.h"
+#include "strokes/word.h"
 
 namespace bramlee {
 
@@ -11,5 +12,8 @@ namespace bramlee {
 /// direction of the pen: one JSON object in one line, its end included. Coordinates are sheet
 /// pixels, to a thousandth.
 std::string PenStrokesAsJson(const Letter& letter);
+
+/// The same of a word, with the text that was asked for.
+std::string PenStrokesAsJson(const Word& word, std::string_view text);
 
 }  // namespace bramlee

@@ -12,15 +12,27 @@
 #include "letters/letter_names.h"
 #include "strokes/letter.h"
 #include "strokes/run_lines.h"
+#include "tools/strokes/word_report.h"
 
 namespace bramlee {
 namespace {
 
 /// What a picture shows of the sheet, in sheet pixels: room for all that any set writes, a digit
 /// at the fifth place of a number being the furthest.
-constexpr QRect kShown(0, 0, 1400, 600);
+constexpr QRect kShownOfATile(0, 0, 1400, 600);
+/// Around a word.
+constexpr int kMargin = 40;
+
+QRect ShownOf(const Request& request, const Letter& letter) {
+  if (request.word.isEmpty()) return kShownOfATile;
+  const Box& box = letter.Bounds();
+  return QRectF(box.x, box.y, box.width, box.height)
+      .toAlignedRect()
+      .adjusted(-kMargin, -kMargin, kMargin, kMargin);
+}
 
 QColor GroundOf(const Request& request) {
+  if (request.set == nullptr) return ColourOf(kGround);
   return ColourOf(request.set->sheet == SheetKind::Capitals ? kCapitalsGround : kGround);
 }
 
@@ -32,7 +44,14 @@ LineRule SvgLines(const Request& request) {
 }
 
 Letter LetterAsked(const Request& request) {
+  if (!request.word.isEmpty()) return WordAsked(request).letter;
   return RecordTile(request.Tile(request.firstTile), request.step);
+}
+
+QString TitleOf(const Request& request) {
+  if (!request.word.isEmpty()) return request.word;
+  return QString::fromStdString(
+      LetterName(request.set->name, request.firstTile, request.form.book));
 }
 
 QString PointText(char command, const Point& point) {
@@ -63,20 +82,28 @@ QString WriteSvg(const Request& request) {
   const auto attribute = [&svg](const char* name, const QString& value) {
     svg.writeAttribute(QString::fromLatin1(name), value);
   };
-  const auto size = [&attribute] {
-    attribute("width", QString::number(kShown.width()));
-    attribute("height", QString::number(kShown.height()));
+  const Letter letter = LetterAsked(request);
+  const QRect shown = ShownOf(request, letter);
+  const auto size = [&attribute, &shown] {
+    attribute("width", QString::number(shown.width()));
+    attribute("height", QString::number(shown.height()));
   };
   svg.setAutoFormatting(true);
   svg.writeStartDocument();
   svg.writeStartElement(QStringLiteral("svg"));
   svg.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
   size();
-  attribute("viewBox", QStringLiteral("0 0 %1 %2").arg(kShown.width()).arg(kShown.height()));
-  svg.writeTextElement(
-      QStringLiteral("title"),
-      QString::fromStdString(LetterName(request.set->name, request.firstTile, request.form.book)));
+  attribute("viewBox", QStringLiteral("%1 %2 %3 %4")
+                           .arg(shown.x())
+                           .arg(shown.y())
+                           .arg(shown.width())
+                           .arg(shown.height()));
+  svg.writeTextElement(QStringLiteral("title"), TitleOf(request));
   svg.writeEmptyElement(QStringLiteral("rect"));
+  if (!shown.topLeft().isNull()) {
+    attribute("x", QString::number(shown.x()));
+    attribute("y", QString::number(shown.y()));
+  }
   size();
   attribute("fill", GroundOf(request).name());
   svg.writeStartElement(QStringLiteral("g"));
@@ -85,7 +112,6 @@ QString WriteSvg(const Request& request) {
   attribute("stroke-width", QString::number(kDrawWidth));
   attribute("stroke-linecap", QStringLiteral("round"));
   attribute("stroke-linejoin", QStringLiteral("round"));
-  const Letter letter = LetterAsked(request);
   for (const Run& run : letter.Runs()) {
     const std::vector<Lines> pieces = LinesOf(run, SvgLines(request));
     if (pieces.empty()) continue;
@@ -104,7 +130,7 @@ QString WritePng(const Request& request) {
   const Letter letter = LetterAsked(request);
   for (const Run& run : letter.Runs()) WriteRun(ink, run);
 
-  const QImage picture = ink.Picture(kShown, request.scale, GroundOf(request));
+  const QImage picture = ink.Picture(ShownOf(request, letter), request.scale, GroundOf(request));
   QImageWriter png(&file, "png");
   if (!png.write(picture)) return QStringLiteral("%1: %2").arg(request.png, png.errorString());
   return file.commit() ? QString() : CannotWrite(file);

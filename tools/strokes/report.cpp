@@ -3,31 +3,9 @@
 #include "engine/last_point.h"
 #include "strokes/letter.h"
 #include "tools/strokes/number_text.h"
+#include "tools/strokes/run_text.h"
 
 namespace bramlee {
-namespace {
-
-std::string List(std::span<const double> numbers) {
-  std::string list;
-  for (const double number : numbers) {
-    if (!list.empty()) list += ',';
-    list += ShortestText(number);
-  }
-  return '[' + list + ']';
-}
-
-std::string Runs(const Letter& letter) {
-  std::string runs;
-  for (const Run& run : letter.Runs()) {
-    if (!runs.empty()) runs += ',';
-    runs += std::string("{\"run\":\"") + PrimitiveName(run.primitive) +
-            "\",\"args\":" + List(run.Arguments()) +
-            ",\"dots\":" + std::to_string(DotCount(run, letter.Step())) + '}';
-  }
-  return '[' + runs + ']';
-}
-
-}  // namespace
 
 std::string StrokesAsJson(const Request& request, int tile) {
   const Letter letter = RecordTile(request.Tile(tile), request.step);
@@ -41,9 +19,9 @@ std::string StrokesAsJson(const Request& request, int tile) {
   if (request.form.book) add("book", HasBookForm(*request.set, tile, request.form) ? "1" : "0");
   if (request.form.place != 0) add("place", std::to_string(request.form.place));
   add("step", ShortestText(request.step));
-  add("strokes", Runs(letter));
+  add("strokes", RunsAsJson(letter));
   const double last[] = {LastX, LastY, LastX2, LastY2};
-  add("last", List(last));
+  add("last", NumbersAsJson(last));
   return line + "}\n";
 }
 

@@ -16,6 +16,13 @@ constexpr double kLargestScale = 8;
 struct Options {
   QCommandLineOption given{QStringLiteral("given"),
                            QStringLiteral("The letters as given, as without --book.")};
+  QCommandLineOption word{
+      QStringLiteral("word"),
+      QStringLiteral("A word instead of a tile: letters of the book on one line."),
+      QStringLiteral("TEXT")};
+  QCommandLineOption headPerLetter{
+      QStringLiteral("head-per-letter"),
+      QStringLiteral("The head line over each letter of the word, not once over all of it.")};
   QCommandLineOption step{
       QStringLiteral("step"),
       QStringLiteral("Pixels between the dots of a line, degrees between those of an arc. "
@@ -45,12 +52,14 @@ class Reader {
             "object a line and tile, or as a picture. Without TILE it tells every tile.\n"
             "BOARD is one of: %1")
             .arg(BoardNames()));
-    parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."));
+    parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."),
+                                  QStringLiteral("[BOARD]"));
     parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."),
                                   QStringLiteral("[TILE]"));
     letters_.AddTo(parser_);
-    parser_.addOptions({options_.given, options_.step, options_.penStrokes, options_.svg,
-                        options_.png, options_.scale, help_, version_});
+    parser_.addOptions({options_.given, options_.word, options_.headPerLetter, options_.step,
+                        options_.penStrokes, options_.svg, options_.png, options_.scale, help_,
+                        version_});
     parsed_ = parser_.parse(arguments);
   }
 
@@ -71,7 +80,25 @@ class Reader {
   }
 
  private:
-  QString ReadLetters() { return letters_.Read(parser_, request_); }
+  QString ReadLetters() {
+    if (parser_.isSet(options_.word)) return ReadWord();
+    if (!parser_.isSet(options_.headPerLetter)) return letters_.Read(parser_, request_);
+    return QStringLiteral("--head-per-letter: goes with --word");
+  }
+
+  QString ReadWord() {
+    request_.word = parser_.value(options_.word);
+    request_.headPerLetter = parser_.isSet(options_.headPerLetter);
+    if (request_.word.trimmed().isEmpty()) return QStringLiteral("--word: there is no word");
+    if (!parser_.positionalArguments().isEmpty()) {
+      return QStringLiteral("--word: goes without BOARD and TILE");
+    }
+    for (const char* option : {"alt", "book", "given", "place"}) {
+      const QString name = QString::fromLatin1(option);
+      if (parser_.isSet(name)) return QStringLiteral("--word: goes without --%1").arg(name);
+    }
+    return {};
+  }
 
   QString ReadGiven() {
     if (!request_.form.book || !parser_.isSet(options_.given)) return {};

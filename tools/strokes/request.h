@@ -12,10 +12,12 @@ namespace bramlee {
 /// A request that can be carried out.
 struct Request : LetterRequest {
   double step = kUsualStep;
-  bool penStrokes = false;  ///< whether pen strokes are asked for, rather than runs
-  QString svg;              ///< the file for the letter as SVG; empty for none
-  QString png;              ///< the file for the letter as PNG; empty for none
-  double scale = 1;         ///< of the PNG: its pixels to a sheet pixel
+  bool penStrokes = false;     ///< whether pen strokes are asked for, rather than runs
+  QString svg;                 ///< the file for the letter as SVG; empty for none
+  QString png;                 ///< the file for the letter as PNG; empty for none
+  QString word;                ///< a text instead of a tile's letter; empty for none
+  bool headPerLetter = false;  ///< of a word: the head line over each letter
+  double scale = 1;            ///< of the PNG: its pixels to a sheet pixel
 };
 
 /// What the arguments come to: a text to print (help, version), an error of one line, or, when

@@ -1,0 +1,32 @@
+// Where words stand on a board's sheet.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "board/rules.h"
+#include "strokes/word.h"
+#include "writing/page.h"
+
+namespace bramlee {
+
+/// The room for words on a sheet, in sheet pixels.
+struct WordRoom {
+  SheetExtent around;  ///< what the board's rules take up
+  double head = 0;     ///< where capitals end and head lines run
+  double base = 0;     ///< where letters stand
+};
+
+/// A text on a sheet.
+struct SetText {
+  std::vector<PlacedLetter> lines;  ///< from above, each one letter of the page; may be none
+  std::vector<LeftOut> leftOut;
+};
+
+/// Sets a text as large as it fits: on one line it stands between head and base, smaller where it
+/// is longer than the room, with its feet on the base; a text that would be larger on several lines
+/// fills the room from line to line.
+SetText SetWords(std::string_view text, const WordOptions& options, const WordRoom& room,
+                 std::uint32_t colour);
+
+}  // namespace bramlee

@@ -1,0 +1,102 @@
+#include "companions/words/words.h"
+
+#include <QShortcut>
+#include <utility>
+
+#include "board/board.h"
+#include "board/strip.h"
+#include "board/strip_pictures.h"
+#include "card/card_file.h"
+#include "companions/words/word_lines.h"
+#include "companions/words/words_panel.h"
+#include "files/trap.h"
+#include "strokes/writing_lines.h"
+#include "ui/choices.h"
+
+namespace bramlee {
+namespace {
+
+/// A tag for what cannot be written for lack of memory.
+const QString kTag = QStringLiteral("wor:01");
+
+/// A line with letters on it: a ring, a stem, a ring.
+QIcon WordsPicture() {
+  return StripPicture({
+      StripArc({26,       56      },
+      16, 0, 360),
+      {{52, 20}, {52, 72}},
+      StripArc({76,       56      },
+      16, 0, 360),
+      {{10, 86}, {92, 86}},
+  });
+}
+
+/// Words stand where the board's own letters do: their capitals are as high as its capitals, or as
+/// its tall small letters.
+WordRoom RoomOn(const Board& board) {
+  const WritingLines lines = WritingLinesOf(board.letters().name);
+  const bool small = board.letters().sheet == SheetKind::SmallLetters;
+  return {.around = board.record().ruleExtent,
+          .head = small ? lines.top : lines.bodyTop,
+          .base = lines.base};
+}
+
+/// One a board.
+class WordWriting : public QObject {
+ public:
+  explicit WordWriting(Board& board) : QObject(&board), board_(board) {
+    panel_ = new WordsPanel(
+        &board, [this] { Do(&WordWriting::Write); }, [this] { Do(&WordWriting::WriteMyName); });
+    const auto open = [this] { panel_->Present(); };
+    board.strip().AddButton(Strip::Group::Teacher,
+                            {.name = "strip_words",
+                             .text = QStringLiteral("Words"),
+                             .key = QStringLiteral("W"),
+                             .picture = WordsPicture()},
+                            open);
+    board.strip().OnKey(Qt::Key_W, open);
+    auto* whenIdle = new QShortcut(Qt::Key_W, &board);
+    whenIdle->setAutoRepeat(false);
+    connect(whenIdle, &QShortcut::activated, this, open);
+    connect(&board.pen(), &BoardPen::Changed, this,
+            [this] { panel_->SetWriting(board_.pen().IsWriting()); });
+  }
+
+ private:
+  void Do(void (WordWriting::*act)()) {
+    Trap(kTag, [this, act](ErrInfo&) { (this->*act)(); });
+  }
+
+  void WriteMyName() {
+    const QString name = NameOnCard();
+    if (name.isEmpty()) return panel_->Say(QStringLiteral("The card has no name on it yet."));
+    panel_->SetText(name);
+    Write();
+  }
+
+  void Write() {
+    if (board_.pen().IsWriting()) return;  // Return in the line, in a pause
+    const bool perLetter =
+        Choices::Instance().Of(QString::fromLatin1(kPerLetterChoice), false).toBool();
+    const WordOptions options{.headLine = perLetter ? HeadLine::PerLetter : HeadLine::Once,
+                              .step = board_.sheet().Step()};
+    SetText set =
+        SetWords(panel_->Text().toStdString(), options, RoomOn(board_), board_.sheet().ForeColor());
+    panel_->Say(NamesOf(set.leftOut));
+    if (set.lines.empty()) return;
+    board_.StartGroup();
+    const BoardPen::Writing writing(board_.pen());  // one for all lines: a close waits for the last
+    for (PlacedLetter& line : set.lines) board_.pen().Write(std::move(line), nullptr);
+  }
+
+  Board& board_;
+  WordsPanel* panel_ = nullptr;
+};
+
+}  // namespace
+
+void AddWords(Board& board) {
+  new WordWriting(board);
+}
+
+}  // namespace bramlee

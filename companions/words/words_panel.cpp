@@ -1,0 +1,120 @@
+#include "companions/words/words_panel.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QStringList>
+#include <algorithm>
+#include <utility>
+
+#include "companions/words/words.h"
+#include "ui/choices.h"
+#include "ui/held_input.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kMostCharacters = 400;
+constexpr int kWidth = 620;
+constexpr int kTextPixels = 26;  ///< large enough to see which signs a letter has
+constexpr qsizetype kMostNamed = 6;
+
+QCheckBox* PerLetterBox(QWidget* panel) {
+  auto* box = new QCheckBox(QStringLiteral("&Head line over each letter"), panel);
+  box->setObjectName(QStringLiteral("words_head"));
+  const QString choice = QString::fromLatin1(kPerLetterChoice);
+  box->setChecked(Choices::Instance().Of(choice, false).toBool());
+  QObject::connect(box, &QCheckBox::toggled,
+                   [choice](bool on) { Choices::Instance().Choose(choice, on); });
+  QObject::connect(&Choices::Instance(), &Choices::Changed, box,
+                   [box, choice](const QString& name) {
+                     if (name == choice)
+                       box->setChecked(Choices::Instance().Of(choice, false).toBool());
+                   });
+  return box;
+}
+
+}  // namespace
+
+WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::function<void()> writeMy)
+    : QWidget(board, Qt::Tool),
+      text_(new QLineEdit(this)),
+      write_(new QPushButton(QStringLiteral("&Write"), this)),
+      myName_(new QPushButton(QStringLiteral("&My name"), this)),
+      said_(new QLabel(this)) {
+  setObjectName(QStringLiteral("words_panel"));
+  setWindowTitle(QStringLiteral("Words"));
+  text_->setObjectName(QStringLiteral("words_text"));
+  text_->setAccessibleName(QStringLiteral("Word to write"));
+  text_->setPlaceholderText(QStringLiteral("Type a word or a name"));
+  text_->setMaxLength(kMostCharacters);
+  QFont large = text_->font();
+  large.setPixelSize(kTextPixels);
+  text_->setFont(large);
+  write_->setObjectName(QStringLiteral("words_write"));
+  myName_->setObjectName(QStringLiteral("words_my_name"));
+  myName_->setToolTip(QStringLiteral("The name on the biodata card"));
+  said_->setObjectName(QStringLiteral("words_said"));
+  said_->setTextFormat(Qt::PlainText);
+  said_->setWordWrap(true);
+  auto* layout = new QGridLayout(this);
+  layout->addWidget(text_, 0, 0, 1, 3);
+  layout->addWidget(PerLetterBox(this), 1, 0);
+  layout->addWidget(myName_, 1, 1);
+  layout->addWidget(write_, 1, 2);
+  layout->addWidget(said_, 2, 0, 1, 3);
+  layout->setColumnStretch(0, 1);
+  connect(text_, &QLineEdit::textChanged, this, [this] { FollowText(); });
+  connect(text_, &QLineEdit::returnPressed, write_, &QPushButton::click);
+  connect(write_, &QPushButton::clicked, this, std::move(write));
+  connect(myName_, &QPushButton::clicked, this, std::move(writeMy));
+  HoldInput::Admit(this);
+  FollowText();
+}
+
+void WordsPanel::Present() {
+  resize(std::min(kWidth, parentWidget()->width()), sizeHint().height());
+  const QRect board(parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size());
+  const int edge = 2 * fontMetrics().height() + 60;  // the strip stays free
+  move(board.center().x() - width() / 2, board.bottom() - edge - height());
+  show();
+  raise();
+  activateWindow();
+  text_->setFocus();
+  text_->selectAll();
+}
+
+void WordsPanel::SetWriting(bool on) {
+  writing_ = on;
+  FollowText();
+}
+
+void WordsPanel::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) return hide();
+  QWidget::keyPressEvent(event);
+}
+
+void WordsPanel::FollowText() {
+  write_->setEnabled(!writing_ && !text_->text().trimmed().isEmpty());
+  myName_->setEnabled(!writing_);
+}
+
+QString NamesOf(std::span<const LeftOut> leftOut) {
+  QStringList names;
+  for (const LeftOut& each : leftOut) {
+    const QString text = QString::fromStdString(each.text);
+    const char32_t code = text.toUcs4().value(0);
+    const QString name = QStringLiteral("%1 (U+%2)")
+                             .arg(text)
+                             .arg(static_cast<uint>(code), 4, 16, QLatin1Char('0'))
+                             .toUpper();
+    if (!names.contains(name)) names.append(name);
+  }
+  if (names.isEmpty()) return {};
+  const qsizetype more = names.size() - kMostNamed;
+  if (more > 0) names = names.first(kMostNamed) + QStringList{QStringLiteral("%1 more").arg(more)};
+  return QStringLiteral("Left out, as there are no strokes for it: ") +
+         names.join(QStringLiteral(", "));
+}
+
+}  // namespace bramlee

@@ -1,0 +1,205 @@
+// The companion that has a board write words.
+#include "companions/words/words.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "board/companions.h"
+#include "board/strip.h"
+#include "card/card_file.h"
+#include "companions/watch/watch.h"
+#include "companions/words/words_panel.h"
+#include "files/data_files.h"
+#include "tests/board/board_fixture.h"
+#include "ui/choices.h"
+
+namespace bramlee {
+namespace {
+
+class WordsTest : public BoardTest {
+ protected:
+  static void SetUpTestSuite() {
+    static const bool added = [] {
+      AddCompanion(AddWatching);
+      AddCompanion(AddWords);
+      return true;
+    }();
+    ASSERT_TRUE(added);
+  }
+
+  static void Type(const Board& board, const QString& text) {
+    board.Named<QLineEdit>(Q("words_text"))->setText(text);
+  }
+  static void Press(const Board& board, const char* button) {
+    board.Named<QPushButton>(Q(button))->click();
+  }
+  static void Write(const Board& board, const char* text) {
+    Type(board, QString::fromUtf8(text));
+    Press(board, "words_write");
+  }
+  static QString Said(const Board& board) { return board.Named<QLabel>(Q("words_said"))->text(); }
+  static std::size_t LettersOn(Board& board) { return board.pen().Letters().Letters().size(); }
+  static std::size_t DotsOn(const Board& board) {
+    const QImage picture = board.sheet().Dots().Picture(QRectF(0, 0, 1300, 700), 1, Qt::white);
+    std::size_t dots = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x)
+        dots += picture.pixelColor(x, y) != QColor(Qt::white);
+    }
+    return dots;
+  }
+  void NameCard(const char* name) {
+    MakeDataFolder();
+    StudentRec rec;
+    rec.StudentName.Set(QString::fromUtf8(name));
+    const FileSlot slot = TakeSlot(kCardSlot);
+    FileSave save(slot.SlotPath);
+    RecordFile(slot, save).Put(1, EncodeStudent(rec));
+    save.Commit();
+  }
+};
+
+TEST_F(WordsTest, HasAButtonThatOpensAWindowToTypeIn) {
+  Board& board = Open("fbrmhinv01");
+  auto* button = board.Named<StripButton>(Q("strip_words"));
+  EXPECT_EQ(button->toolTip(), Q("Words (W)"));
+  EXPECT_FALSE(button->icon().isNull());
+  auto* panel = board.findChild<QWidget*>(Q("words_panel"));
+  EXPECT_TRUE(panel->isHidden());
+  button->click();
+  EXPECT_FALSE(panel->isHidden());
+  QTest::keyClick(panel, Qt::Key_Escape);
+  EXPECT_TRUE(panel->isHidden());
+}
+
+TEST_F(WordsTest, WritesAWordOfEachScriptOnEveryBoard) {
+  for (const char* form : {"fbrmengc02", "fbrmengs01", "fbrmhinv01", "fbrmtelc01"}) {
+    Board& board = Open(form);
+    for (const char* text : {"Anna", "राधा", "రవి", "12"}) {
+      Write(board, text);
+      EXPECT_EQ(LettersOn(board), 1U) << form << text;
+      EXPECT_GT(DotsOn(board), 2000U) << form << text;
+      EXPECT_EQ(Said(board), QString()) << text;
+    }
+  }
+}
+
+TEST_F(WordsTest, WipesWhatStoodThereAndKeepsTheColour) {
+  Board& board = Open("fbrmhinv01");
+  Pick(board, "mnucolor(2)");
+  const ColourWord colour = board.sheet().ForeColor();
+  board.pic_Click(1);
+  Write(board, "Ravi");
+  ASSERT_EQ(LettersOn(board), 1U);
+  EXPECT_EQ(board.pen().Letters().Letters()[0].colour, colour);
+  EXPECT_EQ(board.pen().Letters().Letters()[0].letter.Id().tile, 0);
+}
+
+TEST_F(WordsTest, BreaksALongTextIntoLines) {
+  Board& board = Open("fbrmtelv01");
+  Write(board, QString(200, QLatin1Char('m')).toUtf8().constData());
+  EXPECT_GT(LettersOn(board), 2U);
+  EXPECT_GT(DotsOn(board), 2000U);
+}
+
+TEST_F(WordsTest, NamesWhatIsLeftOutAndWritesTheRest) {
+  Board& board = Open("fbrmengc02");
+  Write(board, "Zoé é \U0001F600");
+  EXPECT_EQ(LettersOn(board), 1U);
+  EXPECT_TRUE(Said(board).contains(QString::fromUtf8("é"), Qt::CaseInsensitive))
+      << Said(board).toStdString();
+  EXPECT_EQ(Said(board).count(Q("U+00E9")), 1);
+  EXPECT_TRUE(Said(board).contains(Q("U+1F600")));
+  Write(board, "Zo");
+  EXPECT_EQ(Said(board), QString());
+}
+
+TEST_F(WordsTest, LeavesTheSheetAloneWhenNothingCanBeWritten) {
+  Board& board = Open("fbrmengc02");
+  board.pic_Click(1);
+  const std::size_t dots = DotsOn(board);
+  Write(board, "\u0645\u05E9");
+  EXPECT_EQ(DotsOn(board), dots);
+  EXPECT_TRUE(Said(board).contains(Q("U+0645")));
+  Type(board, Q("   "));
+  EXPECT_FALSE(board.Named<QPushButton>(Q("words_write"))->isEnabled());
+}
+
+TEST_F(WordsTest, WritesTheNameOnTheCard) {
+  Board& board = Open("fbrmhinc01");
+  NameCard("Kavya");
+  Press(board, "words_my_name");
+  EXPECT_EQ(board.Named<QLineEdit>(Q("words_text"))->text(), Q("Kavya"));
+  EXPECT_EQ(LettersOn(board), 1U);
+}
+
+TEST_F(WordsTest, SaysWhenTheCardHasNoName) {
+  Board& board = Open("fbrmhinc01");
+  Press(board, "words_my_name");
+  EXPECT_EQ(Said(board), Q("The card has no name on it yet."));
+  MakeDataFolder();
+  ProvideCard();
+  ASSERT_FALSE(FileMissing(Q("C:\\bramlee\\dba\\brmstu1.dat")));
+  ASSERT_EQ(NameOnCard(), QString());
+  Press(board, "words_my_name");
+  EXPECT_EQ(Said(board), Q("The card has no name on it yet."));
+  EXPECT_EQ(LettersOn(board), 0U);
+}
+
+TEST_F(WordsTest, DrawsTheHeadLineOverEachLetterWhereChosen) {
+  Board& board = Open("fbrmhinv01");
+  Write(board, "कमल");
+  const auto strokes = [&] {
+    return board.pen().Letters().Letters()[0].letter.PenStrokes().size();
+  };
+  const std::size_t once = strokes();
+  Choices::Instance().Choose(Q(kPerLetterChoice), true);
+  Write(board, "कमल");
+  EXPECT_EQ(strokes(), once + 2);
+  Choices::Instance().Choose(Q(kPerLetterChoice), false);
+}
+
+TEST_F(WordsTest, TakesTypingButNoSecondWordWhileOneIsWritten) {
+  Board& board = Open("fbrmengs01");
+  int frames = 0;
+  board.pen().SetFrameCall([&] {
+    if (++frames != 3) return;
+    Type(board, Q("next"));
+    EXPECT_FALSE(board.Named<QPushButton>(Q("words_write"))->isEnabled());
+    Q_EMIT board.Named<QLineEdit>(Q("words_text"))->returnPressed();
+  });
+  board.SetText(Q("txtspd"), Q("0.03"));
+  Write(board, "first");
+  board.pen().SetFrameCall(nullptr);
+  ASSERT_GT(frames, 3);
+  EXPECT_EQ(LettersOn(board), 1U);
+  EXPECT_TRUE(board.Named<QPushButton>(Q("words_write"))->isEnabled());
+  EXPECT_EQ(board.Named<QLineEdit>(Q("words_text"))->text(), Q("next"));
+}
+
+TEST_F(WordsTest, IsStepped) {
+  Board& board = Open("fbrmengs01");
+  Write(board, "ab");
+  const std::size_t dots = DotsOn(board);
+  EXPECT_TRUE(board.pen().StrokeBack());
+  EXPECT_LT(DotsOn(board), dots);
+  board.pen().StrokeOn();
+  EXPECT_EQ(DotsOn(board), dots);
+  board.pen().Again();
+  EXPECT_EQ(DotsOn(board), dots);
+}
+
+TEST(LeftOutTest, IsNamedOnceAndNotAtLength) {
+  EXPECT_EQ(NamesOf({}), QString());
+  std::vector<LeftOut> many;
+  for (const char* text : {"б", "б", "в", "г", "д", "е", "ж", "з"})
+    many.push_back({.text = text, .at = 0});
+  const QString said = NamesOf(many);
+  EXPECT_EQ(said.count(Q("U+")), 6);
+  EXPECT_TRUE(said.endsWith(Q("1 more")));
+}
+
+}  // namespace
+}  // namespace bramlee
