@@ -1,15 +1,13 @@
 // The hand on the pen of the capitals board, on a display as large as that is: what a pause takes
 // of a processor, and how long a stroke back takes until it is shown.
-#include <sys/resource.h>
-
 #include <QApplication>
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <vector>
 
+#include "bench/pen/clocks.h"
 #include "board/board.h"
 #include "board/companions.h"
 #include "companions/watch/watch.h"
@@ -21,19 +19,6 @@ namespace {
 
 constexpr double kPauseSeconds = 5;
 constexpr int kStepsBack = 20;
-
-double RealSeconds() {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
-
-double ProcessorSeconds() {
-  rusage used{};
-  getrusage(RUSAGE_SELF, &used);
-  const auto seconds = [](const timeval& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-  };
-  return seconds(used.ru_utime) + seconds(used.ru_stime);
-}
 
 /// Pauses in the letter's fifth frame, and goes on once the time is over.
 void MeasurePause(Board& board) {

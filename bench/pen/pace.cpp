@@ -3,15 +3,13 @@
 // With the argument "strip" the board has one, and the hand on the pen.
 #include "board/pace.h"
 
-#include <sys/resource.h>
-
 #include <QApplication>
 #include <QScreen>
 #include <QTimer>
-#include <chrono>
 #include <cstdio>
 #include <string>
 
+#include "bench/pen/clocks.h"
 #include "board/board.h"
 #include "board/companions.h"
 #include "companions/watch/watch.h"
@@ -39,19 +37,6 @@ double Nominal(const Board& board, int letter) {
   StrokeRec rec = FillStrokeRec(board.letters().sheet, static_cast<std::int16_t>(letter));
   board.letters().write(rec, counter);
   return counter.Dots() / kDotsPerSecond;
-}
-
-double RealSeconds() {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
-
-double ProcessorSeconds() {
-  rusage used{};
-  getrusage(RUSAGE_SELF, &used);
-  const auto seconds = [](const timeval& time) {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-  };
-  return seconds(used.ru_utime) + seconds(used.ru_stime);
 }
 
 struct Figures {

@@ -4,7 +4,6 @@
 #include <QEvent>
 
 #include "tests/media/player_form_fixture.h"
-#include "ui/message_box.h"
 
 namespace bramlee {
 namespace {

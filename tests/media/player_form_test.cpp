@@ -13,7 +13,6 @@
 #include "tests/media/player_form_fixture.h"
 #include "tests/media/sound_files.h"
 #include "tests/ui/failing_event.h"
-#include "ui/message_box.h"
 #include "ui/screen.h"
 #include "ui/screen_rec.h"
 
