@@ -20,6 +20,10 @@ class Figure {
   const Practice& Shown() const { return practice_; }
   /// How many millimetres a sheet pixel is.
   double Scale() const { return scale_; }
+  /// Where the model's numbers stand, in sheet pixels.
+  const std::vector<StrokeNumber>& Numbers() const { return numbers_; }
+  /// The dots of a dotted one, in sheet pixels.
+  const QList<QPointF>& Dots() const { return dots_; }
   std::size_t Strokes() const { return practice_.letter.PenStrokes().size(); }
 
   /// From the middle of its ink to the furthest edge, numbers included, in millimetres.

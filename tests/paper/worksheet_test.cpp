@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QTemporaryDir>
 
+#include "letters/letter_sets.h"
+#include "paper/figure.h"
 #include "paper/heading.h"
 #include "paper/pdf_file.h"
 #include "tests/paper/pdf_reading.h"
@@ -200,6 +202,23 @@ TEST(Worksheet, MakesALongWordSmallerAndThenBreaksIt) {
   for (const QRectF& box : {once, smaller, lines}) {
     EXPECT_GE(box.left(), kMarginMm - 0.1);
     EXPECT_LE(box.right(), 210 - kMarginMm + 0.1);
+  }
+}
+
+/// Every letter of the book and every alternative one, at each size.
+TEST(Figures, SweepOfAllLettersHasCleanNumbers) {
+  for (const double body : kBodySizesMm) {
+    int numbers = 0, clean = 0;
+    for (const LetterSet& set : LetterSets()) {
+      for (int tile = 1; tile <= set.tiles; ++tile) {
+        const Figure figure(Tile(set.name, tile), body, Hand::Right);
+        for (const StrokeNumber& number : figure.Numbers()) {
+          if (number.radius > 0) ++numbers, clean += number.clean ? 1 : 0;
+        }
+      }
+    }
+    EXPECT_GT(numbers, 500);
+    EXPECT_GE(clean * 100, numbers * 99) << body << " mm: " << clean << " of " << numbers;
   }
 }
 
