@@ -16,12 +16,12 @@ namespace {
 constexpr double kNumber = 3.2;      ///< size of a sum's own number
 constexpr double kNumberRoom = 9;    ///< before its first digit
 constexpr double kAnswersTitle = 7;  ///< the line that says so, on an answer page
-constexpr double kColumnGap = 8;
+constexpr double kColumnGap = 5;
 
 // As parts of the digits' height.
 constexpr double kRowPitch = 2.2;
 constexpr double kPen = 0.06;
-constexpr double kAnswerRoom = 2.6;  ///< a line as long as the largest result
+constexpr double kAnswerRoom = 2.2;  ///< a line as long as the largest result
 
 QString SignOf(SumKind kind) {
   switch (kind) {
@@ -143,7 +143,7 @@ class SumPages : public PrintedPages {
     } else {
       painter.setPen(QPen(kRuleInk, kRuleMm));
       painter.drawLine(QPointF(answer, base),
-                       QPointF(answer + (kAnswerRoom - 0.4) * sheet_.digitMm, base));
+                       QPointF(answer + (kAnswerRoom - 0.3) * sheet_.digitMm, base));
     }
   }
 

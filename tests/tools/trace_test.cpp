@@ -233,6 +233,7 @@ TEST(BadTraceArguments, NameWhatWouldBeRight) {
   EXPECT_EQ(Trace("engc 1 --level kind").error,
             "bramlee-trace: --level: no level \"kind\": strict normal gentle toddler\n");
   EXPECT_EQ(Trace("engc").error, "bramlee-trace: no tile is named\n");
+  EXPECT_EQ(Trace("engc 1-2").error, "bramlee-trace: one tile at a time\n");
 }
 
 TEST(TraceHelp, ListsSetsAndOptionsAndReturns0) {

@@ -20,13 +20,17 @@ QString ReadBoard(const QStringList& arguments, LetterRequest& request) {
 QString ReadTile(const QStringList& arguments, LetterRequest& request) {
   request.lastTile = request.set->tiles;
   if (arguments.size() < 2) return {};
-  const auto tile = NumberIn<int>(arguments.at(1));
-  if (!tile || *tile < 1 || *tile > request.set->tiles) {
+  const QStringList ends = arguments.at(1).split(u'-');
+  const auto first = NumberIn<int>(ends.constFirst());
+  const auto last = NumberIn<int>(ends.constLast());
+  const bool isRange = first && last && ends.size() <= 2 && *first <= *last;
+  if (!isRange || *first < 1 || *last > request.set->tiles) {
     return QStringLiteral("no tile \"%1\": %2 has tiles 1 to %3")
         .arg(arguments.at(1), SetName(*request.set))
         .arg(request.set->tiles);
   }
-  request.firstTile = request.lastTile = *tile;
+  request.firstTile = *first;
+  request.lastTile = *last;
   return {};
 }
 

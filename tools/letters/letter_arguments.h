@@ -36,8 +36,8 @@ struct LetterRequest {
   LetterId Tile(int tile) const { return {.set = set->name, .tile = tile, .form = form}; }
 };
 
-/// The arguments that the tools for letters share: a set, a tile or none for all of them, and the
-/// form.
+/// The arguments that the tools for letters share: a set, a tile, a range of them ("3-10") or none
+/// for all of them, and the form.
 class LetterArguments {
  public:
   /// Adds the options of the form. The arguments without a name are the tool's to describe.

@@ -39,6 +39,7 @@ class Reader {
     const QString error = letters_.Read(parser_, letters);
     if (!error.isEmpty()) return Error(error);
     if (parser_.positionalArguments().size() < 2) return Error(QStringLiteral("no tile is named"));
+    if (letters.firstTile != letters.lastTile) return Error(QStringLiteral("one tile at a time"));
     const QString levelText = parser_.value(level_);
     const std::optional<TraceLevel> level = TraceLevelNamed(levelText.toStdString());
     if (!level) {

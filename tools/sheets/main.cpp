@@ -1,0 +1,74 @@
+// bramlee-sheets: makes sheets of letters to write, as a PDF.
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <csignal>
+#include <cstdio>
+
+#include "paper/pdf_file.h"
+#include "tools/sheets/sheets_request.h"
+
+namespace bramlee {
+namespace {
+
+enum ExitStatus { kDone = 0, kFailed = 1, kBadArguments = 2 };
+
+/// How often a long document tells how far it is, in pages.
+constexpr int kPagesATime = 10;
+
+volatile std::sig_atomic_t stopped = 0;
+
+void Stop(int /*signal*/) {
+  stopped = 1;
+}
+
+void Say(const QString& text) {
+  std::fprintf(stderr, "bramlee-sheets: %s\n", qPrintable(text.simplified()));
+}
+
+ExitStatus Fail(ExitStatus status, const QString& error) {
+  Say(error);
+  return status;
+}
+
+ExitStatus Print(const QByteArray& text) {
+  const auto size = static_cast<std::size_t>(text.size());
+  const bool printed =
+      std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+  return printed ? kDone : Fail(kFailed, QStringLiteral("the output cannot be written"));
+}
+
+ExitStatus Write(const SheetsRequest& request) {
+  const LaidOut made =
+      std::visit([](const auto& document) { return LayOut(document); }, request.document);
+  if (!made.error.IsNone()) return Fail(kBadArguments, made.error.text);
+  for (const QString& note : made.pages->Notes()) Say(note);
+  const bool isLong = std::holds_alternative<LetterBook>(request.document);
+  const PaperError error =
+      WritePdf(*made.pages, request.info, request.file, [isLong](int done, int of) {
+        const bool isDue = done > 0 && (done % kPagesATime == 0 || done == of);
+        if (isLong && isDue) Say(QStringLiteral("page %1 of %2").arg(done).arg(of));
+        return stopped == 0;
+      });
+  return error.IsNone() ? kDone : Fail(kFailed, error.text);
+}
+
+ExitStatus Answer(const QStringList& arguments) {
+  const SheetsRequest request = ReadSheetsRequest(arguments);
+  if (!request.error.isEmpty()) return Fail(kBadArguments, request.error);
+  if (!request.text.isEmpty()) return Print(request.text.toUtf8());
+  return Write(request);
+}
+
+}  // namespace
+}  // namespace bramlee
+
+int main(int argc, char** argv) {
+  // Ended between two pages, so that no half file is left.
+  std::signal(SIGINT, bramlee::Stop);
+  std::signal(SIGTERM, bramlee::Stop);
+  qputenv("QT_QPA_PLATFORM", "offscreen");  // text needs fonts, and no window system
+  // What Qt says of the session's folders is of no use to whoever makes a sheet.
+  QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+  const QGuiApplication app(argc, argv);
+  return bramlee::Answer(QGuiApplication::arguments());
+}
