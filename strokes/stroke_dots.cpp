@@ -112,32 +112,37 @@ std::vector<double> WaysOfDots(const Way& way, double pitch) {
   return ways;
 }
 
-bool IsNear(const Point& dot, const std::vector<Point>& dots, double distance) {
+bool IsNear(const Point& dot, std::span<const Point> dots, double distance) {
   return std::ranges::any_of(
       dots, [&](const Point& other) { return DistanceBetween(dot, other) < distance; });
+}
+
+/// The dots of one stroke that are not too near to those of the earlier ones.
+std::vector<Point> DotsOf(const StrokePath& path, const DotRule& rule,
+                          std::span<const std::vector<Point>> earlier) {
+  std::vector<Point> own;
+  if (path.points.empty()) return own;
+  const double apart = std::max(rule.diameter, kApart * rule.pitch);
+  const Way way(path);
+  for (const double at : WaysOfDots(way, rule.pitch)) {
+    const Point dot = way.At(at);
+    const std::span<const Point> before(own);
+    // The dot before it is its neighbour, however narrow the bend between them.
+    const bool overlaps = !own.empty() && IsNear(dot, before.last(1), rule.diameter);
+    const bool crosses = !own.empty() && IsNear(dot, before.first(own.size() - 1), apart);
+    const bool runsAlong = std::ranges::any_of(
+        earlier, [&](const std::vector<Point>& dots) { return IsNear(dot, dots, apart); });
+    if (!overlaps && !crosses && !runsAlong) own.push_back(dot);
+  }
+  return own;
 }
 
 }  // namespace
 
 std::vector<std::vector<Point>> PlaceDots(std::span<const StrokePath> strokes,
                                           const DotRule& rule) {
-  const double apart = std::max(rule.diameter, kApart * rule.pitch);
   std::vector<std::vector<Point>> dots;
-  for (const StrokePath& path : strokes) {
-    std::vector<Point> own;
-    const Way way(path);
-    const auto waysOfDots =
-        path.points.empty() ? std::vector<double>() : WaysOfDots(way, rule.pitch);
-    for (const double at : waysOfDots) {
-      const Point dot = way.At(at);
-      const bool isTaken = IsNear(dot, own, rule.diameter) ||
-                           std::ranges::any_of(dots, [&](const std::vector<Point>& earlier) {
-                             return IsNear(dot, earlier, apart);
-                           });
-      if (!isTaken) own.push_back(dot);
-    }
-    dots.push_back(std::move(own));
-  }
+  for (const StrokePath& path : strokes) dots.push_back(DotsOf(path, rule, dots));
   return dots;
 }
 

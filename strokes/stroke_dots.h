@@ -21,8 +21,8 @@ inline constexpr double kPitchBend = 0.25;
 /// begins, where it ends and, if the gaps come out even, at its corners; those between lie evenly.
 /// A stroke whose length no gaps fit is shorter than one and a half pitches: it has two dots a
 /// little within its ends, or a single one in its middle. A dot that would overlap an earlier one
-/// of its letter, or stand between two dots of a stroke that it runs along, is left out. A stroke
-/// that plots nothing has no dots.
+/// of its letter, or stand between two dots of a way that it runs along or crosses, is left out. A
+/// stroke that plots nothing has no dots.
 std::vector<std::vector<Point>> PlaceDots(std::span<const StrokePath> strokes, const DotRule& rule);
 
 }  // namespace bramlee
