@@ -19,6 +19,8 @@ constexpr double kDisc = 0.085;  ///< radius of a number's disc
 /// A smaller number cannot be read, a larger one is louder than its letter; in millimetres.
 constexpr double kLeastDiscMm = 1.15;
 constexpr double kLargestDiscMm = 2.1;
+/// A smaller dot is lost on a printer's grey line; in millimetres.
+constexpr double kLeastDotMm = 0.55;
 
 /// As a part of the pitch: two dots to trace have as much white between them.
 constexpr double kDotOfPitch = 0.5;
@@ -69,7 +71,7 @@ double Figure::PenWidth() const {
 }
 
 double Figure::DotDiameter() const {
-  return kDotDiameter * bodyMm_ / scale_;
+  return std::max(kLeastDotMm, kDotDiameter * bodyMm_) / scale_;
 }
 
 double Figure::HalfWidthMm() const {

@@ -7,14 +7,14 @@
 namespace bramlee {
 
 inline constexpr QColor kBlackInk(0, 0, 0);
-inline constexpr QColor kDotInk(0x40, 0x40, 0x40);
+inline constexpr QColor kDotInk(0x38, 0x38, 0x38);
 inline constexpr QColor kPaleInk(0xBE, 0xBE, 0xBE);  ///< letters to write over
 inline constexpr QColor kRuleInk(0x80, 0x80, 0x80);
-inline constexpr QColor kThickRuleInk(0x60, 0x60, 0x60);
+inline constexpr QColor kThickRuleInk(0x70, 0x70, 0x70);
 inline constexpr QColor kCaptionInk(0x50, 0x50, 0x50);
 
 // In millimetres.
 inline constexpr double kRuleMm = 0.2;
-inline constexpr double kThickRuleMm = 0.45;
+inline constexpr double kThickRuleMm = 0.45;  ///< of letters from 20 mm on, thinner below
 
 }  // namespace bramlee

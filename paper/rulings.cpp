@@ -1,6 +1,7 @@
 #include "paper/rulings.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "paper/print_ink.h"
 
@@ -32,8 +33,16 @@ class Ruler {
  private:
   void SetPen(Line line) const {
     const bool thick = line == Line::Thick;
-    painter_.setPen(QPen(thick ? kThickRuleInk : kRuleInk, thick ? kThickRuleMm : kRuleMm,
+    painter_.setPen(QPen(thick ? kThickRuleInk : kRuleInk, thick ? ThickMm() : kRuleMm,
                          Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  }
+
+  /// Small letters are not to be lost beside their line.
+  double ThickMm() const {
+    constexpr double kFull = 20;
+    constexpr double kLeast = 1.5 * kRuleMm;
+    const double part = figure_.Shown().lines.BodyHeight() * figure_.Scale() / kFull;
+    return std::clamp(part * kThickRuleMm, kLeast, kThickRuleMm);
   }
 
   QPainter& painter_;

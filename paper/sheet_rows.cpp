@@ -15,7 +15,7 @@ namespace {
 constexpr double kLeastCellGap = 4;  ///< between the letters of a row
 constexpr double kRowGap = 4;        ///< between two rows of a letter
 constexpr double kGroupGap = 6;      ///< between the rows of two letters
-constexpr double kCaption = 3.2;     ///< size of a caption
+constexpr double kCaption = 3.5;     ///< size of a caption
 constexpr double kCaptionRoom = 5;   ///< from its upper edge to the row below
 constexpr double kBoxPadding = 2;    ///< between ink and box
 
