@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QString>
 #include <cstdint>
+#include <string_view>
 
 #include "board/board_pen.h"
 #include "board/board_record.h"
@@ -24,6 +25,10 @@ class Strip;
 void RegisterBoards();
 /// Makes one board known by its form's name. The record is used as long as the program runs.
 void RegisterBoard(const BoardRecord& record);
+
+/// The resource of a tile's picture, as given or, where the tile stands otherwise there, as in the
+/// book.
+QString TilePicture(std::string_view letterSet, int tile, bool book);
 
 /// A writing board. Handlers have the names of their controls and end quietly on an error;
 /// mnuclear1_Click reports it.

@@ -5,6 +5,13 @@
 
 namespace bramlee {
 
+QString TilePicture(std::string_view letterSet, int tile, bool book) {
+  return QStringLiteral(":/pictures/%1%2/%3.jpg")
+      .arg(book ? QStringLiteral("book/") : QString(),
+           QString::fromLatin1(letterSet.data(), std::ssize(letterSet)))
+      .arg(tile);
+}
+
 bool Board::WritesBookLetters() const {
   return wantsBook_ || BookLetters::Instance().On();
 }
@@ -31,10 +38,7 @@ WriteLetter Board::ProgramFor(const StrokeRec& rec) const {
 void Board::ShowLetterOf(int tile) const {
   const bool book = WritesBookLetters() && HasBookForm(letters_, tile);
   PictureBox* picture = Tile(tile);
-  picture->SetPicture(
-      QStringLiteral(":/pictures/%1%2/%3.jpg")
-          .arg(book ? QStringLiteral("book/") : QString(), QString::fromLatin1(record_.letterSet))
-          .arg(tile));
+  picture->SetPicture(TilePicture(record_.letterSet, tile, book));
   picture->setAccessibleName(QString::fromStdString(LetterName(record_.letterSet, tile, book)));
 }
 

@@ -72,13 +72,17 @@ CardContents ReadCard(const RecordFile& file) {
   return card;
 }
 
-QString NameOnCard() {
-  QString name;
-  Trap({}, [&name](ErrInfo&) {
+CardHolder HolderOfCard() {
+  CardHolder holder;
+  Trap({}, [&holder](ErrInfo&) {
     const RecordFile file(TakeSlot(kCardSlot));
-    if (file.Records() > 0) name = Trim(DecodeStudent(file.Get(1)).StudentName.Text());
+    if (file.Records() == 0) return;
+    const StudentRec head = DecodeStudent(file.Get(1));
+    const QString name = Trim(head.StudentName.Text());
+    if (name == kNoNameYet) return;
+    holder = {.name = name, .className = Trim(head.ClassName.Text())};
   });
-  return name == kNoNameYet ? QString() : name;
+  return holder;
 }
 
 void CheckItem(const RecordFile& file, std::int32_t recNo, const ItemTexts& shown) {

@@ -28,15 +28,21 @@ struct CardContents {
 /// Never reads beyond the file, whatever its count says. Throws TrappedError.
 CardContents ReadCard(const RecordFile& file);
 
+/// Whose card it is.
+struct CardHolder {
+  QString name;
+  QString className;
+};
+
+/// As the card's file has it, without blanks around. Empty where there is no card that can be read,
+/// and as long as nobody has put a name on it.
+CardHolder HolderOfCard();
+
 /// How many items the first record counts, but none that the file does not hold.
 std::int32_t CountedItems(const StudentRec& first, const RecordFile& file);
 
 /// Throws ItemChanged unless that item is among the counted ones and still reads as it was shown.
 void CheckItem(const RecordFile& file, std::int32_t recNo, const ItemTexts& shown);
-
-/// The child's name on the card, without outer blanks; empty when there is no card, when it cannot
-/// be read, or when it has the default card's line there.
-QString NameOnCard();
 
 // What fails in these is put into `failure`, if it is given.
 

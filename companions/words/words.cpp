@@ -68,7 +68,7 @@ class WordWriting : public QObject {
   }
 
   void WriteMyName() {
-    const QString name = NameOnCard();
+    const QString name = HolderOfCard().name;
     if (name.isEmpty()) return panel_->Say(QStringLiteral("The card has no name on it yet."));
     panel_->SetText(name);
     Write();

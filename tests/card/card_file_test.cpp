@@ -44,6 +44,31 @@ TEST_F(CardFile, OfANewInstallationIsOneDefaultRecord) {
   EXPECT_EQ(Folder(), Texts({"brmstu1.dat"}));
 }
 
+TEST_F(CardFile, SaysWhoseCardItIs) {
+  PlainRecord record;
+  record.name = "  Anna Rao ";
+  record.className = " KG 2";
+  Put(record.Bytes());
+  EXPECT_EQ(HolderOfCard().name, QStringLiteral("Anna Rao"));
+  EXPECT_EQ(HolderOfCard().className, QStringLiteral("KG 2"));
+}
+
+TEST_F(CardFile, IsNobodysUntilANameIsEnteredAndWhereItCannotBeRead) {
+  const auto isNobodys = [] {
+    const CardHolder holder = HolderOfCard();
+    return holder.name.isEmpty() && holder.className.isEmpty();
+  };
+  EXPECT_TRUE(isNobodys());
+  EXPECT_FALSE(QFile::exists(Place()));
+  Put(DefaultRecord());
+  EXPECT_TRUE(isNobodys());
+  Put("damaged");
+  EXPECT_TRUE(HolderOfCard().className.isEmpty());
+  QFile::remove(Place());
+  QDir().mkpath(Place());
+  EXPECT_TRUE(isNobodys());
+}
+
 TEST_F(CardFile, IsNotMadeWithoutItsFolder) {
   QDir(On("c/bramlee")).removeRecursively();
   Open();

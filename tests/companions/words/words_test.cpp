@@ -142,7 +142,7 @@ TEST_F(WordsTest, SaysWhenTheCardHasNoName) {
   MakeDataFolder();
   ProvideCard();
   ASSERT_FALSE(FileMissing(Q("C:\\bramlee\\dba\\brmstu1.dat")));
-  ASSERT_EQ(NameOnCard(), QString());
+  ASSERT_EQ(HolderOfCard().name, QString());
   Press(board, "words_my_name");
   EXPECT_EQ(Said(board), Q("The card has no name on it yet."));
   EXPECT_EQ(LettersOn(board), 0U);
