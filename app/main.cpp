@@ -13,6 +13,7 @@
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
 #include "companions/words/words.h"
+#include "companions/worksheet/worksheet.h"
 #include "files/environment.h"
 #include "home/home.h"
 #include "maths/maths.h"
@@ -46,6 +47,7 @@ int main(int argc, char** argv) {
   bramlee::AddCompanion(bramlee::AddFitting);
   bramlee::AddCompanion(bramlee::AddBookSwitch);
   bramlee::AddCompanion(bramlee::AddWords);
+  bramlee::AddCompanion(bramlee::AddWorksheets);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();

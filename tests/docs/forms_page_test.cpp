@@ -14,6 +14,7 @@
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
 #include "companions/words/words.h"
+#include "companions/worksheet/worksheet.h"
 #include "home/home.h"
 #include "maths/maths.h"
 #include "media/media.h"
@@ -88,8 +89,8 @@ class FormsPage : public TempDrives {
     RegisterBoards();
     RegisterMaths();
     static const bool added = [] {
-      for (const Companion each :
-           {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch, AddWords}) {
+      for (const Companion each : {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch,
+                                   AddWords, AddWorksheets}) {
         AddCompanion(each);
       }
       return true;

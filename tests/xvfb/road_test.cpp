@@ -17,6 +17,7 @@ namespace {
 
 const QString kFrame = QStringLiteral("Welcome To BRAMLEE");
 const QString kBoard = QStringLiteral("English Capital Letters");
+const QString kWorksheet = QStringLiteral("Worksheet: English Capital Letters");
 const QString kCard = QStringLiteral("BRAM-LEE: BioData");
 constexpr QRgb kStartGround = 0xC0FFC0;
 constexpr QRgb kHomeGround = 0xE0F4FF;
@@ -181,6 +182,28 @@ TEST_F(Road, FromStartToExit) {
   EXPECT_EQ(program->WaitForEnd(), 0);
   EXPECT_EQ(FilesBelow(In("")), QStringList{QStringLiteral("drives/c/bramlee/dba/brmstu1.dat")});
   EXPECT_EQ(QFile(In("drives/c/bramlee/dba/brmstu1.dat")).size(), 600);
+}
+
+TEST_F(Road, AWorksheetIsSavedAsAFileByKeysAlone) {
+  const Desktop desktop;
+  const auto program = StartOn(desktop);
+  SeeGround(desktop, "the start form", kStartGround);
+  Press(desktop, kFrame, {QStringLiteral("alt+m"), QStringLiteral("s")});
+  const QImage screen = SeeGround(desktop, "home", kHomeGround);
+  desktop.Click(CapitalsTile(screen).center());
+  Press(desktop, kBoard, {QStringLiteral("ctrl+p")});
+  Press(desktop, kWorksheet, {QStringLiteral("alt+s")});
+  Press(desktop, QStringLiteral("Save as PDF"), {QStringLiteral("ctrl+a")});
+  desktop.Xdotool({QStringLiteral("type"), In("sheet.pdf")});
+  desktop.Key(QStringLiteral("Return"));
+  EXPECT_TRUE(Eventually([&] { return QFile::exists(In("sheet.pdf")); }));
+  QFile saved(In("sheet.pdf"));
+  ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(saved.readAll().startsWith("%PDF-"));
+  Press(desktop, kWorksheet, {QStringLiteral("Escape")});
+  Press(desktop, kBoard,
+        {QStringLiteral("alt+f"), QStringLiteral("Down"), QStringLiteral("Return")});
+  SeeGround(desktop, "home again", kHomeGround);
 }
 
 TEST_F(Road, BackFromHomeAndExitFromTheStartForm) {

@@ -1,0 +1,73 @@
+#include "companions/worksheet/worksheet.h"
+
+#include <QPointer>
+#include <QShortcut>
+
+#include "board/board.h"
+#include "board/strip.h"
+#include "board/strip_pictures.h"
+#include "companions/worksheet/worksheet_dialog.h"
+#include "files/trap.h"
+#include "ui/held_input.h"
+
+namespace bramlee {
+namespace {
+
+/// A sheet of paper with a letter between two lines, and rows to fill below.
+QIcon WorksheetPicture() {
+  return StripPicture({
+      {{22, 10},  {78, 10}, {78, 90}, {22, 90}, {22, 10}},
+      {{36, 44}, {50, 20}, {64, 44}},
+      {{41, 36},  {59, 36} },
+      {{34, 58},         {66, 58}         },
+      {{34, 74},         {66, 74}        }
+  });
+}
+
+/// One a board.
+class Worksheets : public QObject {
+ public:
+  explicit Worksheets(Board& board) : QObject(&board), board_(board) {
+    StripButton* button = board.strip().AddButton(Strip::Group::Teacher,
+                                                  {.name = "strip_sheets",
+                                                   .text = QStringLiteral("Worksheet"),
+                                                   .key = QStringLiteral("Ctrl+P"),
+                                                   .picture = WorksheetPicture()},
+                                                  [this] { OpenWhenFree(); });
+    auto* key = new QShortcut(QKeySequence::Print, &board);
+    key->setAutoRepeat(false);
+    connect(key, &QShortcut::activated, button, &StripButton::click);
+  }
+
+ private:
+  /// A dialog in the middle of what is written could not be answered: its message boxes would wait
+  /// for the letter's end, and the letter for them. So the letter comes to its end first, also one
+  /// that pauses.
+  void OpenWhenFree() {
+    if (awaited_) return;
+    awaited_ = true;
+    if (board_.pen().IsWriting()) board_.pen().GoOn();
+    WhenFree(this, [this] {
+      awaited_ = false;
+      Trap(QStringLiteral("wks:01"), [this](ErrInfo&) { Open(); });
+    });
+  }
+
+  void Open() {
+    if (dialog_ != nullptr) return dialog_->raise();
+    dialog_ = new WorksheetDialog(board_);
+    dialog_->show();
+  }
+
+  Board& board_;
+  QPointer<WorksheetDialog> dialog_;
+  bool awaited_ = false;
+};
+
+}  // namespace
+
+void AddWorksheets(Board& board) {
+  new Worksheets(board);
+}
+
+}  // namespace bramlee
