@@ -1,8 +1,8 @@
 // Where the figures come from: rooms and head lines are the letters' own bars, and their ink with
 // 12 before it where a letter begins with a curl under which no line runs. Half forms end where the
-// stem would stand. Heads and feet are the anchors of the marks in the font Lohit Devanagari
-//, set on the stem where the letter has one; those of round
-// letters stand as far across the letter as in the font.
+// stem would stand. Heads and feet are the anchors of the marks in the font Lohit Devanagari, as
+// docs/mark-anchors prints them, set on the stem where the letter has one; those of round letters
+// stand as far across the letter as in the font.
 #include "strokes/hindi_anchors.h"
 
 namespace bramlee {
@@ -37,7 +37,7 @@ constexpr HindiConsonantAnchors kConsonants[] = {
     {0x092D, 24, 894.25, 965,    1015,    1052.5,  1015,    {1015, 475}},  // भ
     {0x092E, 25, 160,    160,    262.5,   297.5,   262.5,   {262.5, 475}},  // म
     {0x092F, 26, 175,    175,    275,     300,     275,     {275, 475}},  // य
-    {0x0930, 27, 437.5,  437.5,  500,     550,     505,     {490, 420}},  // र
+    {0x0930, 27, 437.5,  437.5,  500,     550,     505,     {505, 475}},  // र
     {0x0932, 28, 637.5,  637.5,  795,     827.5,   795,     {795, 475}},  // ल
     {0x0935, 29, 912.5,  912.5,  997.5,   1037.5,  997.5,   {997.5, 475}},  // व
     {0x0936, 30, 156.14, 240,    275,     315,     275,     {275, 475}},  // श

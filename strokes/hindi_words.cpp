@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 #include <utility>
+#include <vector>
 
 #include "strokes/hindi_anchors.h"
 #include "strokes/hindi_text.h"
@@ -15,6 +16,7 @@ namespace bramlee {
 namespace {
 
 constexpr int kTilesOfASet = kHindiSetTiles;
+constexpr int kKhaTile = 2;
 constexpr int kRaTile = 27;
 constexpr int kRephTile = 64;
 
@@ -77,7 +79,8 @@ constexpr HangingSign kReph = {
 /// The dot below, from where signs below hang: to the left under the bowl of a letter with a stem,
 /// straight below another.
 constexpr Point kDotAtStem = {-40, -8};
-constexpr Point kDotAtRound = {-6, 19};
+constexpr Point kDotAtRound = {-6, 26};
+constexpr Point kDotUnderKha = {-48, 25};        ///< whose body reaches down to the base
 constexpr Point kDot = {225, kWordHead - 22.5};  ///< the middle of the dot on its tile
 
 constexpr double kLoneMargin = 12;  ///< on both sides of a sign that stands alone
@@ -117,7 +120,7 @@ class Layout {
     LayLetters();
     if (syllable_.sign == hindi::kI) WriteI();
     LayBehind();
-    LayHanging(kBelow, foot_);
+    if (!WriteUOnRa()) LayHanging(kBelow, foot_);
     if (syllable_.sign == hindi::kDotBelow) AddDotBelow(foot_);
     LayAbove();
     if (syllable_.dotsBeside) LayDotsBeside();
@@ -176,7 +179,10 @@ class Layout {
     foot_ = {anchors.foot.x + right, anchors.foot.y};
     if (consonant.withR) foot_.y = std::max(foot_.y, letter.Bounds().y + letter.Bounds().height);
     if (consonant.dotBelow) {
-      const Point dot = anchors.foot.x == anchors.head ? kDotAtStem : kDotAtRound;
+      const bool hasStem = anchors.foot.x == anchors.head;
+      const Point dot = anchors.tile == kKhaTile ? kDotUnderKha
+                        : hasStem                ? kDotAtStem
+                                                 : kDotAtRound;
       AddDotBelow({foot_.x + dot.x, foot_.y + dot.y});
     }
     if (consonant.join == HindiJoin::Mark) Hang(*Find(kBelow, hindi::kMark), foot_);
@@ -230,6 +236,21 @@ class Layout {
 
   void Hang(const HangingSign& sign, Point at) {
     Add(SignLetter(sign.tile), at.x - sign.at.x, at.y - sign.at.y);
+  }
+
+  /// Ra has the signs of u and uu in its middle, right of its slant, and they are shaped for that.
+  bool WriteUOnRa() {
+    const bool isU = syllable_.sign == hindi::kU;
+    const bool isUu = syllable_.sign == hindi::kUu;
+    const bool onRa =
+        !syllable_.consonants.empty() && syllable_.consonants.back().letter->tile == kRaTile;
+    if (!onRa || !(isU || isUu)) return false;
+    const double x = foot_.x + 5;
+    const double y = foot_.y - 63;
+    std::vector<Run> sign = {ArcRun(190, isU ? -110 : 0, -1, {x, y}, isU ? 28 : 24)};
+    if (isUu) sign.push_back(ArcRun(180, 290, +1, {x + 48, y}, 24));
+    cluster_.ink.AddStroke(sign);
+    return true;
   }
 
   void LayAbove() {

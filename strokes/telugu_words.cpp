@@ -214,6 +214,8 @@ class Syllable {
     Add(letter, {}, head != nullptr ? TickOf(letter) : std::vector<std::size_t>());
     if (head != nullptr) LayHead(*head, anchors);
     right_ = anchors.foot.to;
+    if (anchors.code == 0)
+      right_ = letter.Bounds().x + letter.Bounds().width;  // it hangs below already
     for (std::size_t i = 1; i < letters_.size(); ++i) LayBelow(*letters_[i], anchors);
     if (foot != nullptr) Add(VowelTile(foot->tile), {.right = right_ - foot->at});
   }

@@ -39,7 +39,8 @@ void WordInk::Append(const WordInk& other, double right) {
 }
 
 Box WordInk::Bounds() const {
-  return BoundsOf(runs_, kUsualStep).value_or(Box{});
+  constexpr double kCoarse = 1;  // a hundredth of the dots, and right to a pixel
+  return BoundsOf(runs_, kCoarse).value_or(Box{});
 }
 
 Run LineRightRun(double fromX, double y, double toX) {

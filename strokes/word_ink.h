@@ -23,7 +23,7 @@ class WordInk {
   void Append(const WordInk& other, double right);
 
   std::size_t Strokes() const { return strokes_.size(); }
-  /// Around its dots; all zeros without any.
+  /// Around its dots, to a pixel; all zeros without any.
   Box Bounds() const;
   /// All of it as one letter.
   Letter AsLetter(double step) const { return {step, runs_, strokes_}; }

@@ -17,6 +17,7 @@ namespace {
 constexpr int kMostCharacters = 400;
 constexpr int kWidth = 620;
 constexpr int kTextPixels = 26;  ///< large enough to see which signs a letter has
+constexpr int kTextHeight = 60;  ///< signs above and below a letter have room
 constexpr qsizetype kMostNamed = 6;
 
 QCheckBox* PerLetterBox(QWidget* panel) {
@@ -51,6 +52,7 @@ WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::functio
   QFont large = text_->font();
   large.setPixelSize(kTextPixels);
   text_->setFont(large);
+  text_->setMinimumHeight(kTextHeight);
   write_->setObjectName(QStringLiteral("words_write"));
   myName_->setObjectName(QStringLiteral("words_my_name"));
   myName_->setToolTip(QStringLiteral("The name on the biodata card"));
@@ -74,9 +76,10 @@ WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::functio
 
 void WordsPanel::Present() {
   resize(std::min(kWidth, parentWidget()->width()), sizeHint().height());
+  const int menuHeight = 2 * fontMetrics().height();
   const QRect board(parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size());
-  const int edge = 2 * fontMetrics().height() + 60;  // the strip stays free
-  move(board.center().x() - width() / 2, board.bottom() - edge - height());
+  move(board.center().x() - width() / 2,
+       board.top() + menuHeight);  // over the tiles: the sheet stays free
   show();
   raise();
   activateWindow();
@@ -104,10 +107,8 @@ QString NamesOf(std::span<const LeftOut> leftOut) {
   for (const LeftOut& each : leftOut) {
     const QString text = QString::fromStdString(each.text);
     const char32_t code = text.toUcs4().value(0);
-    const QString name = QStringLiteral("%1 (U+%2)")
-                             .arg(text)
-                             .arg(static_cast<uint>(code), 4, 16, QLatin1Char('0'))
-                             .toUpper();
+    const QString number = QString::number(static_cast<uint>(code), 16).toUpper();
+    const QString name = QStringLiteral("%1 (U+%2)").arg(text, number.rightJustified(4, u'0'));
     if (!names.contains(name)) names.append(name);
   }
   if (names.isEmpty()) return {};
