@@ -216,4 +216,22 @@ double Overlap(const CentreLine& line, const CentreLine& other) {
   return static_cast<double>(grid.Count(kLine | kOther)) / static_cast<double>(grid.CountInk());
 }
 
+double OverlapInBox(const CentreLine& line, const CentreLine& other) {
+  constexpr double kPenInBox = 0.15;
+  const Frame from = FrameOf(line);
+  const Frame to = FrameOf(other);
+  const auto scale = [](double own, double wanted) { return own > 1e-6 ? wanted / own : 1; };
+  const double x = scale(from.width, to.width);
+  const double y = scale(from.height, to.height);
+  constexpr unsigned char kLine = 1;
+  constexpr unsigned char kOther = 2;
+  Grid grid(to, std::max(to.height, 1.0) / kGrid);
+  grid.Paint(Laid(line, {x, y, to.left - x * from.left, to.top - y * from.top}),
+             kPenInBox * kGrid / 2, kLine);
+  grid.Paint(other, kPenInBox * kGrid / 2, kOther);
+  const auto both = static_cast<double>(grid.Count(kLine | kOther));
+  return 2 * both /
+         (static_cast<double>(grid.Count(kLine)) + static_cast<double>(grid.Count(kOther)));
+}
+
 }  // namespace bramlee

@@ -11,4 +11,9 @@ namespace bramlee {
 /// in common.
 double Overlap(const CentreLine& line, const CentreLine& other);
 
+/// Lays both into the same box, thickens both to 0.15 of its height (print has 0.1 or more), and
+/// returns the part of their ink that both have: twice what is common, of what the two have
+/// together. 1 for the same letter.
+double OverlapInBox(const CentreLine& line, const CentreLine& other);
+
 }  // namespace bramlee

@@ -58,6 +58,10 @@ void DrawJoins(QPainter& painter, const Letter& letter, const QTransform& fit) {
 
 }  // namespace
 
+void DrawStroke(QPainter& painter, const StrokePath& path, std::size_t stroke) {
+  DrawPath(painter, path, {}, ColourOfStroke(stroke));
+}
+
 void DrawCaption(QPainter& painter, const QString& text, const QRectF& cell) {
   painter.setPen(Qt::black);
   painter.drawText(cell.adjusted(6, 2, -6, 0), text);

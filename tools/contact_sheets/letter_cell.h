@@ -18,6 +18,9 @@ void DrawCaption(QPainter& painter, const QString& text, const QRectF& cell);
 /// What caption and margin leave of a cell.
 QRectF RoomOf(const QRectF& cell);
 
+/// Draws a pen stroke, in the colour of its number from 0, as wide as the pen is on the sheet.
+void DrawStroke(QPainter& painter, const StrokePath& path, std::size_t stroke);
+
 /// Draws that part of the letter's sheet as large as the cell allows, with a caption.
 void DrawLetter(QPainter& painter, const Letter& letter, const Box& shown, const QRectF& cell);
 

@@ -1,5 +1,6 @@
 // Draws every letter on sheets to look at: with its pen strokes numbered, or, with --book, as given
-// and as in the book beside its printed sign.
+// and as in the book beside its printed sign, or, with --words, each consonant with each vowel
+// sign.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -9,6 +10,7 @@
 
 #include "tools/contact_sheets/book_sheets.h"
 #include "tools/contact_sheets/letter_cell.h"
+#include "tools/contact_sheets/word_sheets.h"
 
 namespace bramlee {
 namespace {
@@ -58,9 +60,16 @@ int main(int argc, char** argv) {
   const QGuiApplication app(argc, argv);
   QStringList arguments = QGuiApplication::arguments().mid(1);
   const bool book = arguments.removeAll(QStringLiteral("--book")) > 0;
+  const bool words = arguments.removeAll(QStringLiteral("--words")) > 0;
   if (arguments.size() != 1) {
-    std::fprintf(stderr, "usage: bramlee_contact_sheets [--book] FOLDER\n");
+    std::fprintf(stderr, "usage: bramlee_contact_sheets [--book | --words] FOLDER\n");
     return 2;
+  }
+  if (words) {
+    for (const char* script : {"hin", "tel"}) {
+      if (!bramlee::DrawWordSheets(script, arguments[0])) return 1;
+    }
+    return 0;
   }
   for (const bramlee::LetterSet& set : bramlee::LetterSets()) {
     const auto draw = book ? bramlee::DrawBookSheets : bramlee::DrawSet;
