@@ -1,6 +1,8 @@
 // The line on top of a page: name, class, date.
 #pragma once
 
+#include <QPointF>
+
 #include "paper/worksheet.h"
 
 class QPainter;

@@ -39,23 +39,26 @@ QTransform OnPaper(const PrintedPages& pages, const QPagedPaintDevice& device) {
   return on;
 }
 
+PaperError PrinterFailed() {
+  return {.kind = PaperError::Kind::CannotPrint,
+          .text = QStringLiteral("the printer does not take the pages")};
+}
+
 PaperError PaintAll(const PrintedPages& pages, QPagedPaintDevice& device, int first, int last,
                     const PageProgress& progress) {
-  const PaperError failed{.kind = PaperError::Kind::CannotPrint,
-                          .text = QStringLiteral("the printer does not take the pages")};
   const int count = last - first + 1;
   const auto goesOn = [&](int done) { return !progress || progress(done, count); };
   if (!goesOn(0)) return Cancelled();
   QPainter painter;
-  if (!painter.begin(&device)) return failed;
+  if (!painter.begin(&device)) return PrinterFailed();
   const QTransform on = OnPaper(pages, device);
   for (int i = 0; i < count; ++i) {
     if (i > 0 && !goesOn(i)) return Cancelled();
-    if (i > 0 && !device.newPage()) return failed;
+    if (i > 0 && !device.newPage()) return PrinterFailed();
     painter.setTransform(on);
     pages.Paint(painter, first + i);
   }
-  if (!painter.end()) return failed;
+  if (!painter.end()) return PrinterFailed();
   return goesOn(count) ? PaperError() : Cancelled();
 }
 

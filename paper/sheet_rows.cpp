@@ -12,15 +12,16 @@ namespace bramlee {
 namespace {
 
 // In millimetres.
-constexpr double kLeastCellGap = 4;  ///< between the letters of a row
-constexpr double kRowGap = 4;        ///< between two rows of a letter
-constexpr double kGroupGap = 6;      ///< between the rows of two letters
-constexpr double kCaption = 3.5;     ///< size of a caption
-constexpr double kCaptionRoom = 5;   ///< from its upper edge to the row below
-constexpr double kBoxPadding = 2;    ///< between ink and box
+constexpr double kLeastCellGap = 4;   ///< between the letters of a row
+constexpr double kLeastRowGap = 1.5;  ///< between two rows of a letter
+constexpr double kGroupGap = 6;       ///< between the rows of two letters
+constexpr double kCaption = 3.5;      ///< size of a caption
+constexpr double kCaptionRoom = 5;    ///< from its upper edge to the row below
+constexpr double kBoxPadding = 2;     ///< between ink and box
 
-/// Between the letters of a row, as a part of the body's height.
-constexpr double kCellGap = 0.3;
+// As parts of the body's height.
+constexpr double kCellGap = 0.3;  ///< between the letters of a row
+constexpr double kRowGap = 0.15;  ///< between two rows of a letter
 
 /// A word too long for a row is made so much smaller at most before it is broken into lines.
 constexpr double kSmallestWord = 0.5;
@@ -71,23 +72,20 @@ int SheetRows::CellsOf(const Figure& figure) const {
   return std::max(1, static_cast<int>(area_.width / cell + kRounding));
 }
 
-/// Rows of letters on the same lines have the same height, so that a page stands in one measure;
-/// the numbers of a model take what they need.
-RowReach SheetRows::ReachOfRow(std::size_t index, RowKind kind) const {
-  const Figure& own = figures_[index];
+/// All rows of a letter have the same height, but for the numbers of a model, which take what they
+/// need.
+RowReach SheetRows::ReachOfRow(const Figure& figure, RowKind kind) const {
   const bool model = kind == RowKind::Model || style_.hand == Hand::Left;
-  const Ruling ruling = RulingFor(own);
-  RowReach reach = ReachOf(ruling, own);
-  for (const Figure& figure : figures_) {
-    const bool alike = figure.Shown().lines == own.Shown().lines && figure.Scale() == own.Scale();
-    if (!alike) continue;
-    reach.above = std::max(reach.above, figure.AboveMm(false));
-    reach.below = std::max(reach.below, figure.BelowMm(false));
-  }
-  reach.above = std::max(reach.above, own.AboveMm(model));
-  reach.below = std::max(reach.below, own.BelowMm(model));
+  const Ruling ruling = RulingFor(figure);
+  RowReach reach = ReachOf(ruling, figure);
+  reach.above = std::max(reach.above, figure.AboveMm(model));
+  reach.below = std::max(reach.below, figure.BelowMm(model));
   if (ruling == Ruling::Boxes) reach.above += kBoxPadding, reach.below += kBoxPadding;
   return reach;
+}
+
+double SheetRows::RowGap() const {
+  return std::max(kLeastRowGap, kRowGap * style_.bodyMm);
 }
 
 /// The rows of one figure, not yet on a page.
@@ -106,7 +104,7 @@ std::vector<PlacedRow> SheetRows::RowsOf(std::size_t index) const {
                       .base = 0,
                       .cells = cells,
                       .part = part,
-                      .reach = ReachOfRow(index, kind)});
+                      .reach = ReachOfRow(figure, kind)});
     }
   }
   return rows;
@@ -119,8 +117,8 @@ void SheetRows::Place(std::size_t index) {
   std::vector<PlacedRow> rows = RowsOf(index);
   const bool hasCaption = !figure.Shown().caption.isEmpty();
   const double head = hasCaption ? kCaptionRoom : 0;
-  double height = head - kRowGap;
-  for (const PlacedRow& row : rows) height += row.reach.above + row.reach.below + kRowGap;
+  double height = head - RowGap();
+  for (const PlacedRow& row : rows) height += row.reach.above + row.reach.below + RowGap();
   const double bottom = area_.bottom + kRounding;
   if (pages_.empty() || next_ + height > bottom) pages_.emplace_back(), next_ = area_.top;
   bool first = true;
@@ -140,10 +138,10 @@ void SheetRows::Place(std::size_t index) {
     if (first) next_ += head;
     first = false;
     row.base = next_ + row.reach.above;
-    next_ += rowHeight + kRowGap;
+    next_ += rowHeight + RowGap();
     pages_.back().rows.push_back(row);
   }
-  next_ += kGroupGap - kRowGap;
+  next_ += kGroupGap - RowGap();
 }
 
 void SheetRows::AddCaption(const Figure& figure) {

@@ -55,7 +55,8 @@ class SheetRows {
  private:
   void AddFigures(const Practice& practice);
   void AddCaption(const Figure& figure);
-  RowReach ReachOfRow(std::size_t figure, RowKind kind) const;
+  RowReach ReachOfRow(const Figure& figure, RowKind kind) const;
+  double RowGap() const;
   int CellsOf(const Figure& figure) const;
   std::vector<PlacedRow> RowsOf(std::size_t figure) const;
   void Place(std::size_t figure);

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "ink/stroke_signs.h"
 #include "strokes/run_lines.h"
@@ -66,6 +67,21 @@ QPen RoundPen(const QColor& colour, double width) {
   return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
+/// With fewer points in its arrow's shaft: a page has hundreds of arrows, and the rest of it is a
+/// few curves.
+StrokeNumber Thinned(StrokeNumber number) {
+  constexpr double kSpacing = 3;  // off by a sixteenth of a pixel in a bow of radius 20
+  std::vector<Point> shaft;
+  for (const Point& point : number.arrow.shaft) {
+    const bool isLast = &point == &number.arrow.shaft.back();
+    if (shaft.empty() || isLast || DistanceBetween(shaft.back(), point) >= kSpacing) {
+      shaft.push_back(point);
+    }
+  }
+  number.arrow.shaft = std::move(shaft);
+  return number;
+}
+
 }  // namespace
 
 QPainterPath StrokePathOf(const Letter& letter, std::size_t stroke) {
@@ -109,7 +125,7 @@ void PaintBegins(QPainter& painter, const Letter& letter, const LetterLook& look
 void PaintSigns(QPainter& painter, std::span<const StrokeNumber> numbers, const LetterLook& look) {
   painter.save();
   for (std::size_t i = look.from; i < std::min(look.upTo, numbers.size()); ++i) {
-    PaintNumber(painter, static_cast<int>(i + 1), numbers[i], {.sign = look.ink});
+    PaintNumber(painter, static_cast<int>(i + 1), Thinned(numbers[i]), {.sign = look.ink});
   }
   painter.restore();
 }

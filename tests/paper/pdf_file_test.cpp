@@ -178,6 +178,20 @@ TEST_F(PrintingPages, CountsFromThePapersCornerWhateverThePrintersMargins) {
   EXPECT_NEAR(Bar().second, 120, 0.1);
 }
 
+/// A printer that has gone away by the second page.
+class GoneAway : public QPdfWriter {
+ public:
+  using QPdfWriter::QPdfWriter;
+  bool newPage() override { return false; }
+};
+
+TEST_F(PrintingPages, SaysThatThePrinterDoesNotTakeThem) {
+  GoneAway device(File());
+  const PaperError error = PrintPages(BarPages(2), device, 0, 1);
+  EXPECT_EQ(error.kind, PaperError::Kind::CannotPrint);
+  EXPECT_FALSE(error.text.isEmpty());
+}
+
 TEST_F(PrintingPages, MakesThemSmallerForSmallerPaper) {
   SKIP_WITHOUT_PDF_TOOLS();
   SetPage(QPageSize(QPageSize::A5), {});

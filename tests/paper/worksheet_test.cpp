@@ -140,7 +140,7 @@ TEST(Worksheet, GoesOnInTheNextRowWithStrokesBuiltUpThatAreMoreThanItsCells) {
   const LaidOut made = LayOut(one);
   ASSERT_TRUE(made.error.IsNone());
   one.heading.shown = false;
-  EXPECT_GT(DarkBox(Page(one)).height(), 60) << "three rows of one cell";
+  EXPECT_GT(DarkBox(Page(one)).height(), 55) << "three rows of one cell";
 }
 
 TEST(Worksheet, KeepsTheRowsOfALetterOnOnePage) {
