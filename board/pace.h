@@ -4,15 +4,13 @@
 #include <chrono>
 #include <cstdint>
 
+#include "writing/timeline.h"
+
 namespace bramlee {
 
-/// How many dots the pen sets in a second, whatever the machine. At the step of the start, 0.01,
-/// that is 1000 sheet pixels of line: a capital takes half a second to a second.
-inline constexpr double kDotsPerSecond = 100'000;
-
-/// Keeps the pen to its pace: after each batch of dots it rests for as long as they should have
-/// taken. It measures from the start, so that errors do not add up; on a machine that cannot keep
-/// up it never rests.
+/// Keeps the pen to its pace, kDotsPerSecond: after each batch of dots it rests for as long as they
+/// should have taken. It measures from the start, so that errors do not add up; on a machine that
+/// cannot keep up it never rests.
 class Pace {
  public:
   /// The pen begins, and is shown so many times a second.

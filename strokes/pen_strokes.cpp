@@ -1,8 +1,9 @@
 #include "strokes/pen_strokes.h"
 
-#include <cmath>
 #include <cstdint>
 #include <optional>
+
+#include "strokes/run_track.h"
 
 namespace bramlee {
 namespace {
@@ -49,37 +50,17 @@ std::optional<bool> GoesOnByTable(const LetterId& id, std::size_t run) {
   return std::nullopt;
 }
 
-/// Where a run's pen touches down and where it leaves.
-struct Ends {
-  double beginX = 0;
-  double beginY = 0;
-  double endX = 0;
-  double endY = 0;
-};
-
-std::optional<Ends> EndsOf(const Run& run) {
-  const std::int64_t dots = DotCount(run, kUsualStep);
-  if (dots == 0) return std::nullopt;
-  Ends ends;
-  RunCursor cursor(run, kUsualStep);
-  cursor.Advance(1, [&ends](double x, double y) { ends.beginX = x, ends.beginY = y; });
-  ends.endX = ends.beginX, ends.endY = ends.beginY;
-  cursor.Skip(dots - 2);
-  cursor.Advance(1, [&ends](double x, double y) { ends.endX = x, ends.endY = y; });
-  return ends;
-}
-
-bool AreNear(const Ends& before, const Ends& next) {
-  return std::hypot(next.beginX - before.endX, next.beginY - before.endY) <= kJoinReach;
+bool AreNear(const RunEnds& before, const RunEnds& next) {
+  return DistanceBetween(before.end, next.begin) <= kJoinReach;
 }
 
 }  // namespace
 
 std::vector<PenStroke> JoinedRuns(const LetterId& id, std::span<const Run> runs) {
   std::vector<PenStroke> strokes;
-  std::optional<Ends> before;
+  std::optional<RunEnds> before;
   for (std::size_t i = 0; i < runs.size(); ++i) {
-    const std::optional<Ends> ends = EndsOf(runs[i]);
+    const std::optional<RunEnds> ends = EndsOf(runs[i], kUsualStep);
     const bool isNear = !ends || (before && AreNear(*before, *ends));
     const bool goesOn = GoesOnByTable(id, i).value_or(isNear);
     if (strokes.empty() || !goesOn) strokes.push_back({.firstRun = i, .runs = 0});
