@@ -20,26 +20,22 @@ namespace {
 
 constexpr int kFormats = 4;
 
-/// How the letter's part of a file's name reads.
-enum class LetterPart : std::uint8_t { Character, Number };
-
 /// How a board's sounds are asked for.
 struct CueSet {
   const char* board;     ///< the form whose checked format and drive count
   const char* captions;  ///< the form whose format items give the extension
-  LetterPart part;
 };
 
 // As kSoundSets. The small letters ask the capitals' board, and the Hindi vowels take their
 // captions there.
 constexpr CueSet kCueSets[] = {
-    {kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
-    {kCapitalsForm,         kCapitalsForm,         LetterPart::Character},
-    {kHindiVowelsForm,      kCapitalsForm,         LetterPart::Number   },
-    {kHindiConsonantsForm,  kHindiConsonantsForm,  LetterPart::Number   },
-    {kTeluguVowelsForm,     kTeluguVowelsForm,     LetterPart::Number   },
-    {kTeluguConsonantsForm, kTeluguConsonantsForm, LetterPart::Number   },
-    {kMathsForm,            kMathsForm,            LetterPart::Number   },
+    {kCapitalsForm,         kCapitalsForm        },
+    {kCapitalsForm,         kCapitalsForm        },
+    {kHindiVowelsForm,      kCapitalsForm        },
+    {kHindiConsonantsForm,  kHindiConsonantsForm },
+    {kTeluguVowelsForm,     kTeluguVowelsForm    },
+    {kTeluguConsonantsForm, kTeluguConsonantsForm},
+    {kMathsForm,            kMathsForm           },
 };
 static_assert(std::size(kCueSets) == std::size(kSoundSets));
 
@@ -69,8 +65,8 @@ QString Prefix(std::int16_t cueBoardNo, const Form* board) {
   return QString::fromLatin1(kSoundFolder) + QString::fromLatin1(sounds.prefix);
 }
 
-QString LetterText(const CueSet& set, std::int16_t letterNo) {
-  if (set.part == LetterPart::Number) return QString::number(letterNo);
+QString LetterText(std::int16_t cueBoardNo, std::int16_t letterNo) {
+  if (kSoundSets[cueBoardNo - 1].part == LetterPart::Number) return QString::number(letterNo);
   QString letter;
   if (CueLetterChar(letterNo, letter) != 0) {
     throw TrappedError(QStringLiteral("no letter of that number"));
@@ -94,7 +90,7 @@ std::int16_t CuePath(std::int16_t letterNo, std::int16_t cueBoardNo, QString& pa
     const Form* captions = Loaded(set.captions);
     const Form* board = Loaded(set.board);
     path = Trim(board->TextOf(QStringLiteral("txtdrv"))) + Trim(Prefix(cueBoardNo, board)) +
-           LetterText(set, letterNo) + Trim(Extension(board, captions));
+           LetterText(cueBoardNo, letterNo) + Trim(Extension(board, captions));
   });
   return built ? 0 : 1;
 }

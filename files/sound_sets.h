@@ -2,29 +2,41 @@
 // sounds' maker.
 #pragma once
 
+#include <QString>
+#include <cstdint>
+
 namespace bramlee {
 
 /// The folder of all sounds, from a drive's root.
 inline constexpr char kSoundFolder[] = R"(\bramlee\aud\)";
 
+/// How the letter's part of a sound file's name reads.
+enum class LetterPart : std::uint8_t { Number, Character };
+
 /// The sounds of a board.
 struct SoundSet {
   const char* name;    ///< "engc", as the maker's table is named
   const char* prefix;  ///< below the folder of sounds: a folder and how its files' names begin
+  LetterPart part = LetterPart::Number;
 };
 
 /// In the order of the boards' numbers, from 1 on.
 inline constexpr SoundSet kSoundSets[] = {
-    {"engc", R"(engc\eng-)"     },
-    {"engs", R"(engs\eng-)"     },
+    {"engc",                 R"(engc\eng-)", LetterPart::Character},
+    {"engs",                      R"(engs\eng-)",                               LetterPart::Character},
     {"hinv", R"(hin\hinv\hinv-)"},
-    {"hinc", R"(hin\hinc\hinc-)"},
+    {"hinc",   R"(hin\hinc\hinc-)"                                },
     {"telv", R"(tel\telv\telv-)"},
-    {"telc", R"(tel\telc\telc-)"},
-    {"mat",  R"(mat\mat-)"      },
+    {"telc",   R"(tel\telc\telc-)"                                  },
+    {"mat", R"(mat\mat-)"},
 };
 
 /// Whole numbers, beside the maths board's tiles.
 inline constexpr SoundSet kNumberSounds = {"matc", R"(mat\matc\mat-)"};
+
+/// The letter's part of its file's name: "5", or "e". A tile has to be one of the set's.
+inline QString LetterPartOfSound(const SoundSet& set, int tile) {
+  return set.part == LetterPart::Number ? QString::number(tile) : QChar(u'a' + tile - 1);
+}
 
 }  // namespace bramlee

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "strokes/letter.h"
+#include "tools/strokes/films.h"
 #include "tools/strokes/pen_strokes_report.h"
 #include "tools/strokes/pictures.h"
 #include "tools/strokes/report.h"
@@ -52,6 +53,10 @@ ExitStatus Answer(const QStringList& arguments) {
   if (!parsed.text.isEmpty()) return Print(parsed.text.toStdString());
   const Request& request = parsed.request;
   if (!request.word.isEmpty()) return AnswerWord(request);
+  if (request.film.kind) {
+    const QString error = WriteFilms(request);
+    return error.isEmpty() ? kDone : Fail(kFailed, error);
+  }
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   for (int tile = request.firstTile; tile <= request.lastTile; ++tile) {
     const ExitStatus status =

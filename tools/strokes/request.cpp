@@ -54,9 +54,11 @@ class Reader {
             .arg(BoardNames()));
     parser_.addPositionalArgument(QStringLiteral("BOARD"), QStringLiteral("The letter set."),
                                   QStringLiteral("[BOARD]"));
-    parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."),
+    parser_.addPositionalArgument(QStringLiteral("TILE"),
+                                  QStringLiteral("The number of a tile, or a range of them: 3-10."),
                                   QStringLiteral("[TILE]"));
     letters_.AddTo(parser_);
+    films_.AddTo(parser_);
     parser_.addOptions({options_.given, options_.word, options_.headPerLetter, options_.step,
                         options_.penStrokes, options_.svg, options_.png, options_.scale, help_,
                         version_});
@@ -72,7 +74,7 @@ class Reader {
               .error = {}};
     }
     for (const auto part : {&Reader::ReadLetters, &Reader::ReadGiven, &Reader::ReadStep,
-                            &Reader::ReadPenStrokes, &Reader::ReadPictures}) {
+                            &Reader::ReadPenStrokes, &Reader::ReadPictures, &Reader::ReadFilm}) {
       const QString error = (this->*part)();
       if (!error.isEmpty()) return {.request = {}, .text = {}, .error = error};
     }
@@ -143,6 +145,17 @@ class Reader {
     return ReadScale();
   }
 
+  QString ReadFilm() {
+    const QString error = films_.Read(parser_, request_, request_.film);
+    if (!error.isEmpty() || !request_.film.kind) return error;
+    for (const auto* other : {&options_.word, &options_.penStrokes, &options_.svg, &options_.png}) {
+      if (!parser_.isSet(*other)) continue;
+      return QStringLiteral("--%1: goes without moving pictures and steps")
+          .arg(other->names().constFirst());
+    }
+    return {};
+  }
+
   QString ReadScale() {
     if (!parser_.isSet(options_.scale)) return {};
     if (request_.png.isEmpty()) return QStringLiteral("--scale: goes with --png");
@@ -157,6 +170,7 @@ class Reader {
 
   QCommandLineParser parser_;
   const LetterArguments letters_;
+  const FilmOptions films_;
   const Options options_;
   const QCommandLineOption help_{
       {QStringLiteral("h"), QStringLiteral("help")},

@@ -6,6 +6,7 @@
 
 #include "strokes/pen_strokes.h"
 #include "tools/letters/letter_arguments.h"
+#include "tools/strokes/film_options.h"
 
 namespace bramlee {
 
@@ -18,6 +19,7 @@ struct Request : LetterRequest {
   QString word;                ///< a text instead of a tile's letter; empty for none
   bool headPerLetter = false;  ///< of a word: the head line over each letter
   double scale = 1;            ///< of the PNG: its pixels to a sheet pixel
+  FilmRequest film;
 };
 
 /// What the arguments come to: a text to print (help, version), an error of one line, or, when

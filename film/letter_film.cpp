@@ -1,0 +1,99 @@
+#include "film/letter_film.h"
+
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+#include "ink/stamps.h"
+#include "ink/stroke_signs.h"
+#include "letters/letter_names.h"
+#include "writing/moving_svg.h"
+
+namespace bramlee {
+namespace {
+
+/// Around the ink, in sheet pixels.
+constexpr double kMargin = 20;
+/// A square holds a capital, 200 high, with its margins. Smaller letters get no larger scale.
+constexpr double kLeastSide = 250;
+
+/// Radius of a number's disc, in sheet pixels: as large as boards have it at most.
+constexpr double kDiscRadius = 12;
+/// Signs keep so far from the picture's edge.
+constexpr double kSignMargin = 2;
+
+struct Sides {
+  double left, top, right, bottom;
+  void Add(const Point& point, double around) {
+    left = std::min(left, point.x - around), right = std::max(right, point.x + around);
+    top = std::min(top, point.y - around), bottom = std::max(bottom, point.y + around);
+  }
+};
+
+Box ViewOf(const Letter& letter, const std::vector<StrokeNumber>& numbers) {
+  const Box& box = letter.Bounds();
+  const double around = kDrawWidth / 2 + kMargin;
+  Sides sides{box.x - around, box.y - around, box.x + box.width + around,
+              box.y + box.height + around};
+  for (const StrokeNumber& number : numbers) {
+    if (number.radius == 0) continue;
+    sides.Add(number.centre, number.radius + kSignMargin);
+    for (const Point& point : number.arrow.shaft) sides.Add(point, 2 * kSignMargin);
+    if (!number.arrow.IsDrawn()) continue;
+    for (const Point& point : number.arrow.head) sides.Add(point, 2 * kSignMargin);
+  }
+  const double width = sides.right - sides.left;
+  const double height = sides.bottom - sides.top;
+  const double side = std::max({width, height, kLeastSide});
+  return {.x = sides.left - (side - width) / 2,
+          .y = sides.top - (side - height) / 2,
+          .width = side,
+          .height = side};
+}
+
+/// Records the digits of numbers: a letter that is recorded in one thread must not be in another.
+void RecordDigits() {
+  QImage nothing(1, 1, QImage::Format_RGB32);
+  QPainter painter(&nothing);
+  PaintNumber(painter, 0, {.centre = {}, .radius = 1, .arrow = {}, .clean = true}, {});
+}
+
+std::string ColourText(const std::optional<QColor>& colour) {
+  return colour ? colour->name().toStdString() : std::string();
+}
+
+}  // namespace
+
+LetterFilm::LetterFilm(Letter letter, const FilmLook& look)
+    : letter_(std::move(letter)), look_(look), times_(TimelineOf(letter_, look.rate)) {
+  if (look_.numbers) {
+    RecordDigits();
+    numbers_ = PlaceNumbers(
+        letter_.Shape().strokes,
+        {.discRadius = kDiscRadius, .penHalfWidth = kDrawWidth / 2, .hand = look_.hand});
+  }
+  view_ = ViewOf(letter_, numbers_);
+}
+
+QString LetterFilm::Name() const {
+  const LetterId& id = letter_.Id();
+  return QString::fromStdString(LetterName(id.set, id.tile, id.form.book));
+}
+
+QByteArray LetterFilm::Svg() const {
+  const SignColours signs;
+  return QByteArray::fromStdString(MovingSvgOf(letter_, {.view = view_,
+                                                         .width = look_.pixels,
+                                                         .penWidth = kDrawWidth,
+                                                         .ink = ColourText(look_.ink),
+                                                         .ground = ColourText(look_.ground),
+                                                         .title = Name().toStdString(),
+                                                         .rate = look_.rate,
+                                                         .rest = look_.rest,
+                                                         .numbers = numbers_,
+                                                         .sign = ColourText(signs.sign),
+                                                         .rim = ColourText(signs.rim)}));
+}
+
+}  // namespace bramlee
