@@ -8,6 +8,7 @@
 #include "board/companions.h"
 #include "card/card.h"
 #include "companions/book/book.h"
+#include "companions/export/export.h"
 #include "companions/fit/fit.h"
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
   bramlee::AddCompanion(bramlee::AddBookSwitch);
   bramlee::AddCompanion(bramlee::AddWords);
   bramlee::AddCompanion(bramlee::AddWorksheets);
+  bramlee::AddCompanion(bramlee::AddExport);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();

@@ -9,6 +9,7 @@
 #include "board/companions.h"
 #include "card/card.h"
 #include "companions/book/book.h"
+#include "companions/export/export.h"
 #include "companions/fit/fit.h"
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
@@ -90,7 +91,7 @@ class FormsPage : public TempDrives {
     RegisterMaths();
     static const bool added = [] {
       for (const Companion each : {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch,
-                                   AddWords, AddWorksheets}) {
+                                   AddWords, AddWorksheets, AddExport}) {
         AddCompanion(each);
       }
       return true;

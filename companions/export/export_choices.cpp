@@ -1,0 +1,68 @@
+#include "companions/export/export_choices.h"
+
+#include <QStandardPaths>
+#include <algorithm>
+
+#include "ui/choices.h"
+
+namespace bramlee {
+namespace {
+
+const QString kWhich = QStringLiteral("export/which");
+const QString kKind = QStringLiteral("export/kind");
+const QString kPixels = QStringLiteral("export/pixels");
+const QString kInk = QStringLiteral("export/ink");
+const QString kBackground = QStringLiteral("export/ground");
+const QString kNumbers = QStringLiteral("export/numbers");
+const QString kSound = QStringLiteral("export/sound");
+const QString kFolder = QStringLiteral("export/folder");
+
+/// A choice that someone wrote into the configuration by hand may be of no use.
+template <class Kind>
+Kind EnumOf(const QString& name, Kind otherwise, Kind last) {
+  const int value = Choices::Instance().Of(name, static_cast<int>(otherwise)).toInt();
+  return value >= 0 && value <= static_cast<int>(last) ? static_cast<Kind>(value) : otherwise;
+}
+
+QString UsualFolder() {
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return pictures.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::HomeLocation)
+                            : pictures;
+}
+
+}  // namespace
+
+std::optional<QColor> ColourNamed(const QString& name) {
+  for (const NamedColour& each : kNamedColours) {
+    if (name == QLatin1String(each.name)) return ColourOf(each.colour);
+  }
+  return std::nullopt;
+}
+
+ExportChoices LastExportChoices() {
+  const Choices& choices = Choices::Instance();
+  const ExportChoices first;
+  return {
+      .which = EnumOf(kWhich, first.which, Which::WholeBoard),
+      .kind = EnumOf(kKind, first.kind, FilmKind::Steps),
+      .pixels = std::clamp(choices.Of(kPixels, first.pixels).toInt(), kLeastPixels, kMostPixels),
+      .ink = choices.Of(kInk, first.ink).toString(),
+      .ground = choices.Of(kBackground, first.ground).toString(),
+      .numbers = choices.Of(kNumbers, first.numbers).toBool(),
+      .sound = choices.Of(kSound, first.sound).toBool(),
+      .folder = choices.Of(kFolder, UsualFolder()).toString()};
+}
+
+void KeepExportChoices(const ExportChoices& chosen) {
+  Choices& choices = Choices::Instance();
+  choices.Choose(kWhich, static_cast<int>(chosen.which));
+  choices.Choose(kKind, static_cast<int>(chosen.kind));
+  choices.Choose(kPixels, chosen.pixels);
+  choices.Choose(kInk, chosen.ink);
+  choices.Choose(kBackground, chosen.ground);
+  choices.Choose(kNumbers, chosen.numbers);
+  choices.Choose(kSound, chosen.sound);
+  choices.Choose(kFolder, chosen.folder);
+}
+
+}  // namespace bramlee

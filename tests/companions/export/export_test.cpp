@@ -1,0 +1,220 @@
+// The dialog that writes a board's letters to files.
+#include "companions/export/export.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QImage>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QStandardPaths>
+#include <QTest>
+
+#include "board/companions.h"
+#include "board/strip.h"
+#include "companions/export/export_choices.h"
+#include "tests/board/board_fixture.h"
+
+namespace bramlee {
+namespace {
+
+class Exports : public BoardTest {
+ protected:
+  static void SetUpTestSuite() {
+    static const bool added = [] {
+      AddCompanion(AddExport);
+      return true;
+    }();
+    ASSERT_TRUE(added);
+  }
+
+  Board& OpenWith(const char* form, std::initializer_list<int> tiles) {
+    Board& board = Open(form);
+    board.show();
+    for (const int tile : tiles) board.pic_Click(tile);
+    return board;
+  }
+  QDialog& Ask(Board& board) const {
+    board.Named<StripButton>(Q("strip_export"))->click();
+    auto* dialog = board.findChild<QDialog*>(Q("export"));
+    EXPECT_NE(dialog, nullptr);
+    dialog->findChild<QLineEdit*>(Q("export_folder"))->setText(folder.path());
+    return *dialog;
+  }
+  template <class Widget>
+  static Widget& In(const QDialog& dialog, const char* name) {
+    return *dialog.findChild<Widget*>(Q(name));
+  }
+  static void Choose(const QDialog& dialog, Which which, FilmKind kind) {
+    In<QComboBox>(dialog, "export_which").setCurrentIndex(static_cast<int>(which));
+    In<QComboBox>(dialog, "export_kind").setCurrentIndex(static_cast<int>(kind));
+  }
+  static bool IsWorking(const QDialog& dialog) {
+    return !In<QPushButton>(dialog, "export_begin").isEnabled();
+  }
+  static QString Said(const QDialog& dialog) { return In<QLabel>(dialog, "export_said").text(); }
+  /// Presses Export and waits until all is written, or not.
+  static std::string Begin(const QDialog& dialog) {
+    In<QPushButton>(dialog, "export_begin").click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !IsWorking(dialog); }, 60'000));
+    return Said(dialog).toStdString();
+  }
+  QStringList There() const {
+    return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+  }
+
+  QTemporaryDir folder;
+};
+
+TEST_F(Exports, HaveAButtonOnTheStripThatRestsWhileALetterIsWritten) {
+  Board& board = Open("fbrmengc02");
+  const StripButton* button = board.Named<StripButton>(Q("strip_export"));
+  EXPECT_EQ(button->toolTip(), Q("Export letters to files (E)"));
+  EXPECT_TRUE(button->isEnabled());
+  bool enabledMeanwhile = true;
+  board.pen().SetFrameCall([&] { enabledMeanwhile = button->isEnabled(); });
+  board.pic_Click(1);
+  EXPECT_FALSE(enabledMeanwhile);
+  EXPECT_TRUE(button->isEnabled());
+}
+
+TEST_F(Exports, WriteTheLastLetter) {
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {1, 2}));
+  Choose(dialog, Which::ThisLetter, FilmKind::Svg);
+  EXPECT_EQ(Begin(dialog), "1 file written.");
+  EXPECT_EQ(There(), QStringList{Q("engc-02-B.svg")});
+  EXPECT_TRUE(In<QPushButton>(dialog, "export_show").isVisible());
+}
+
+TEST_F(Exports, WriteTheSheetsLettersOnceEach) {
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {1, 2, 3, 2}));
+  Choose(dialog, Which::SheetsLetters, FilmKind::Svg);
+  EXPECT_EQ(Begin(dialog), "3 files written.");
+  EXPECT_EQ(There().size(), 3);
+}
+
+TEST_F(Exports, WriteTheWholeBoard) {
+  const QDialog& dialog = Ask(OpenWith("fbrmhinv01", {}));
+  Choose(dialog, Which::WholeBoard, FilmKind::Svg);
+  EXPECT_EQ(Begin(dialog), "27 files written. Left out: picture has no strokes.");
+  EXPECT_EQ(There().size(), 27);
+}
+
+TEST_F(Exports, LookAsTheBoardDoesUnlessOtherwiseChosen) {
+  Board& board = OpenWith("fbrmengc02", {});
+  Pick(board, "mnucolor(3)");
+  board.pic_Click(1);
+  const QDialog& dialog = Ask(board);
+  Choose(dialog, Which::ThisLetter, FilmKind::Svg);
+  Begin(dialog);
+  const QString path = folder.filePath(Q("engc-01-A.svg"));
+  EXPECT_TRUE(BytesOf(path).contains("stroke=\"#00ff00\""));
+  EXPECT_TRUE(BytesOf(path).contains("fill=\"#c0ffff\""));
+  In<QComboBox>(dialog, "export_colour").setCurrentText(Q("Blue"));
+  In<QComboBox>(dialog, "export_ground").setCurrentText(Q("None"));
+  In<QSpinBox>(dialog, "export_size").setValue(123);
+  answer = true;
+  Begin(dialog);
+  EXPECT_TRUE(BytesOf(path).contains("stroke=\"#0000ff\""));
+  EXPECT_TRUE(BytesOf(path).contains("width=\"123\""));
+  EXPECT_FALSE(BytesOf(path).contains("<rect"));
+}
+
+TEST_F(Exports, AskOnceAboutFilesThatAreThere) {
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {1, 2, 3}));
+  Choose(dialog, Which::SheetsLetters, FilmKind::Svg);
+  Begin(dialog);
+  EXPECT_TRUE(questions.isEmpty());
+  const QString path = folder.filePath(Q("engc-01-A.svg"));
+  WriteBytes(path, "old");
+  answer = false;
+  EXPECT_EQ(Begin(dialog), "Nothing was written.");
+  EXPECT_EQ(questions, QStringList{Q("3 files in that folder would be replaced.")});
+  EXPECT_EQ(BytesOf(path), "old");
+  answer = true;
+  EXPECT_EQ(Begin(dialog), "3 files written.");
+  EXPECT_EQ(questions.size(), 2);
+  EXPECT_NE(BytesOf(path), "old");
+}
+
+TEST_F(Exports, StepsHaveNumbersAlways) {
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {1}));
+  auto& numbers = In<QCheckBox>(dialog, "export_numbers");
+  Choose(dialog, Which::ThisLetter, FilmKind::Gif);
+  EXPECT_TRUE(numbers.isEnabled());
+  EXPECT_FALSE(numbers.isChecked());
+  Choose(dialog, Which::ThisLetter, FilmKind::Steps);
+  EXPECT_FALSE(numbers.isEnabled());
+  EXPECT_TRUE(numbers.isChecked());
+  EXPECT_EQ(Begin(dialog), "3 files written.");
+  EXPECT_EQ(QImage(folder.filePath(Q("engc-01-A-3.png"))).size(), QSize(400, 400));
+  Choose(dialog, Which::ThisLetter, FilmKind::Webm);
+  EXPECT_FALSE(numbers.isChecked());
+  EXPECT_TRUE(In<QCheckBox>(dialog, "export_sound").isEnabled());
+}
+
+TEST_F(Exports, SayWhatIsMissing) {
+  Board& board = OpenWith("fbrmengc02", {});
+  const QDialog& dialog = Ask(board);
+  Choose(dialog, Which::ThisLetter, FilmKind::Svg);
+  EXPECT_EQ(Begin(dialog),
+            "No letter is written yet: click a tile first, or take the whole board.");
+  Choose(dialog, Which::WholeBoard, FilmKind::Svg);
+  In<QLineEdit>(dialog, "export_folder").setText(folder.filePath(Q("no/such")));
+  EXPECT_EQ(Begin(dialog), "There is no folder of that name.");
+  EXPECT_TRUE(There().isEmpty());
+}
+
+TEST_F(Exports, AreCancelledAndLeaveNothing) {
+  if (QStandardPaths::findExecutable(Q("ffmpeg")).isEmpty()) GTEST_SKIP() << "needs ffmpeg";
+  QDialog& dialog = Ask(OpenWith("fbrmengc02", {}));
+  Choose(dialog, Which::WholeBoard, FilmKind::Gif);
+  In<QPushButton>(dialog, "export_begin").click();
+  EXPECT_TRUE(IsWorking(dialog));
+  EXPECT_EQ(In<QPushButton>(dialog, "export_close").text(), Q("Cancel"));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return In<QProgressBar>(dialog, "export_progress").value() > 10; }, 60'000));
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !IsWorking(dialog); }, 60'000));
+  EXPECT_EQ(Said(dialog), Q("Cancelled: nothing was written."));
+  EXPECT_TRUE(There().isEmpty());
+  EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(Exports, EndWithTheirBoard) {
+  if (QStandardPaths::findExecutable(Q("ffmpeg")).isEmpty()) GTEST_SKIP() << "needs ffmpeg";
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {}));
+  Choose(dialog, Which::WholeBoard, FilmKind::Gif);
+  In<QPushButton>(dialog, "export_begin").click();
+  UnloadAll();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(There().isEmpty());
+}
+
+TEST_F(Exports, RememberWhatWasChosen) {
+  Board& board = OpenWith("fbrmengc02", {1});
+  QDialog& dialog = Ask(board);
+  Choose(dialog, Which::SheetsLetters, FilmKind::Steps);
+  In<QSpinBox>(dialog, "export_size").setValue(77);
+  Begin(dialog);
+  dialog.close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  const QDialog& again = Ask(board);
+  EXPECT_EQ(In<QComboBox>(again, "export_which").currentText(), Q("The sheet's letters"));
+  EXPECT_EQ(In<QComboBox>(again, "export_kind").currentText(), Q("Steps (PNG)"));
+  EXPECT_EQ(In<QSpinBox>(again, "export_size").value(), 77);
+}
+
+TEST_F(Exports, HaveANameOnEveryControl) {
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {}));
+  for (const QWidget* each : dialog.findChildren<QWidget*>(QRegularExpression(Q("^export_")))) {
+    EXPECT_FALSE(each->accessibleName().isEmpty()) << each->objectName().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace bramlee
