@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <thread>
 #include <utility>
@@ -28,6 +29,15 @@ QString Move(const QString& from, const QString& to) {
   std::error_code error;
   std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
   return error ? QString::fromStdString(error.message()) : QString();
+}
+
+/// No error leaves a thread.
+MadeFilm MakeCaught(const LetterFilm& film, const FilmOrder& order, const std::stop_token& stop) {
+  try {
+    return MakeFilm(film, order, stop);
+  } catch (const std::exception& error) {
+    return {.files = {}, .error = QString::fromUtf8(error.what())};
+  }
 }
 
 Exported Failed(const QString& what, const QString& why) {
@@ -77,7 +87,7 @@ void FilmExport::MakeLetters(std::stop_token stop) {
   for (std::size_t i = next_++; i < letters_.size() && !failed_; i = next_++) {
     const FilmOrder order{
         .kind = kind_, .sound = letters_[i].sound, .frameDone = [this] { ++framesDone_; }};
-    made_[i] = MakeFilm(letters_[i].film, order, stop);
+    made_[i] = MakeCaught(letters_[i].film, order, stop);
     if (!made_[i].error.isEmpty()) failed_ = true;
   }
 }

@@ -49,7 +49,6 @@ class FilmExport {
  private:
   QStringList NamesOf(const ExportedLetter& letter) const;
   void MakeLetters(std::stop_token stop);
-  void KeepError(const QString& error);
   Exported WriteAll() const;
 
   const QString folder_;

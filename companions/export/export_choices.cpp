@@ -17,11 +17,18 @@ const QString kNumbers = QStringLiteral("export/numbers");
 const QString kSound = QStringLiteral("export/sound");
 const QString kFolder = QStringLiteral("export/folder");
 
+/// What the configuration has for flash cards.
+constexpr int kCards = static_cast<int>(FilmKind::Steps) + 1;
+
 /// A choice that someone wrote into the configuration by hand may be of no use.
-template <class Kind>
-Kind EnumOf(const QString& name, Kind otherwise, Kind last) {
-  const int value = Choices::Instance().Of(name, static_cast<int>(otherwise)).toInt();
-  return value >= 0 && value <= static_cast<int>(last) ? static_cast<Kind>(value) : otherwise;
+Which WhichOf(int value) {
+  const bool isOne = value >= 0 && value <= static_cast<int>(Which::WholeBoard);
+  return isOne ? static_cast<Which>(value) : Which::ThisLetter;
+}
+
+std::optional<FilmKind> KindOf(int value) {
+  if (value == kCards) return std::nullopt;
+  return value >= 0 && value < kCards ? static_cast<FilmKind>(value) : FilmKind::Gif;
 }
 
 QString UsualFolder() {
@@ -43,8 +50,8 @@ ExportChoices LastExportChoices() {
   const Choices& choices = Choices::Instance();
   const ExportChoices first;
   return {
-      .which = EnumOf(kWhich, first.which, Which::WholeBoard),
-      .kind = EnumOf(kKind, first.kind, FilmKind::Steps),
+      .which = WhichOf(choices.Of(kWhich, static_cast<int>(first.which)).toInt()),
+      .kind = KindOf(choices.Of(kKind, static_cast<int>(FilmKind::Gif)).toInt()),
       .pixels = std::clamp(choices.Of(kPixels, first.pixels).toInt(), kLeastPixels, kMostPixels),
       .ink = choices.Of(kInk, first.ink).toString(),
       .ground = choices.Of(kBackground, first.ground).toString(),
@@ -56,7 +63,7 @@ ExportChoices LastExportChoices() {
 void KeepExportChoices(const ExportChoices& chosen) {
   Choices& choices = Choices::Instance();
   choices.Choose(kWhich, static_cast<int>(chosen.which));
-  choices.Choose(kKind, static_cast<int>(chosen.kind));
+  choices.Choose(kKind, chosen.kind ? static_cast<int>(*chosen.kind) : kCards);
   choices.Choose(kPixels, chosen.pixels);
   choices.Choose(kInk, chosen.ink);
   choices.Choose(kBackground, chosen.ground);

@@ -36,7 +36,7 @@ std::optional<QColor> ColourNamed(const QString& name);
 
 struct ExportChoices {
   Which which = Which::ThisLetter;
-  FilmKind kind = FilmKind::Gif;
+  std::optional<FilmKind> kind = FilmKind::Gif;  ///< none: flash cards
   int pixels = 400;
   QString ink = QString::fromLatin1(kAsOnTheBoard);
   QString ground = QString::fromLatin1(kAsOnTheBoard);  ///< or kNoGround

@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -19,6 +20,8 @@
 #include "board/board.h"
 #include "companions/export/export_letters.h"
 #include "files/trap.h"
+#include "film/flash_cards.h"
+#include "paper/pdf_file.h"
 #include "ui/message_box.h"
 
 namespace bramlee {
@@ -45,6 +48,10 @@ QComboBox* ListOfColours(std::initializer_list<const char*> first) {
   return list;
 }
 
+QString SetNameOf(const LetterSet& set) {
+  return QString::fromUtf8(set.name.data(), static_cast<qsizetype>(set.name.size()));
+}
+
 QString FilesText(qsizetype files) {
   return files == 1 ? QStringLiteral("1 file") : QStringLiteral("%1 files").arg(files);
 }
@@ -57,7 +64,7 @@ ExportDialog::ExportDialog(Board& board)
       which_(Named(ListOf({"This letter", "The sheet's letters", "The whole board"}),
                    "export_which", "Letters")),
       kind_(Named(ListOf({"Moving picture (SVG)", "Moving picture (GIF)", "Video (WebM)",
-                          "Video (MP4)", "Steps (PNG)"}),
+                          "Video (MP4)", "Steps (PNG)", "Flash cards (PDF)"}),
                   "export_kind", "Kind")),
       pixels_(Named(new QSpinBox, "export_size", "Size")),
       ink_(Named(ListOfColours({kAsOnTheBoard}), "export_colour", "Letters' colour")),
@@ -79,7 +86,7 @@ ExportDialog::ExportDialog(Board& board)
   pixels_->setSuffix(QStringLiteral(" pixels"));
   said_->setTextFormat(Qt::PlainText);
   said_->setWordWrap(true);
-  said_->setMinimumWidth(kSaidPixels);
+  said_->setMinimumSize(kSaidPixels, 2 * said_->fontMetrics().lineSpacing());  // buttons stay
   questions_->setLayout(MakeQuestions());
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(questions_);
@@ -149,7 +156,7 @@ QWidget* ExportDialog::MakeButtons() {
 void ExportDialog::ShowChoices(const ExportChoices& choices) {
   const bool written = HasLetters(board_, choices.which);
   which_->setCurrentIndex(static_cast<int>(written ? choices.which : Which::WholeBoard));
-  kind_->setCurrentIndex(static_cast<int>(choices.kind));
+  kind_->setCurrentIndex(choices.kind ? static_cast<int>(*choices.kind) : kind_->count() - 1);
   pixels_->setValue(choices.pixels);
   ink_->setCurrentText(choices.ink);
   ground_->setCurrentText(choices.ground);
@@ -158,9 +165,16 @@ void ExportDialog::ShowChoices(const ExportChoices& choices) {
   folder_->setText(QDir::toNativeSeparators(choices.folder));
 }
 
+/// The last of the list are the cards.
+std::optional<FilmKind> ExportDialog::Kind() const {
+  const int index = kind_->currentIndex();
+  if (index == kind_->count() - 1) return std::nullopt;
+  return static_cast<FilmKind>(index);
+}
+
 ExportChoices ExportDialog::Chosen() const {
   return {.which = static_cast<Which>(which_->currentIndex()),
-          .kind = static_cast<FilmKind>(kind_->currentIndex()),
+          .kind = Kind(),
           .pixels = pixels_->value(),
           .ink = ink_->currentText(),
           .ground = ground_->currentText(),
@@ -169,10 +183,12 @@ ExportChoices ExportDialog::Chosen() const {
           .folder = QDir::fromNativeSeparators(folder_->text())};
 }
 
-/// Steps always have their numbers.
+/// Steps always have their numbers; cards are as large as paper is, and as white.
 void ExportDialog::FollowKind() {
-  const auto kind = static_cast<FilmKind>(kind_->currentIndex());
-  sound_->setEnabled(CanSpeak(kind));
+  const std::optional<FilmKind> kind = Kind();
+  pixels_->setEnabled(kind.has_value());
+  ground_->setEnabled(kind.has_value());
+  sound_->setEnabled(kind && CanSpeak(*kind));
   numbers_->setEnabled(kind != FilmKind::Steps);
   numbers_->setChecked(numbersChosen_ || kind == FilmKind::Steps);
 }
@@ -210,20 +226,49 @@ void ExportDialog::Begin() {
   if (!QDir(choices.folder).exists() || choices.folder.isEmpty()) {
     return Say(QStringLiteral("There is no folder of that name."));
   }
-  auto films =
-      std::make_unique<FilmExport>(choices.folder, choices.kind, LettersToExport(board_, choices));
-  const qsizetype there = films->Replaced().size();
-  if (there > 0 &&
-      !AskBox(QStringLiteral("%1 in that folder would be replaced.").arg(FilesText(there)),
-              QStringLiteral("Replace"), QStringLiteral("Cancel"))) {
-    return Say(QStringLiteral("Nothing was written."));
+  if (choices.kind) {
+    BeginFilms(choices);
+  } else {
+    WriteCards(choices);
   }
+}
+
+bool ExportDialog::MayReplace(qsizetype files) {
+  const bool may =
+      files == 0 ||
+      AskBox(QStringLiteral("%1 in that folder would be replaced.").arg(FilesText(files)),
+             QStringLiteral("Replace"), QStringLiteral("Cancel"));
+  if (!may) Say(QStringLiteral("Nothing was written."));
+  return may;
+}
+
+void ExportDialog::BeginFilms(const ExportChoices& choices) {
+  auto films =
+      std::make_unique<FilmExport>(choices.folder, *choices.kind, LettersToExport(board_, choices));
+  if (!MayReplace(films->Replaced().size())) return;
   Say(QStringLiteral("The files are being made."));
   progress_->setMaximum(0);
   progress_->setValue(0);
   work_.Start(std::move(films));
   FollowWork();
   close_->setFocus();
+}
+
+/// At once: fonts belong to this thread, and a page takes a few hundredths of a second.
+void ExportDialog::WriteCards(const ExportChoices& choices) {
+  std::vector<ExportedLetter> letters = LettersToExport(board_, choices);
+  const QString name = letters.size() == 1 ? letters.front().name : SetNameOf(board_.letters());
+  const QString file = QDir(choices.folder).filePath(name + QStringLiteral("-cards.pdf"));
+  if (!MayReplace(QFileInfo::exists(file) ? 1 : 0)) return;
+  std::vector<LetterFilm> films;
+  for (ExportedLetter& letter : letters) films.push_back(std::move(letter.film));
+  const FlashCards cards(std::move(films));
+  if (cards.Letters() == 0) return Say(cards.Notes().join(u' '));
+  const QString title = QString::fromLatin1(board_.record().title);
+  const PaperError error = WritePdf(cards, {.title = title, .author = {}}, file);
+  Finish({.written = error.IsNone() ? QStringList{file} : QStringList(),
+          .left = cards.Notes(),
+          .error = error.text});
 }
 
 void ExportDialog::Finish(const Exported& exported) {

@@ -36,10 +36,14 @@ class ExportDialog : public QDialog {
   QWidget* MakeButtons();
   void ShowChoices(const ExportChoices& choices);
   ExportChoices Chosen() const;
+  std::optional<FilmKind> Kind() const;
   void FollowKind();
   void FollowWork();
   void Browse();
   void Begin();
+  void BeginFilms(const ExportChoices& choices);
+  void WriteCards(const ExportChoices& choices);
+  bool MayReplace(qsizetype files);
   void Finish(const Exported& exported);
   void Say(const QString& text);
 

@@ -85,7 +85,7 @@ bool HasLetters(Board& board, Which which) {
 }
 
 std::vector<ExportedLetter> LettersToExport(Board& board, const ExportChoices& choices) {
-  const bool speaks = choices.sound && CanSpeak(choices.kind);
+  const bool speaks = choices.sound && choices.kind && CanSpeak(*choices.kind);
   std::vector<ExportedLetter> letters;
   for (Found& found : Chosen(board, choices.which)) {
     const LetterId id = found.letter.Id();

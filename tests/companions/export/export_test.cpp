@@ -157,6 +157,20 @@ TEST_F(Exports, StepsHaveNumbersAlways) {
   EXPECT_TRUE(In<QCheckBox>(dialog, "export_sound").isEnabled());
 }
 
+TEST_F(Exports, WriteFlashCards) {
+  const QDialog& dialog = Ask(OpenWith("fbrmengc02", {1}));
+  Choose(dialog, Which::WholeBoard, FilmKind::Svg);
+  auto& kind = In<QComboBox>(dialog, "export_kind");
+  kind.setCurrentText(Q("Flash cards (PDF)"));
+  EXPECT_FALSE(In<QSpinBox>(dialog, "export_size").isEnabled());
+  EXPECT_EQ(Begin(dialog), "1 file written.");
+  EXPECT_EQ(There(), QStringList{Q("engc-cards.pdf")});
+  EXPECT_TRUE(BytesOf(folder.filePath(Q("engc-cards.pdf"))).startsWith("%PDF"));
+  In<QComboBox>(dialog, "export_which").setCurrentIndex(0);
+  EXPECT_EQ(Begin(dialog), "1 file written.");
+  EXPECT_TRUE(There().contains(Q("engc-01-A-cards.pdf")));
+}
+
 TEST_F(Exports, SayWhatIsMissing) {
   Board& board = OpenWith("fbrmengc02", {});
   const QDialog& dialog = Ask(board);
