@@ -100,22 +100,23 @@ constexpr LatinLetter kLetters[] = {
 };
 // clang-format on
 
-/// From a set's sheet to the word: its base line comes to the word's, and capitals, the digits and
-/// the tall small letters end at the word's head.
+/// Where a set's letters stand on its own sheet.
 struct LatinSheet {
-  std::string_view set;
   double top;
   double base;
 };
-constexpr LatinSheet kSheets[] = {
-    {"engc", 150,       350      },
-    {"engs", 50,        275      },
-    {"mat",  kWordHead, kWordBase},
-};
+
+/// Its base line comes to the word's, and capitals, the digits and the tall small letters end at
+/// the word's head.
+LatinSheet SheetOf(std::string_view set) {
+  if (set == "engc") return {.top = 150, .base = 350};
+  if (set == "engs") return {.top = 50, .base = 275};
+  return {.top = kWordHead, .base = kWordBase};
+}
 
 /// Moves the ink's left edge, a place on the set's own sheet, to `left` in the word.
 Placing PlacingOf(std::string_view set, double ink, double left) {
-  const LatinSheet& sheet = *std::ranges::find(kSheets, set, &LatinSheet::set);
+  const LatinSheet sheet = SheetOf(set);
   const double scale = (kWordBase - kWordHead) / (sheet.base - sheet.top);
   return {.scale = scale, .right = left - ink * scale, .down = kWordBase - sheet.base * scale};
 }
