@@ -34,17 +34,25 @@ Practice PracticeOf(const LetterId& id) {
           .lines = WritingLinesOf(id.set),
           .set = id.set,
           .caption = QString::fromStdString(LetterName(id.set, id.tile, id.form.book)),
-          .word = {}};
+          .word = {},
+          .notes = {}};
 }
 
 Practice WordPractice(const QString& text) {
-  const std::string word = text.simplified().toStdString();
   const std::string_view set = SetOfText(text);
-  return {.letter = LayWord(word).letter,
-          .lines = OnSheetOfWords(WritingLinesOf(set)),
-          .set = set,
-          .caption = text.simplified(),
-          .word = word};
+  Practice practice{.letter = {},
+                    .lines = OnSheetOfWords(WritingLinesOf(set)),
+                    .set = set,
+                    .caption = text.simplified(),
+                    .word = text.simplified().toStdString(),
+                    .notes = {}};
+  const Word word = LayWord(practice.word);
+  practice.letter = word.letter;
+  for (const LeftOut& each : word.leftOut) {
+    practice.notes.append(QStringLiteral("%1 has no strokes and is left out of \"%2\"")
+                              .arg(QString::fromStdString(each.text), practice.caption));
+  }
+  return practice;
 }
 
 Practice NumberPractice(int number) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,8 @@ struct Practice {
   QString caption{};       ///< printed small above the rows; empty for none
   /// UTF-8, of a word: one that is too long for a row is made smaller and then broken into lines.
   std::string word{};
+  /// What could not be written of a word, a line each for people.
+  QStringList notes{};
 };
 
 /// The letter of a tile with its name as caption. One without strokes has no runs.

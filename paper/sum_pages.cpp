@@ -131,7 +131,8 @@ class SumPages : public PrintedPages {
   /// Sums run down a column.
   void PaintSum(QPainter& painter, int index, int place, bool answered) const {
     const Sum& sum = sheet_.sums[static_cast<std::size_t>(index)];
-    const double x = grid_.left + place / grid_.rows * grid_.columnWidth;
+    const int column = place / grid_.rows;
+    const double x = grid_.left + column * grid_.columnWidth;
     const double base = grid_.top + (place % grid_.rows + 0.75) * grid_.rowPitch;
     PaintText(painter, {x, base}, QStringLiteral("%1.").arg(index + 1), kNumber, kCaptionInk);
     const Word question = QuestionOf(sum);

@@ -49,6 +49,7 @@ LaidOut LayOut(const Worksheet& sheet) {
   for (const Practice& practice : sheet.practices) {
     if (!practice.letter.Runs().empty()) {
       shown.push_back(practice);
+      notes += practice.notes;
     } else {
       notes.append(QStringLiteral("%1 has no strokes").arg(practice.caption));
     }

@@ -171,6 +171,15 @@ TEST(Worksheet, LeavesALetterWithoutStrokesOutAndSaysSo) {
   EXPECT_EQ(none.error.text, QStringLiteral("picture has no strokes"));
 }
 
+TEST(Worksheet, SaysWhatIsLeftOutOfAWord) {
+  const LaidOut made = LayOut(SheetOf({WordPractice(QStringLiteral("Am字i"))}, {RowKind::Grey}));
+  ASSERT_TRUE(made.error.IsNone());
+  // Where no font shows the character, the caption is noted as well.
+  ASSERT_FALSE(made.pages->Notes().isEmpty());
+  EXPECT_EQ(made.pages->Notes().constFirst(),
+            QStringLiteral("字 has no strokes and is left out of \"Am字i\""));
+}
+
 TEST(Worksheet, OfNothingSaysSo) {
   EXPECT_EQ(LayOut(Worksheet()).error.text, QStringLiteral("nothing is chosen"));
   EXPECT_EQ(LayOut(SheetOf({Tile("engc", 1)}, {})).error.text,
