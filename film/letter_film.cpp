@@ -3,11 +3,13 @@
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "ink/stamps.h"
 #include "ink/stroke_signs.h"
 #include "letters/letter_names.h"
+#include "strokes/run_track.h"
 #include "writing/moving_svg.h"
 
 namespace bramlee {
@@ -23,6 +25,8 @@ constexpr double kDiscRadius = 12;
 /// Signs keep so far from the picture's edge.
 constexpr double kSignMargin = 2;
 
+constexpr double kFar = 1e9;
+
 struct Sides {
   double left, top, right, bottom;
   void Add(const Point& point, double around) {
@@ -31,11 +35,37 @@ struct Sides {
   }
 };
 
-Box ViewOf(const Letter& letter, const std::vector<StrokeNumber>& numbers) {
-  const Box& box = letter.Bounds();
+/// Of an arc, where it begins and ends and where it is furthest up, down, left and right.
+void AddArc(Sides& sides, const RunTrack& arc, double around) {
+  constexpr double kQuarter = 90;
+  sides.Add(arc.ends.begin, around);
+  sides.Add(arc.ends.end, around);
+  const double first = std::min(arc.angle, arc.angle + arc.turn);
+  const double last = std::max(arc.angle, arc.angle + arc.turn);
+  for (double at = std::ceil(first / kQuarter) * kQuarter; at <= last; at += kQuarter) {
+    sides.Add(arc.OnArc((at - arc.angle) / arc.turn), around);
+  }
+}
+
+/// Around the ink. Letter::Bounds() looks at each dot, which takes longer than all of an SVG.
+Sides SidesOf(const Letter& letter) {
   const double around = kDrawWidth / 2 + kMargin;
-  Sides sides{box.x - around, box.y - around, box.x + box.width + around,
-              box.y + box.height + around};
+  Sides sides{kFar, kFar, -kFar, -kFar};
+  for (const Run& run : letter.Runs()) {
+    const std::optional<RunTrack> track = TrackOf(run, letter.Step());
+    if (!track) continue;
+    if (track->radius != 0 && track->turn != 0) {
+      AddArc(sides, *track, around);
+    } else {
+      sides.Add(track->ends.begin, around);
+      sides.Add(track->ends.end, around);
+    }
+  }
+  return sides.left < sides.right ? sides : Sides{0, 0, 0, 0};
+}
+
+Box ViewOf(const Letter& letter, const std::vector<StrokeNumber>& numbers) {
+  Sides sides = SidesOf(letter);
   for (const StrokeNumber& number : numbers) {
     if (number.radius == 0) continue;
     sides.Add(number.centre, number.radius + kSignMargin);

@@ -98,6 +98,22 @@ TEST(Frames, ShowTheNumbersOfTheStrokesToCome) {
   EXPECT_FALSE(shown(step, 0) || shown(step, 2));
 }
 
+TEST(Frames, ShowEveryDotWithAMarginAround) {
+  for (const auto& [set, tile] : {
+           std::pair("engs", 7), {"hinc", 35},
+             {"telv", 6 },
+             {"telc", 19},
+             {"mat",  8 }
+  }) {
+    const LetterFilm film = FilmOf(set, tile, RedOnGrey());
+    const Box& box = film.Shown().Bounds();
+    const Box& view = film.View();
+    EXPECT_NEAR(box.x + box.width / 2, view.x + view.width / 2, 0.05) << set << tile;
+    EXPECT_NEAR(box.y + box.height / 2, view.y + view.height / 2, 0.05) << set << tile;
+    EXPECT_GE(view.width + 0.1, std::max(box.width, box.height) + 50) << set << tile;
+  }
+}
+
 TEST(Frames, OfSmallSignsKeepTheScaleOfLetters) {
   const LetterFilm dot = FilmOf("hinv", 25, RedOnGrey());
   const LetterFilm letter = FilmOf("engc", 12, RedOnGrey());
