@@ -37,9 +37,15 @@ ExitStatus Print(const QByteArray& text) {
   return printed ? kDone : Fail(kFailed, QStringLiteral("the output cannot be written"));
 }
 
+LaidOut LayOutDocument(const SheetsRequest& request) {
+  if (const auto* sheet = std::get_if<Worksheet>(&request.document)) return LayOut(*sheet);
+  if (const auto* sums = std::get_if<SumSheet>(&request.document)) return LayOut(*sums);
+  const auto* book = std::get_if<LetterBook>(&request.document);
+  return book == nullptr ? LaidOut() : LayOut(*book);
+}
+
 ExitStatus Write(const SheetsRequest& request) {
-  const LaidOut made =
-      std::visit([](const auto& document) { return LayOut(document); }, request.document);
+  const LaidOut made = LayOutDocument(request);
   if (!made.error.IsNone()) return Fail(kBadArguments, made.error.text);
   for (const QString& note : made.pages->Notes()) Say(note);
   const bool isLong = std::holds_alternative<LetterBook>(request.document);
