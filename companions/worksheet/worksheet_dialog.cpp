@@ -183,6 +183,7 @@ QWidget* WorksheetDialog::MakeActions() {
   said_ = NamedControl(new QLabel(part), "said", {});
   said_->setTextFormat(Qt::PlainText);
   said_->setWordWrap(true);
+  said_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long path widens nothing
   work_ = new LongWork(part);
   folder_ = MakeButton("folder", QStringLiteral("Show fo&lder"),
                        QStringLiteral("Show the folder of the saved file"), part);
@@ -265,6 +266,7 @@ void WorksheetDialog::FollowPreview() {
 
 void WorksheetDialog::Say(const QString& text) {
   said_->setText(text);
+  said_->setToolTip(text);
   said_->setAccessibleName(text);
 }
 

@@ -2,6 +2,7 @@
 #include <sys/resource.h>
 
 #include <QFileInfo>
+#include <QLayout>
 #include <QProcess>
 #include <QProgressBar>
 #include <QScopeGuard>
@@ -68,6 +69,16 @@ TEST_F(WorksheetOutput, ProposesANameAndTheFolderOfLastTime) {
   Click("all");
   Click("pdf");
   EXPECT_EQ(proposals.value(1), On("c/English Capital Letters.pdf"));
+}
+
+TEST_F(WorksheetOutput, ALongNameOfAFileDoesNotWidenTheDialog) {
+  file = On("c/") + QString(200, u'n') + Q(".pdf");
+  OpenOn(kCapitalsForm);
+  const int least = dialog->minimumSizeHint().width();
+  Click("pdf");
+  EXPECT_TRUE(Said().contains(QString(200, u'n')));
+  dialog->layout()->activate();
+  EXPECT_LE(dialog->minimumSizeHint().width(), std::max(least, 780));
 }
 
 TEST_F(WorksheetOutput, OffersTheFolderAfterwards) {
