@@ -8,7 +8,7 @@ namespace bramlee {
 QString TilePicture(std::string_view letterSet, int tile, bool book) {
   return QStringLiteral(":/pictures/%1%2/%3.jpg")
       .arg(book ? QStringLiteral("book/") : QString(),
-           QString::fromLatin1(letterSet.data(), std::ssize(letterSet)))
+           QString::fromLatin1(QByteArrayView(letterSet)))
       .arg(tile);
 }
 

@@ -24,7 +24,7 @@ const QString kFolder = QStringLiteral("worksheet/folder");
 
 /// The folder that a worksheet went to last, as long as it is there.
 QString UsualFolder() {
-  const QString kept = Choices::Instance().Of(kFolder, QString()).toString();
+  QString kept = Choices::Instance().Of(kFolder, QString()).toString();
   if (!kept.isEmpty() && QDir(kept).exists()) return kept;
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QDir(documents).exists() ? documents : QDir::homePath();

@@ -20,7 +20,7 @@ QString Key(const char* name) {
 }
 
 QString Key(const char* name, std::string_view letterSet) {
-  return Key(name) + u'/' + QString::fromLatin1(letterSet.data(), std::ssize(letterSet));
+  return Key(name) + u'/' + QString::fromLatin1(QByteArrayView(letterSet));
 }
 
 /// One word by which a choice is kept, empty where it never was.
