@@ -83,7 +83,7 @@ QStringList FilmExport::Replaced() const {
 }
 
 /// Makes letters until none is left to begin with.
-void FilmExport::MakeLetters(std::stop_token stop) {
+void FilmExport::MakeLetters(const std::stop_token& stop) {
   for (std::size_t i = next_++; i < letters_.size() && !failed_; i = next_++) {
     const FilmOrder order{
         .kind = kind_, .sound = letters_[i].sound, .frameDone = [this] { ++framesDone_; }};
@@ -92,7 +92,7 @@ void FilmExport::MakeLetters(std::stop_token stop) {
   }
 }
 
-Exported FilmExport::Run(int threads, std::stop_token stop) {
+Exported FilmExport::Run(int threads, const std::stop_token& stop) {
   if (letters_.empty()) {
     return {.written = {},
             .left = left_,
@@ -104,6 +104,7 @@ Exported FilmExport::Run(int threads, std::stop_token stop) {
   {
     std::vector<std::jthread> others;
     const int more = std::min(threads, static_cast<int>(letters_.size())) - 1;
+    others.reserve(static_cast<std::size_t>(std::max(more, 0)));
     for (int i = 0; i < more; ++i) others.emplace_back([this, stop] { MakeLetters(stop); });
     MakeLetters(stop);
   }

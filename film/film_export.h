@@ -40,7 +40,7 @@ class FilmExport {
 
   /// Makes and writes all. As many letters are made at the same time as there are threads, the
   /// caller's among them. Once only.
-  Exported Run(int threads, std::stop_token stop = {});
+  Exported Run(int threads, const std::stop_token& stop = {});
 
   // --- how far it has come; from any thread
   int Frames() const { return frames_; }
@@ -48,7 +48,7 @@ class FilmExport {
 
  private:
   QStringList NamesOf(const ExportedLetter& letter) const;
-  void MakeLetters(std::stop_token stop);
+  void MakeLetters(const std::stop_token& stop);
   Exported WriteAll() const;
 
   const QString folder_;

@@ -204,7 +204,7 @@ QString FilmTrouble(const LetterFilm& film) {
       .arg(kLongestFilm / 60);
 }
 
-MadeFilm MakeFilm(const LetterFilm& film, const FilmOrder& order, std::stop_token stop) {
+MadeFilm MakeFilm(const LetterFilm& film, const FilmOrder& order, const std::stop_token& stop) {
   if (stop.stop_requested()) return {.files = {}, .error = kCancelled};
   if (NeedsFfmpeg(order.kind)) return MakeByFfmpeg(film, order, stop);
   if (order.kind == FilmKind::Steps) return MakeSteps(film, order, stop);

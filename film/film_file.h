@@ -51,7 +51,7 @@ struct FilmOrder {
 
 /// Makes the film within this thread, as fast as it goes. A stop that was asked for is an error at
 /// the next frame. Neither the film's pixels nor its length are looked at: see FilmTrouble.
-MadeFilm MakeFilm(const LetterFilm& film, const FilmOrder& order, std::stop_token stop = {});
+MadeFilm MakeFilm(const LetterFilm& film, const FilmOrder& order, const std::stop_token& stop = {});
 
 /// Why no file of that kind can be made of the film, a line for people; empty when it can.
 QString FilmTrouble(const LetterFilm& film);

@@ -227,7 +227,7 @@ void ExportDialog::Begin() {
     return Say(QStringLiteral("There is no folder of that name."));
   }
   if (choices.kind) {
-    BeginFilms(choices);
+    BeginFilms(*choices.kind, choices);
   } else {
     WriteCards(choices);
   }
@@ -242,9 +242,8 @@ bool ExportDialog::MayReplace(qsizetype files) {
   return may;
 }
 
-void ExportDialog::BeginFilms(const ExportChoices& choices) {
-  auto films =
-      std::make_unique<FilmExport>(choices.folder, *choices.kind, LettersToExport(board_, choices));
+void ExportDialog::BeginFilms(FilmKind kind, const ExportChoices& choices) {
+  auto films = std::make_unique<FilmExport>(choices.folder, kind, LettersToExport(board_, choices));
   if (!MayReplace(films->Replaced().size())) return;
   Say(QStringLiteral("The files are being made."));
   progress_->setMaximum(0);
@@ -261,6 +260,7 @@ void ExportDialog::WriteCards(const ExportChoices& choices) {
   const QString file = QDir(choices.folder).filePath(name + QStringLiteral("-cards.pdf"));
   if (!MayReplace(QFileInfo::exists(file) ? 1 : 0)) return;
   std::vector<LetterFilm> films;
+  films.reserve(letters.size());
   for (ExportedLetter& letter : letters) films.push_back(std::move(letter.film));
   const FlashCards cards(std::move(films));
   if (cards.Letters() == 0) return Say(cards.Notes().join(u' '));

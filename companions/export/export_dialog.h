@@ -41,7 +41,7 @@ class ExportDialog : public QDialog {
   void FollowWork();
   void Browse();
   void Begin();
-  void BeginFilms(const ExportChoices& choices);
+  void BeginFilms(FilmKind kind, const ExportChoices& choices);
   void WriteCards(const ExportChoices& choices);
   bool MayReplace(qsizetype files);
   void Finish(const Exported& exported);
