@@ -111,7 +111,8 @@ void PictureBox::Fit(QSize room) {
   fittedRoom_ = room;
   const QPixmap picture = PictureFor(room);
   ground_ = GroundOf(picture);
-  fitted_ = picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  fitted_ = picture.isNull() ? picture
+                             : picture.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   fitted_.setDevicePixelRatio(devicePixelRatioF());
 }
 

@@ -21,8 +21,8 @@ namespace bramlee {
 /// While on, letters that join the board's page are not written by the pen but laid as pale guides.
 /// The child writes their strokes one by one; each that is done is written by the pen at once, in
 /// the letter's colour, so that the sheet then holds the same dots as ever. Draw All, and a pen
-/// that goes on by itself, end it. The guides are the letters of the book, unless a
-/// teacher wants those that the board has.
+/// that goes on by itself, end it. The guides are the letters of the book, unless a teacher wants
+/// those that the board has.
 class Tracing : public QObject {
   Q_OBJECT
  public:
