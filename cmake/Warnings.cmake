@@ -21,12 +21,16 @@ target_compile_definitions(bramlee_qt_options INTERFACE
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
 option(BRAMLEE_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
-# The tests' own code (BRAMLEE_OF_TESTS) is checked for its memory alone: the rest takes a third of
-# the time that the compiler needs for it.
+# Of the tests' own code (BRAMLEE_OF_TESTS) the memory alone is checked: the rest takes a third of the
+# time that the compiler needs for it. Tests that compute much (BRAMLEE_UNCHECKED) are left as they
+# are; what they call is checked.
 define_property(TARGET PROPERTY BRAMLEE_OF_TESTS INITIALIZE_FROM_VARIABLE BRAMLEE_OF_TESTS)
+define_property(TARGET PROPERTY BRAMLEE_UNCHECKED)
 if(BRAMLEE_SANITIZE)
+  set(of_tests $<BOOL:$<TARGET_PROPERTY:BRAMLEE_OF_TESTS>>)
+  set(unchecked $<BOOL:$<TARGET_PROPERTY:BRAMLEE_UNCHECKED>>)
   target_compile_options(bramlee_options INTERFACE
-    -fsanitize=address $<$<NOT:$<BOOL:$<TARGET_PROPERTY:BRAMLEE_OF_TESTS>>>:-fsanitize=undefined>
+    $<$<NOT:${unchecked}>:-fsanitize=address> $<$<NOT:${of_tests}>:-fsanitize=undefined>
     -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(bramlee_options INTERFACE -fsanitize=address,undefined)
 endif()
