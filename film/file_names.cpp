@@ -8,7 +8,7 @@ namespace bramlee {
 namespace {
 
 QString SetPart(const LetterId& id) {
-  const QString set = QString::fromUtf8(id.set.data(), static_cast<qsizetype>(id.set.size()));
+  QString set = QString::fromUtf8(id.set.data(), static_cast<qsizetype>(id.set.size()));
   if (id.set != "hinc") return set;
   switch (HindiSetOf(id.tile)) {
     case kHindiHalfSet:
@@ -33,7 +33,7 @@ bool EveryFileSystemTakes(const QString& sign) {
 }
 
 QString SignPart(const LetterId& id) {
-  const QString sign = QString::fromStdString(PrintedLetter(id.set, id.tile, id.form.book));
+  QString sign = QString::fromStdString(PrintedLetter(id.set, id.tile, id.form.book));
   if (EveryFileSystemTakes(sign)) return sign;
   return QString::fromStdString(LetterName(id.set, id.tile, id.form.book)).replace(u' ', u'-');
 }

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "letters/letter_names.h"
@@ -108,11 +109,12 @@ void FlashCards::Paint(QPainter& painter, int page) const {
   painter.translate(kMarginMm, kMarginMm);
   PaintCutLines(painter);
   for (int i = 0; i < kCardsOnAPage; ++i) {
-    const auto letter = static_cast<std::size_t>(page * kCardsOnAPage + i);
-    if (letter >= letters_.size()) break;
+    const int letter = page * kCardsOnAPage + i;
+    if (letter >= std::ssize(letters_)) break;
     painter.save();
-    painter.translate(i % kColumns * CardMm().width(), i / kColumns * CardMm().height());
-    PaintCard(painter, letters_[letter]);
+    const int row = i / kColumns;
+    painter.translate(i % kColumns * CardMm().width(), row * CardMm().height());
+    PaintCard(painter, letters_[static_cast<std::size_t>(letter)]);
     painter.restore();
   }
   painter.restore();
