@@ -73,9 +73,8 @@ bool DrawWordSheets(std::string_view script, const QString& folder) {
     for (std::size_t i = first; i < std::min(first + onASheet, clusters.size()); ++i) {
       const auto place = static_cast<int>(i - first);
       const int column = place % static_cast<int>(columns);
-      const QRectF cell(
-          QPointF(column * kPair.width(), place / static_cast<int>(columns) * kPair.height()),
-          QSizeF(kPair));
+      const int row = place / static_cast<int>(columns);
+      const QRectF cell(QPointF(column * kPair.width(), row * kPair.height()), QSizeF(kPair));
       const QString text = QString::fromStdString(clusters[i].text);
       DrawCaption(painter, text, cell);
       DrawWord(painter, LayWord(clusters[i].text).letter, HalfOf(cell, false));

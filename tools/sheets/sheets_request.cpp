@@ -179,7 +179,7 @@ class Reader {
 
   QString ReadLetters() {
     LetterRequest letters;
-    const QString error = letters_.Read(parser_, letters);
+    QString error = letters_.Read(parser_, letters);
     if (!error.isEmpty()) return error;
     letters.form.book = !given_;
     std::vector<Practice> practices;

@@ -25,7 +25,7 @@ void FilmOptions::AddTo(QCommandLineParser& parser) const {
 
 QString FilmOptions::Read(const QCommandLineParser& parser, const LetterRequest& letters,
                           FilmRequest& film) const {
-  const QString error = ReadKind(parser, film);
+  QString error = ReadKind(parser, film);
   if (!error.isEmpty()) return error;
   if (!film.kind) {
     for (const auto* other :
@@ -38,7 +38,7 @@ QString FilmOptions::Read(const QCommandLineParser& parser, const LetterRequest&
   film.numbers = parser.isSet(numbers_);
   film.hand = parser.isSet(leftHand_) ? Hand::Left : Hand::Right;
   film.replaces = parser.isSet(force_);
-  const QString output = ReadOutput(parser, letters, film);
+  QString output = ReadOutput(parser, letters, film);
   if (!output.isEmpty()) return output;
   const QString look = ReadLook(parser, film);
   return look.isEmpty() ? ReadSound(parser, film) : look;

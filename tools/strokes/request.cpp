@@ -146,7 +146,7 @@ class Reader {
   }
 
   QString ReadFilm() {
-    const QString error = films_.Read(parser_, request_, request_.film);
+    QString error = films_.Read(parser_, request_, request_.film);
     if (!error.isEmpty() || !request_.film.kind) return error;
     for (const auto* other : {&options_.word, &options_.penStrokes, &options_.svg, &options_.png}) {
       if (!parser_.isSet(*other)) continue;
