@@ -1,5 +1,6 @@
 #include "strokes/svg_path.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
@@ -10,6 +11,14 @@ namespace {
 /// A longer arc is written in parts: near half a circle and near a whole one, a hundredth of a
 /// pixel at its ends moves its middle by a whole pixel.
 constexpr double kLongestTurn = 120;
+
+/// Nothing in a picture is farther off; what is more than that, or no number, cannot be rounded.
+constexpr double kFarthest = 1e9;
+
+long Rounded(double number) {
+  if (std::isnan(number)) return 0;
+  return std::lround(std::clamp(number, -kFarthest, kFarthest) * 100);
+}
 
 std::string Hundredths(long number) {
   std::string text = number < 0 ? "-" : "";
@@ -30,11 +39,11 @@ std::string Next(long number) {
 }  // namespace
 
 std::string SvgNumber(double number) {
-  return Hundredths(std::lround(number * 100));
+  return Hundredths(Rounded(number));
 }
 
 SvgPath::Place SvgPath::PlaceOf(const Point& point) const {
-  return {std::lround((point.x - origin_.x) * 100), std::lround((point.y - origin_.y) * 100)};
+  return {Rounded(point.x - origin_.x), Rounded(point.y - origin_.y)};
 }
 
 void SvgPath::Add(char command, const Place& step) {

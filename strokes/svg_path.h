@@ -7,7 +7,8 @@
 
 namespace bramlee {
 
-/// A number rounded to a hundredth, as short as SVG takes it: "-.5".
+/// A number rounded to a hundredth, as short as SVG takes it: "-.5". Infinity is a billion, and
+/// what is no number 0.
 std::string SvgNumber(double number);
 
 /// The `d` of an SVG path. Coordinates are written as steps from place to place, each place rounded

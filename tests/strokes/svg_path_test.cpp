@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "strokes/letter.h"
 #include "tests/strokes/every_letter.h"
 
@@ -28,6 +30,14 @@ TEST(SvgNumber, IsRoundedToAHundredthAndAsShortAsCanBe) {
   EXPECT_EQ(SvgNumber(-0.05), "-.05");
   EXPECT_EQ(SvgNumber(12.3456), "12.35");
   EXPECT_EQ(SvgNumber(-100), "-100");
+}
+
+TEST(SvgNumber, IsANumberWhateverItIsMadeOf) {
+  const double infinite = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(SvgNumber(infinite), "1000000000");
+  EXPECT_EQ(SvgNumber(-infinite), "-1000000000");
+  EXPECT_EQ(SvgNumber(1e300), "1000000000");
+  EXPECT_EQ(SvgNumber(std::numeric_limits<double>::quiet_NaN()), "0");
 }
 
 // The last dot of some runs stands a step short of where they should end.

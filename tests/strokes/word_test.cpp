@@ -74,7 +74,7 @@ TEST(WordTest, LeavesTheLastPointRegistersAlone) {
 
 TEST(WordTest, StandsBetweenHeadAndBase) {
   for (const char* text : {"A", "H", "l", "d", "x", "8", "क", "म"}) {
-    const Box& ink = LayWord(text).letter.Bounds();
+    const Box ink = LayWord(text).letter.Bounds();
     EXPECT_NEAR(Bottom(ink), kWordBase, 3) << text;
     EXPECT_GE(ink.y, kWordHead - 3) << text;
   }
