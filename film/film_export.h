@@ -31,7 +31,7 @@ struct Exported {
 /// the folder as it was.
 class FilmExport {
  public:
-  /// The folder has to be there. A letter that nothing can be made of is left out, and told in
+  /// The folder has to be there. A letter that nothing can be made of is left out, and named in
   /// Exported::left.
   FilmExport(QString folder, FilmKind kind, std::vector<ExportedLetter> letters);
 

@@ -13,7 +13,7 @@ inline constexpr int kCardsOnAPage = 8;
 
 /// Cards with the letter as it is written, its steps, its printed sign, and room for a picture that
 /// a teacher pastes or a child draws; fine lines to cut along. The letters have their films' ink
-/// and numbers. Those without strokes are left out and told in Notes().
+/// and numbers. Those without strokes are left out and named in Notes().
 class FlashCards final : public PrintedPages {
  public:
   explicit FlashCards(std::vector<LetterFilm> letters, const PageFormat& page = {});

@@ -7,7 +7,7 @@
 namespace bramlee {
 namespace {
 
-/// Where home is laid out for a screen, told in its units u (width) and v (height).
+/// Where home is laid out for a screen, in its units u (width) and v (height).
 struct HomeOn {
   ScreenSize screen;
   double u;

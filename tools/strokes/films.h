@@ -6,8 +6,8 @@
 namespace bramlee {
 
 /// Writes the request's letters to its file or folder, which is made if it is not there; as many at
-/// the same time as there are processors. What is left out is told on the standard error. Returns
-/// an error of one line, with nothing written, or an empty text.
+/// the same time as there are processors. Prints to standard error which letters it leaves out.
+/// Returns an error of one line, with nothing written, or an empty text.
 QString WriteFilms(const Request& request);
 
 }  // namespace bramlee
