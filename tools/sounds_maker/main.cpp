@@ -13,7 +13,7 @@
 #include <optional>
 #include <thread>
 
-#include "tools/sounds_maker/media_tree.h"
+#include "voice/media_tree.h"
 #include "tools/sounds_maker/number_words.h"
 #include "tools/sounds_maker/sound_maker.h"
 

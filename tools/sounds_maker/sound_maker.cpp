@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "tools/sounds_maker/media_tree.h"
-#include "tools/sounds_maker/speech_wave.h"
+#include "voice/media_tree.h"
+#include "voice/speech_wave.h"
 
 namespace bramlee {
 namespace {

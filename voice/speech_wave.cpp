@@ -1,4 +1,4 @@
-#include "tools/sounds_maker/speech_wave.h"
+#include "voice/speech_wave.h"
 
 #include <QtEndian>
 #include <algorithm>
@@ -25,6 +25,9 @@ constexpr int kKeptAheadMs = 5;  ///< of the silence that is cut off, for a soft
 constexpr int kKeptBehindMs = 20;
 constexpr int kFadeInMs = 3;
 constexpr int kFadeOutMs = 10;
+
+/// How often the gain is corrected for what pressing peaks down takes of the average.
+constexpr int kPresses = 4;
 
 constexpr qsizetype kRiffHeader = 12;
 constexpr qsizetype kChunkHeader = 8;
@@ -64,15 +67,46 @@ std::vector<std::int16_t> Spoken(const SpeechWave& speech, int silence) {
   return {first - std::min(ahead, first - all.begin()), last + std::min(behind, all.end() - last)};
 }
 
-double LevelGain(const std::vector<std::int16_t>& samples) {
+/// What brings the samples to the average.
+double AverageGain(const std::vector<std::int16_t>& samples) {
   double squares = 0;
+  for (const std::int16_t sample : samples) squares += 1.0 * sample * sample;
+  if (squares == 0) return 1;
+  return kAverage / std::sqrt(squares / static_cast<double>(samples.size()));
+}
+
+double LevelGain(const std::vector<std::int16_t>& samples) {
   double peak = 0;
-  for (const std::int16_t sample : samples) {
-    squares += 1.0 * sample * sample;
-    peak = std::max(peak, std::abs(1.0 * sample));
+  for (const std::int16_t sample : samples) peak = std::max(peak, std::abs(1.0 * sample));
+  return std::min(AverageGain(samples), kPeak / peak);
+}
+
+/// The samples at that gain, with what would rise above half of the highest peak bent below it.
+std::vector<std::int16_t> Pressed(const std::vector<std::int16_t>& samples, double gain) {
+  constexpr double kBend = 0.5;
+  std::vector<std::int16_t> pressed(samples.size());
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    double height = std::abs(samples[i] * gain) / kPeak;
+    if (height > kBend) height = kBend + (1 - kBend) * std::tanh((height - kBend) / (1 - kBend));
+    pressed[i] = static_cast<std::int16_t>(std::lround(std::copysign(height * kPeak, samples[i])));
   }
-  const double average = std::sqrt(squares / static_cast<double>(samples.size()));
-  return std::min(kAverage / average, kPeak / peak);
+  return pressed;
+}
+
+/// Softens the ends and puts silence around.
+SpeechWave InSilence(int rate, std::vector<std::int16_t> spoken) {
+  SpeechWave cue{.rate = rate, .samples = {}};
+  const double fadeIn = static_cast<double>(Samples(cue, kFadeInMs));
+  const double fadeOut = static_cast<double>(Samples(cue, kFadeOutMs));
+  for (std::size_t i = 0; i < spoken.size(); ++i) {
+    const double begun = static_cast<double>(i + 1) / fadeIn;
+    const double left = static_cast<double>(spoken.size() - i) / fadeOut;
+    spoken[i] = static_cast<std::int16_t>(std::lround(spoken[i] * std::min({1.0, begun, left})));
+  }
+  cue.samples.resize(Samples(cue, kAheadMs));
+  cue.samples.insert(cue.samples.end(), spoken.begin(), spoken.end());
+  cue.samples.insert(cue.samples.end(), Samples(cue, kBehindMs), 0);
+  return cue;
 }
 
 }  // namespace
@@ -126,19 +160,20 @@ SpeechWave MakeCue(const SpeechWave& speech) {
   for (std::int16_t& sample : level.samples) {
     sample = static_cast<std::int16_t>(std::lround(sample * gain));
   }
-  std::vector<std::int16_t> spoken = Spoken(level, kSilence);
-  const double fadeIn = static_cast<double>(Samples(speech, kFadeInMs));
-  const double fadeOut = static_cast<double>(Samples(speech, kFadeOutMs));
-  for (std::size_t i = 0; i < spoken.size(); ++i) {
-    const double begun = static_cast<double>(i + 1) / fadeIn;
-    const double left = static_cast<double>(spoken.size() - i) / fadeOut;
-    spoken[i] = static_cast<std::int16_t>(std::lround(spoken[i] * std::min({1.0, begun, left})));
-  }
-  SpeechWave cue{.rate = speech.rate,
-                 .samples = std::vector<std::int16_t>(Samples(speech, kAheadMs))};
-  cue.samples.insert(cue.samples.end(), spoken.begin(), spoken.end());
-  cue.samples.insert(cue.samples.end(), Samples(speech, kBehindMs), 0);
-  return cue;
+  return InSilence(speech.rate, Spoken(level, kSilence));
+}
+
+SpeechWave MakeCueOfVoice(const SpeechWave& heard, std::size_t begin, std::size_t end) {
+  end = std::min(end, heard.samples.size());
+  if (begin >= end) return {.rate = heard.rate, .samples = {}};
+  begin -= std::min(begin, Samples(heard, kKeptAheadMs));
+  const auto at = [&heard](std::size_t place) {
+    return heard.samples.begin() + static_cast<std::ptrdiff_t>(place);
+  };
+  std::vector<std::int16_t> voice(at(begin), at(end));
+  double gain = AverageGain(voice);
+  for (int i = 0; i < kPresses; ++i) gain *= AverageGain(Pressed(voice, gain));
+  return InSilence(heard.rate, Pressed(voice, gain));
 }
 
 }  // namespace bramlee

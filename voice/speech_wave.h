@@ -1,7 +1,8 @@
-// Speech as it comes from the synthesiser, made ready to be a cue.
+// Speech as it comes from the synthesiser or a microphone, made ready to be a cue.
 #pragma once
 
 #include <QByteArray>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -24,5 +25,10 @@ QByteArray WriteWave(const SpeechWave& wave);
 /// -1 dB, softens its ends and puts a short silence around it. Returns no samples for speech that
 /// is silent throughout.
 SpeechWave MakeCue(const SpeechWave& speech);
+
+/// The same of a voice that a microphone heard, from sample `begin` to `end`; a little of what was
+/// heard before is kept for a soft beginning. Peaks that a voice may
+/// have far above its average are pressed down, so that it is as loud as the others all the same.
+SpeechWave MakeCueOfVoice(const SpeechWave& heard, std::size_t begin, std::size_t end);
 
 }  // namespace bramlee

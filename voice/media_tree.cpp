@@ -1,4 +1,4 @@
-#include "tools/sounds_maker/media_tree.h"
+#include "voice/media_tree.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "tools/sounds_maker/speech_wave.h"
+#include "voice/speech_wave.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +69,36 @@ TEST(MakeCueOf, EndsAreSoft) {
 TEST(MakeCueOf, SilenceGivesNoSamples) {
   EXPECT_TRUE(MakeCue(Tone(100, 300, 50)).samples.empty());
   EXPECT_TRUE(MakeCue({.rate = kRate, .samples = {}}).samples.empty());
+}
+
+TEST(MakeCueOfVoice, KeepsThePartThatIsAskedForInSilence) {
+  const SpeechWave heard = Tone(5000, 300, 200);
+  const SpeechWave cue =
+      MakeCueOfVoice(heard, heard.samples.size() * 200 / 700, heard.samples.size() * 500 / 700);
+  const auto loud = [](std::int16_t sample) { return std::abs(int{sample}) > 300; };
+  const auto first = std::find_if(cue.samples.begin(), cue.samples.end(), loud);
+  const auto last = std::find_if(cue.samples.rbegin(), cue.samples.rend(), loud);
+  EXPECT_NEAR(static_cast<double>(first - cue.samples.begin()) / kRate, 0.015, 0.002);
+  EXPECT_NEAR(static_cast<double>(last - cue.samples.rbegin()) / kRate, 0.06, 0.002);
+}
+
+TEST(MakeCueOfVoice, HighPeaksLeaveItAsLoudAsTheOthers) {
+  SpeechWave voice = Tone(600, 300, 0);
+  for (std::size_t i = 0; i < voice.samples.size(); i += 700) voice.samples[i] = 12000;
+  const SpeechWave cue = MakeCueOfVoice(voice, 0, voice.samples.size());
+  EXPECT_NEAR(20 * std::log10(Level(cue) / 3276.7), 0, 0.5);
+  EXPECT_LE(*std::max_element(cue.samples.begin(), cue.samples.end()), 29205);
+}
+
+TEST(MakeCueOfVoice, APlainVoiceIsLevelledLikeTheSynthesisers) {
+  const SpeechWave tone = Tone(5000, 300, 0);
+  EXPECT_NEAR(Level(MakeCueOfVoice(tone, 0, tone.samples.size())), Level(MakeCue(tone)), 40);
+}
+
+TEST(MakeCueOfVoice, APartThatIsNoneGivesNoSamples) {
+  const SpeechWave tone = Tone(5000, 300, 0);
+  EXPECT_TRUE(MakeCueOfVoice(tone, 100, 100).samples.empty());
+  EXPECT_TRUE(MakeCueOfVoice(tone, tone.samples.size(), tone.samples.size() + 9).samples.empty());
 }
 
 TEST(WaveFile, IsReadAsItWasWritten) {
