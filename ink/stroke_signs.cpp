@@ -2,11 +2,13 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "letters/letter_sets.h"
 #include "strokes/letter.h"
-#include "strokes/run_lines.h"
+#include "strokes/run_track.h"
 
 namespace bramlee {
 namespace {
@@ -36,20 +38,26 @@ QPen RoundPen(const QColor& colour, double width) {
   return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
+/// A run as a few lines: a page on paper has hundreds of digits.
+QPolygonF FewLinesOf(const RunTrack& track) {
+  constexpr double kPartDegrees = 15;  // off by a hundredth of an arc's radius
+  const double parts = std::max(1.0, std::ceil(std::abs(track.turn) / kPartDegrees));
+  QPolygonF line{PlaceOf(track.ends.begin)};
+  for (double part = 1; part < parts; ++part) line << PlaceOf(track.OnArc(part / parts));
+  return line << PlaceOf(track.ends.end);
+}
+
 /// The digit one pixel high, its top left at (0, 0).
 QPainterPath MakeDigit(int digit) {
-  constexpr double kSpacing = 4;  // the digits are 200 sheet pixels high
   const int tile = digit == 0 ? kDigitTiles : digit;
   const Letter& letter = LetterOf({.set = "mat", .tile = tile, .form = {}});
   QPainterPath path;
   for (const Run& run : letter.Runs()) {
-    for (const Lines& piece : LinesOf(run, {.spacing = kSpacing})) {
-      path.addPolygon(PolygonOf(piece));
-    }
+    if (const auto track = TrackOf(run, letter.Step())) path.addPolygon(FewLinesOf(*track));
   }
-  const Box& bounds = letter.Bounds();
-  const double scale = 1 / bounds.height;
-  return QTransform::fromScale(scale, scale).translate(-bounds.x, -bounds.y).map(path);
+  const QRectF bounds = path.boundingRect();
+  const double scale = 1 / bounds.height();
+  return QTransform::fromScale(scale, scale).translate(-bounds.x(), -bounds.y()).map(path);
 }
 
 const QPainterPath& DigitOf(int digit) {

@@ -3,10 +3,11 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "ink/stroke_signs.h"
-#include "strokes/run_lines.h"
+#include "strokes/run_track.h"
 
 namespace bramlee {
 namespace {
@@ -44,11 +45,10 @@ void AddArc(const Run& run, double step, QPainterPath& path) {
 }
 
 void AddStraight(const Run& run, double step, QPainterPath& path) {
-  constexpr double kEndsAlone = 1;
-  for (const Lines& ends : LinesOf(run, {.step = step, .spacing = kEndsAlone})) {
-    Begin({ends.front().x, ends.front().y}, path);
-    path.lineTo(ends.back().x, ends.back().y);
-  }
+  const std::optional<RunEnds> ends = EndsOf(run, step);
+  if (!ends) return;
+  Begin({ends->begin.x, ends->begin.y}, path);
+  path.lineTo(ends->end.x, ends->end.y);
 }
 
 std::size_t EndOf(const Letter& letter, std::size_t upTo) {
@@ -110,14 +110,12 @@ void PaintHollow(QPainter& painter, const Letter& letter, const LetterLook& look
 
 void PaintBegins(QPainter& painter, const Letter& letter, const LetterLook& look) {
   painter.save();
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(Qt::white);
-  const double radius = kBeginDot * look.penWidth / 2;
+  painter.setPen(RoundPen(Qt::white, kBeginDot * look.penWidth));
   const auto& strokes = letter.Shape().strokes;
   for (std::size_t i = look.from; i < EndOf(letter, look.upTo); ++i) {
     if (strokes[i].points.empty()) continue;
     const Point& begin = strokes[i].points.front();
-    painter.drawEllipse(QPointF(begin.x, begin.y), radius, radius);
+    painter.drawPoint(QPointF(begin.x, begin.y));
   }
   painter.restore();
 }
