@@ -33,10 +33,10 @@ QStringList Words(const char* text) {
 
 /// What ffmpeg reads.
 QStringList InputArguments(const LetterFilm& film, const FilmOrder& order) {
-  const int pixels = film.Look().pixels;
+  const QSize size = film.Pixels();
   QStringList arguments = Words("-f rawvideo -pix_fmt");
   arguments << (order.kind == FilmKind::Gif ? QStringLiteral("pal8") : QStringLiteral("bgra"))
-            << QStringLiteral("-s") << QStringLiteral("%1x%1").arg(pixels)
+            << QStringLiteral("-s") << QStringLiteral("%1x%2").arg(size.width()).arg(size.height())
             << QStringLiteral("-framerate") << QString::number(RateOf(order.kind))
             << QStringLiteral("-i") << QStringLiteral("pipe:0");
   if (CanSpeak(order.kind) && !order.sound.isEmpty()) {

@@ -5,7 +5,6 @@
 #include <iterator>
 #include <utility>
 
-#include "letters/letter_names.h"
 #include "paper/print_text.h"
 #include "paper/vector_letter.h"
 
@@ -22,17 +21,21 @@ constexpr double kStepsHeight = 17;
 constexpr double kSignSize = 11;  ///< of the printed sign
 constexpr double kNameSize = 4;
 constexpr double kStepNumberSize = 2.6;
+constexpr double kStepNumberPart = 0.2;  ///< of a low step's height
 constexpr double kFineLine = 0.2;
 
 const QColor kCutLine(0xB0, 0xB0, 0xB0);
 const QColor kPale(0xC8, 0xC8, 0xC8);
 const QColor kText(0x26, 0x32, 0x38);
 
-/// From here on the painter's unit is a sheet pixel, and the film's view fills that square.
-void EnterView(QPainter& painter, const LetterFilm& film, const QRectF& square) {
-  painter.translate(square.topLeft());
-  painter.scale(square.width() / film.View().width, square.width() / film.View().width);
-  painter.translate(-film.View().x, -film.View().y);
+/// From here on the painter's unit is a sheet pixel, and the film's view lies in the middle of that
+/// room, as wide.
+void EnterView(QPainter& painter, const LetterFilm& film, const QRectF& room) {
+  const Box& view = film.View();
+  const double scale = room.width() / view.width;
+  painter.translate(room.left(), room.center().y() - scale * view.height / 2);
+  painter.scale(scale, scale);
+  painter.translate(-view.x, -view.y);
 }
 
 void PaintWhole(QPainter& painter, const LetterFilm& film, const QRectF& square) {
@@ -44,24 +47,47 @@ void PaintWhole(QPainter& painter, const LetterFilm& film, const QRectF& square)
 }
 
 /// The strokes before in pale, the newest in ink.
-void PaintStep(QPainter& painter, const LetterFilm& film, std::size_t stroke,
-               const QRectF& square) {
+void PaintStep(QPainter& painter, const LetterFilm& film, std::size_t stroke, const QRectF& room) {
   painter.save();
-  EnterView(painter, film, square);
+  EnterView(painter, film, room);
   PaintLetter(painter, film.Shown(), {.ink = kPale, .upTo = stroke});
   PaintLetter(painter, film.Shown(), {.ink = film.Look().ink, .from = stroke, .upTo = stroke + 1});
   painter.restore();
-  PaintText(painter, {square.left(), square.top() + kStepNumberSize}, QString::number(stroke + 1),
-            kStepNumberSize, kText);
+  const double size = std::min(kStepNumberSize, kStepNumberPart * room.height());
+  PaintText(painter, {room.left(), room.top() + size}, QString::number(stroke + 1), size, kText);
+}
+
+/// Steps in rows, each as wide and high as that.
+struct StepGrid {
+  int columns = 1;
+  double width = 0;
+  double height = 0;
+};
+
+/// As many rows as make the steps largest.
+StepGrid GridOf(const LetterFilm& film, const QSizeF& room) {
+  const auto steps = static_cast<int>(film.Shown().PenStrokes().size());
+  const double flatness = film.View().height / film.View().width;
+  StepGrid best;
+  for (int rows = 1; rows <= steps; ++rows) {
+    const int columns = (steps + rows - 1) / rows;
+    const double width = std::min(room.width() / columns, room.height() / rows / flatness);
+    if (width > best.width) {
+      best = {.columns = columns, .width = width, .height = width * flatness};
+    }
+  }
+  return best;
 }
 
 void PaintSteps(QPainter& painter, const LetterFilm& film, const QRectF& place) {
-  const std::size_t steps = film.Shown().PenStrokes().size();
-  const double side = std::min(place.height(), place.width() / static_cast<double>(steps));
-  const double top = place.top() + (place.height() - side) / 2;
-  for (std::size_t i = 0; i < steps; ++i) {
-    const double left = place.left() + static_cast<double>(i) * side;
-    PaintStep(painter, film, i, {left, top, side, side});
+  const auto steps = static_cast<int>(film.Shown().PenStrokes().size());
+  const StepGrid grid = GridOf(film, place.size());
+  const int rows = (steps + grid.columns - 1) / grid.columns;
+  const double top = place.center().y() - rows * grid.height / 2;
+  for (int i = 0; i < steps; ++i) {
+    PaintStep(painter, film, static_cast<std::size_t>(i),
+              {place.left() + i % grid.columns * grid.width,
+               top + static_cast<double>(i / grid.columns) * grid.height, grid.width, grid.height});
   }
 }
 
@@ -134,7 +160,6 @@ void FlashCards::PaintCutLines(QPainter& painter) const {
 }
 
 void FlashCards::PaintCard(QPainter& painter, const LetterFilm& film) const {
-  const LetterId& id = film.Shown().Id();
   const QRectF card = QRectF({}, CardMm()).marginsRemoved({kInset, kInset, kInset, kInset});
   const double side = card.height() - kStepsHeight - kGap;
   PaintWhole(painter, film, {card.left(), card.top(), side, side});
@@ -144,10 +169,10 @@ void FlashCards::PaintCard(QPainter& painter, const LetterFilm& film) const {
   const double width = card.right() - left;
   const double signLine = card.top() + kSignSize * 1.1;
   const double nameLine = signLine + kNameSize * 1.6;
-  PaintFitting(painter, {left, signLine},
-               QString::fromStdString(PrintedLetter(id.set, id.tile, id.form.book)), kSignSize,
-               width);
-  PaintFitting(painter, {left, nameLine}, film.Name(), kNameSize, width);
+  PaintFitting(painter, {left, signLine}, film.Sign(), kSignSize, width);
+  if (film.Name() != film.Sign()) {
+    PaintFitting(painter, {left, nameLine}, film.Name(), kNameSize, width);
+  }
   const double top = nameLine + kGap;
   PaintPictureRoom(painter, {left, top, width, card.top() + side - top});
 }

@@ -64,7 +64,8 @@ Sides SidesOf(const Letter& letter) {
   return sides.left < sides.right ? sides : Sides{0, 0, 0, 0};
 }
 
-Box ViewOf(const Letter& letter, const std::vector<StrokeNumber>& numbers) {
+/// Pictures of it have whole pixels, so many of them in its width.
+Box ViewOf(const Letter& letter, const std::vector<StrokeNumber>& numbers, int pixels) {
   Sides sides = SidesOf(letter);
   for (const StrokeNumber& number : numbers) {
     if (number.radius == 0) continue;
@@ -76,10 +77,13 @@ Box ViewOf(const Letter& letter, const std::vector<StrokeNumber>& numbers) {
   const double width = sides.right - sides.left;
   const double height = sides.bottom - sides.top;
   const double side = std::max({width, height, kLeastSide});
+  const bool isWord = !letter.Text().empty();
+  const double pixel = side / std::max(pixels, 1);
+  const double high = isWord ? std::ceil(std::max(height, kLeastSide) / pixel) * pixel : side;
   return {.x = sides.left - (side - width) / 2,
-          .y = sides.top - (side - height) / 2,
+          .y = sides.top - (high - height) / 2,
           .width = side,
-          .height = side};
+          .height = high};
 }
 
 /// Records the digits of numbers: a letter that is recorded in one thread must not be in another.
@@ -103,12 +107,23 @@ LetterFilm::LetterFilm(Letter letter, const FilmLook& look)
         letter_.Shape().strokes,
         {.discRadius = kDiscRadius, .penHalfWidth = kDrawWidth / 2, .hand = look_.hand});
   }
-  view_ = ViewOf(letter_, numbers_);
+  view_ = ViewOf(letter_, numbers_, look_.pixels);
+}
+
+QSize LetterFilm::Pixels() const {
+  return {look_.pixels, static_cast<int>(std::lround(view_.height * Scale()))};
 }
 
 QString LetterFilm::Name() const {
+  if (!letter_.Text().empty()) return QString::fromStdString(letter_.Text());
   const LetterId& id = letter_.Id();
   return QString::fromStdString(LetterName(id.set, id.tile, id.form.book));
+}
+
+QString LetterFilm::Sign() const {
+  if (!letter_.Text().empty()) return Name();
+  const LetterId& id = letter_.Id();
+  return QString::fromStdString(PrintedLetter(id.set, id.tile, id.form.book));
 }
 
 QByteArray LetterFilm::Svg() const {

@@ -3,6 +3,8 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QSize>
+#include <QString>
 #include <optional>
 #include <vector>
 
@@ -22,7 +24,7 @@ inline constexpr double kLongestFilm = 600;
 
 /// How letters are shown in files.
 struct FilmLook {
-  int pixels = 400;  ///< width and height, kLeastPixels to kMostPixels
+  int pixels = 400;  ///< width, kLeastPixels to kMostPixels; letters are as high
   QColor ink;
   std::optional<QColor> ground;  ///< none: what is behind the picture shows through
   bool numbers = false;          ///< and arrows, of the strokes to come as on a board
@@ -31,9 +33,9 @@ struct FilmLook {
   double rest = 2;               ///< seconds that the whole letter stands
 };
 
-/// A letter in the middle of a square of its sheet. Letters of usual size are shown at one scale,
-/// so that a sign which is but a dot stays one; larger ones are made smaller. A value that needs
-/// nothing else: it may go to another thread.
+/// A letter in the middle of a square of its sheet, or a word in a part that is as high as it
+/// needs. Letters of usual size are shown at one scale, so that a sign which is but a dot stays
+/// one; larger ones are made smaller. A value that needs nothing else: it may go to another thread.
 class LetterFilm {
  public:
   /// Made in the thread that writes letters elsewhere. With numbers their digits, which are letters
@@ -43,16 +45,20 @@ class LetterFilm {
   const Letter& Shown() const { return letter_; }
   const FilmLook& Look() const { return look_; }
   const Timeline& Times() const { return times_; }
-  /// The square that is shown, in sheet pixels.
+  /// The part of the sheet that is shown, in sheet pixels; not higher than wide.
   const Box& View() const { return view_; }
+  /// Size of its pictures.
+  QSize Pixels() const;
   /// Pixels to a sheet pixel; a trifle less, so that the view never comes to one pixel more.
   double Scale() const { return look_.pixels * (1 - 1e-12) / view_.width; }
   /// One a stroke when numbers are shown, else none.
   const std::vector<StrokeNumber>& Numbers() const { return numbers_; }
   /// Whether the pen writes anything at all.
   bool HasStrokes() const { return times_.seconds > 0; }
-  /// What the letter is called, for people.
+  /// What the letter is called, for people; of a word, what it says.
   QString Name() const;
+  /// It in print; empty for a letter that has no sign of its own.
+  QString Sign() const;
 
   /// As an SVG picture that moves.
   QByteArray Svg() const;

@@ -11,8 +11,12 @@ namespace bramlee {
 Letter::Letter(const LetterId& id, double step, std::vector<Run> runs)
     : id_(id), step_(step), runs_(std::move(runs)), penStrokes_(JoinedRuns(id_, runs_)) {}
 
-Letter::Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes)
-    : step_(step), runs_(std::move(runs)), penStrokes_(std::move(penStrokes)) {}
+Letter::Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes,
+               std::string text)
+    : text_(std::move(text)),
+      step_(step),
+      runs_(std::move(runs)),
+      penStrokes_(std::move(penStrokes)) {}
 
 const LetterShape& Letter::Shape() const {
   if (!shape_) shape_ = ShapeOf(runs_, penStrokes_);

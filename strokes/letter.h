@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,10 +23,14 @@ class Letter {
   /// The letter of these runs, as its program wrote them at that step. `id` says which letter it
   /// is; without a set it is none that has a name, such as the rules of a sheet.
   Letter(const LetterId& id, double step, std::vector<Run> runs);
-  /// Runs whose pen strokes are known, which together hold every run: several letters as one.
-  Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes);
+  /// Runs whose pen strokes are known, which together hold every run: several letters as one that
+  /// say `text`, UTF-8.
+  Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes,
+         std::string text = {});
 
   const LetterId& Id() const { return id_; }
+  /// What a word says, UTF-8; empty for a letter that Id() names.
+  const std::string& Text() const { return text_; }
   /// The step that its runs were recorded at, and are to be written at.
   double Step() const { return step_; }
   std::span<const Run> Runs() const { return runs_; }
@@ -41,6 +46,7 @@ class Letter {
 
  private:
   LetterId id_;
+  std::string text_;
   double step_ = kUsualStep;
   std::vector<Run> runs_;
   std::vector<PenStroke> penStrokes_;

@@ -73,11 +73,12 @@ class Line {
         word_.leftOut.push_back({.text = Utf8Of(each.code), .at = each.at});
       }
       if (piece.blank) DrawHead();
+      AddText(piece);
       if (piece.cluster.ink.Strokes() > 0) AddLetter(piece);
       word_.width += piece.cluster.width;
     }
     DrawHead();
-    word_.letter = ink_.AsLetter(options_.step);
+    word_.letter = ink_.AsLetter(options_.step, std::move(text_));
     return std::move(word_);
   }
 
@@ -94,6 +95,14 @@ class Line {
                              .strokes = ink_.Strokes() - first,
                              .left = word_.width,
                              .right = word_.width + cluster.width});
+  }
+
+  /// Of what is written, with one blank between words.
+  void AddText(const Piece& piece) {
+    if (piece.blank) blank_ = !text_.empty();
+    if (piece.cluster.ink.Strokes() == 0) return;
+    if (std::exchange(blank_, false)) text_ += ' ';
+    text_ += piece.text;
   }
 
   void AddHead(double from, double to) {
@@ -115,6 +124,8 @@ class Line {
   const WordOptions& options_;
   Word word_;
   WordInk ink_;
+  std::string text_;
+  bool blank_ = false;       ///< one follows the text
   std::vector<Reach> head_;  ///< of the word so far, or the letter
 };
 

@@ -46,7 +46,8 @@ struct LeftOut {
 /// A word, or several with blanks between them, on one line.
 struct Word {
   /// All that is written, in writing order: a letter of no set, to be placed on a page, written,
-  /// traced and numbered as any other. Its own sheet is the line: 0 is where its room begins.
+  /// traced and numbered as any other. Its own sheet is the line: 0 is where its room begins. Its
+  /// text is that of its letters, with one blank between words.
   Letter letter;
   std::vector<WordLetter> letters;
   double width = 0;  ///< the room that it takes, with the margins of its outer letters

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "strokes/letter.h"
@@ -25,8 +27,10 @@ class WordInk {
   std::size_t Strokes() const { return strokes_.size(); }
   /// Around its dots, to a pixel; all zeros without any.
   Box Bounds() const;
-  /// All of it as one letter.
-  Letter AsLetter(double step) const { return {step, runs_, strokes_}; }
+  /// All of it as one letter that says that text.
+  Letter AsLetter(double step, std::string text) const {
+    return {step, runs_, strokes_, std::move(text)};
+  }
 
  private:
   std::vector<Run> runs_;

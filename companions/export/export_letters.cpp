@@ -20,16 +20,24 @@ struct Found {
   ColourWord colour = 0;
 };
 
+bool IsWord(const Letter& letter) {
+  return !letter.Text().empty();
+}
+
 bool IsExported(const PlacedLetter& placed) {
-  return !placed.ruling && !placed.letter.Id().set.empty();
+  return !placed.ruling && (IsWord(placed.letter) || !placed.letter.Id().set.empty());
+}
+
+/// Whether files show the same of both.
+bool AreSame(const Letter& one, const Letter& other) {
+  return one.Text() == other.Text() && FileNameOf(one.Id()) == FileNameOf(other.Id());
 }
 
 std::vector<Found> OnTheSheet(Board& board) {
   std::vector<Found> found;
   for (const PlacedLetter& placed : board.pen().Letters().Letters()) {
     if (!IsExported(placed)) continue;
-    const QString name = FileNameOf(placed.letter.Id());
-    std::erase_if(found, [&](const Found& each) { return FileNameOf(each.letter.Id()) == name; });
+    std::erase_if(found, [&](const Found& each) { return AreSame(each.letter, placed.letter); });
     found.push_back({.letter = placed.letter, .colour = placed.colour});
   }
   return found;
@@ -86,13 +94,16 @@ bool HasLetters(Board& board, Which which) {
 
 std::vector<ExportedLetter> LettersToExport(Board& board, const ExportChoices& choices) {
   const bool speaks = choices.sound && choices.kind && CanSpeak(*choices.kind);
+  int words = 0;
   std::vector<ExportedLetter> letters;
   for (Found& found : Chosen(board, choices.which)) {
     const LetterId id = found.letter.Id();
-    letters.push_back(
-        {.film = LetterFilm(std::move(found.letter), LookOf(board, choices, found.colour)),
-         .name = FileNameOf(id),
-         .sound = speaks ? SoundOf(board, id) : QString()});
+    const bool isWord = IsWord(found.letter);
+    LetterFilm film(std::move(found.letter), LookOf(board, choices, found.colour));
+    QString name = isWord ? WordFileName(film.Name(), ++words) : FileNameOf(id);
+    letters.push_back({.film = std::move(film),
+                       .name = std::move(name),
+                       .sound = speaks && !isWord ? SoundOf(board, id) : QString()});
   }
   return letters;
 }

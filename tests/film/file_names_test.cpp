@@ -46,6 +46,29 @@ TEST(FileNames, SortAsTheTilesDo) {
   }
 }
 
+std::string WordName(const char* word, int number = 1) {
+  return WordFileName(QString::fromUtf8(word), number).toStdString();
+}
+
+TEST(FileNames, OfWordsHaveTheirNumberAndText) {
+  EXPECT_EQ(WordName("राम"), "word-01-राम");
+  EXPECT_EQ(WordName("Amina Rao", 12), "word-12-Amina-Rao");
+}
+
+TEST(FileNames, OfWordsHaveDashesForWhatSomeFileSystemsRefuse) {
+  EXPECT_EQ(WordName("9 - 4 = ?"), "word-01-9-4-=");
+  EXPECT_EQ(WordName("a\\b/c:d*e?f\"g<h>i|j%"), "word-01-a-b-c-d-e-f-g-h-i-j");
+  EXPECT_EQ(WordName("?"), "word-01");
+}
+
+TEST(FileNames, OfLongWordsAreCutBetweenLetters) {
+  EXPECT_EQ(WordName(QByteArray("m").repeated(80).constData()), "word-01-" + std::string(64, 'm'));
+  EXPECT_EQ(WordFileName(QStringLiteral("कि").repeated(40) + u'm', 1).size(), 8 + 64);
+  const QString odd = WordFileName(u'm' + QStringLiteral("कि").repeated(40), 1);
+  EXPECT_TRUE(odd.endsWith(QStringLiteral("कि"))) << odd.toStdString();
+  EXPECT_EQ(odd.size(), 8 + 63);
+}
+
 TEST(FileNames, OfStepsSortToo) {
   EXPECT_EQ(StepName(QStringLiteral("a"), 2, 9), QStringLiteral("a-2"));
   EXPECT_EQ(StepName(QStringLiteral("a"), 2, 10), QStringLiteral("a-02"));

@@ -179,6 +179,28 @@ TEST_F(FilmByFfmpeg, StopsAtAnyFrame) {
   }
 }
 
+TEST_F(FilmByFfmpeg, MakesFilmsOfWords) {
+  const LetterFilm film = FilmOfWord("राम", {.pixels = 151, .ink = Qt::red, .ground = Qt::white});
+  ASSERT_EQ(film.Pixels().width(), 151);
+  const Gif gif = Read(Make(film, {.kind = FilmKind::Gif}));
+  ASSERT_FALSE(gif.frames.isEmpty());
+  EXPECT_LE(MostApart(LastOf(film), gif.frames.last()), 9);
+  const QSize even((film.Pixels().width() + 1) / 2 * 2, (film.Pixels().height() + 1) / 2 * 2);
+  for (const FilmKind kind : {FilmKind::Webm, FilmKind::Mp4}) {
+    EXPECT_EQ(ReadVideo(Make(film, {.kind = kind})).last.size(), even);
+  }
+}
+
+TEST(FilmFile, SaysWhatAWordIs) {
+  const LetterFilm film = FilmOfWord("राम", RedOnGrey());
+  EXPECT_EQ(film.Name(), QStringLiteral("राम"));
+  EXPECT_EQ(film.Sign(), QStringLiteral("राम"));
+  EXPECT_TRUE(film.Svg().contains("<title>राम</title>"));
+  const LetterFilm letter = FilmOf("hinc", 3, RedOnGrey());
+  EXPECT_EQ(letter.Name(), QStringLiteral("ga (ग)"));
+  EXPECT_EQ(letter.Sign(), QStringLiteral("ग"));
+}
+
 TEST(FilmFile, StepsHaveOneStrokeMoreEach) {
   FilmLook look = RedOnGrey();
   const LetterFilm film = FilmOf("hinc", 3, look);

@@ -9,11 +9,16 @@
 
 #include "film/frames.h"
 #include "film/letter_film.h"
+#include "strokes/word.h"
 
 namespace bramlee {
 
 inline LetterFilm FilmOf(const char* set, int tile, const FilmLook& look) {
   return {LetterOf({.set = set, .tile = tile, .form = {}}), look};
+}
+
+inline LetterFilm FilmOfWord(const char* word, const FilmLook& look) {
+  return {LayWord(word).letter, look};
 }
 
 inline FilmLook RedOnGrey() {

@@ -19,13 +19,14 @@ QImage PageOf(const FlashCards& cards, int page) {
   return picture;
 }
 
-/// How many pixels within a rectangle of the page, in millimetres, are red.
+/// How many pixels within a rectangle of the page, in millimetres, are rather red.
 int RedIn(const QImage& page, const QRectF& mm) {
   const QRect part = QRectF(mm.topLeft() * kDotsPerMm, mm.size() * kDotsPerMm).toRect();
   int red = 0;
   for (int y = part.top(); y <= part.bottom(); ++y) {
     for (int x = part.left(); x <= part.right(); ++x) {
-      red += page.pixel(x, y) == qRgb(255, 0, 0) ? 1 : 0;
+      const QRgb pixel = page.pixel(x, y);
+      red += qRed(pixel) > 200 && qGreen(pixel) < 128 ? 1 : 0;
     }
   }
   return red;
@@ -65,6 +66,17 @@ TEST(FlashCards, HaveOneStrokeMoreInEachStep) {
     EXPECT_GT(RedIn(page, cell), 20) << step;
   }
   EXPECT_EQ(RedIn(page, {card.left() + 4 + 3 * 17, card.bottom() - 21, 30, 17}), 0);
+}
+
+TEST(FlashCards, HaveManyStepsInSeveralRows) {
+  // "mmmmmm" has more steps than one row could show: they take all of their room's height.
+  const LetterFilm word = FilmOfWord("mmmmmm", RedOnGrey());
+  const QImage page = PageOf(FlashCards({word}), 0);
+  const QRectF card = CardAt(0, 0).marginsRemoved({4, 4, 4, 4});
+  const auto redAt = [&](double fromBottom) {
+    return RedIn(page, {card.left(), card.bottom() - fromBottom, card.width(), 5}) > 0;
+  };
+  EXPECT_TRUE(redAt(17) && redAt(5));
 }
 
 TEST(FlashCards, PaintNothingOverTheMargins) {

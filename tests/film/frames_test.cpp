@@ -43,6 +43,21 @@ TEST(Frames, EndWithTheSheetsOwnPicture) {
   }
 }
 
+TEST(Frames, OfAWordAreAsHighAsItNeeds) {
+  for (const int pixels : {33, 400, 401}) {
+    FilmLook look = RedOnGrey();
+    look.pixels = pixels;
+    const LetterFilm film = FilmOfWord("Venkateshwara", look);
+    const QImage last = LastOf(film);
+    EXPECT_EQ(last.size(), film.Pixels());
+    EXPECT_EQ(last.width(), pixels);
+    EXPECT_LT(last.height(), pixels / 3);
+    EXPECT_EQ(last, OnTheSheet(film));
+    EXPECT_NEAR(film.View().height * film.Scale(), last.height(), 1e-6) << "whole pixels";
+  }
+  EXPECT_EQ(FilmOfWord("I", RedOnGrey()).Pixels(), QSize(400, 400));
+}
+
 TEST(Frames, AreOfTheSizeThatIsWanted) {
   for (const int pixels : {16, 33, 400, 401, 799}) {
     FilmLook look = RedOnGrey();

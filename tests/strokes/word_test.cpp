@@ -277,6 +277,12 @@ TEST(WordTest, LeavesOuterBlanksOutAndKeepsInnerOnes) {
   EXPECT_EQ(word.letters[1].left - word.letters[0].right, 75);
 }
 
+TEST(WordTest, SaysWhatIsWrittenWithOneBlankBetweenWords) {
+  EXPECT_EQ(LayWord("  Añ\t б राम ").letter.Text(), "A राम");
+  EXPECT_EQ(LayWord("б").letter.Text(), "");
+  EXPECT_EQ(LayLines("ab cd", 1)[1].letter.Text(), "b");
+}
+
 TEST(WordLinesTest, BreakAtBlanks) {
   const double width = LayWord("ab cd").width;
   const std::vector<Word> lines = LayLines("ab cd ef", width + 1);
