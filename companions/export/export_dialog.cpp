@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -10,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
@@ -21,7 +23,9 @@
 #include "companions/export/export_letters.h"
 #include "files/trap.h"
 #include "film/flash_cards.h"
+#include "paper/letter_book.h"
 #include "paper/pdf_file.h"
+#include "paper/usual_paper.h"
 #include "ui/message_box.h"
 
 namespace bramlee {
@@ -95,10 +99,7 @@ ExportDialog::ExportDialog(Board& board)
   layout->addWidget(MakeButtons());
   connect(kind_, &QComboBox::currentIndexChanged, this, &ExportDialog::FollowKind);
   connect(numbers_, &QCheckBox::clicked, this, [this](bool on) { numbersChosen_ = on; });
-  connect(&work_, &ExportWork::Progress, this, [this](int done, int of) {
-    progress_->setMaximum(of);
-    progress_->setValue(done);
-  });
+  connect(&work_, &ExportWork::Progress, this, &ExportDialog::ShowProgress);
   connect(&work_, &ExportWork::Ended, this, &ExportDialog::Finish);
   ShowChoices(LastExportChoices());
   FollowKind();
@@ -193,8 +194,13 @@ void ExportDialog::FollowKind() {
   numbers_->setChecked(numbersChosen_ || kind == FilmKind::Steps);
 }
 
+void ExportDialog::ShowProgress(int done, int of) {
+  progress_->setMaximum(of);
+  progress_->setValue(done);
+}
+
 void ExportDialog::FollowWork() {
-  const bool running = work_.IsRunning();
+  const bool running = IsRunning();
   questions_->setEnabled(!running);
   begin_->setEnabled(!running);
   progress_->setVisible(running);
@@ -214,7 +220,7 @@ void ExportDialog::Say(const QString& text) {
 }
 
 void ExportDialog::Begin() {
-  if (work_.IsRunning()) return;
+  if (IsRunning()) return;
   const ExportChoices choices = Chosen();
   KeepExportChoices(choices);
   show_->hide();
@@ -246,14 +252,14 @@ void ExportDialog::BeginFilms(FilmKind kind, const ExportChoices& choices) {
   auto films = std::make_unique<FilmExport>(choices.folder, kind, LettersToExport(board_, choices));
   if (!MayReplace(films->Replaced().size())) return;
   Say(QStringLiteral("The files are being made."));
-  progress_->setMaximum(0);
-  progress_->setValue(0);
+  ShowProgress(0, 0);
   work_.Start(std::move(films));
   FollowWork();
   close_->setFocus();
 }
 
-/// At once: fonts belong to this thread, and a page takes a few hundredths of a second.
+/// In this thread, to which fonts belong: the window lives between two pages, which take a few
+/// hundredths of a second each.
 void ExportDialog::WriteCards(const ExportChoices& choices) {
   std::vector<ExportedLetter> letters = LettersToExport(board_, choices);
   const QString name = letters.size() == 1 ? letters.front().name : SetNameOf(board_.letters());
@@ -262,13 +268,28 @@ void ExportDialog::WriteCards(const ExportChoices& choices) {
   std::vector<LetterFilm> films;
   films.reserve(letters.size());
   for (ExportedLetter& letter : letters) films.push_back(std::move(letter.film));
-  const FlashCards cards(std::move(films));
+  const FlashCards cards(std::move(films), {.paperMm = UsualPaperMm()});
   if (cards.Letters() == 0) return Say(cards.Notes().join(u' '));
-  const QString title = QString::fromLatin1(board_.record().title);
-  const PaperError error = WritePdf(cards, {.title = title, .author = {}}, file);
+  const DocumentInfo info{.title = QString::fromLatin1(board_.record().title),
+                          .author = {},
+                          .language = LanguageOfSet(board_.letters().name)};
+  Say(QStringLiteral("The cards are being made."));
+  makesCards_ = true;
+  cardsCancelled_ = false;
+  FollowWork();
+  close_->setFocus();
+  const QPointer<ExportDialog> here(this);  // the board may close in between
+  const PaperError error = WritePdf(cards, info, file, [&here](int done, int of) {
+    here->ShowProgress(done, of);
+    QCoreApplication::processEvents();
+    return here && !here->cardsCancelled_;
+  });
+  if (!here) return;
+  makesCards_ = false;
   Finish({.written = error.IsNone() ? QStringList{file} : QStringList(),
           .left = cards.Notes(),
-          .error = error.text});
+          .error = error.text,
+          .cancelled = error.kind == PaperError::Kind::Cancelled});
 }
 
 void ExportDialog::Finish(const Exported& exported) {
@@ -284,8 +305,9 @@ void ExportDialog::Finish(const Exported& exported) {
 }
 
 void ExportDialog::reject() {
-  if (work_.IsRunning()) return work_.Cancel();
-  QDialog::reject();
+  cardsCancelled_ = true;
+  if (work_.IsRunning()) work_.Cancel();
+  if (!IsRunning()) QDialog::reject();
 }
 
 }  // namespace bramlee

@@ -28,6 +28,7 @@ class ExportDialog : public QDialog {
   /// Of that board, which outlives the dialog.
   explicit ExportDialog(Board& board);
 
+  /// Cancels what runs, else closes.
   void reject() override;
 
  private:
@@ -39,6 +40,8 @@ class ExportDialog : public QDialog {
   std::optional<FilmKind> Kind() const;
   void FollowKind();
   void FollowWork();
+  bool IsRunning() const { return makesCards_ || work_.IsRunning(); }
+  void ShowProgress(int done, int of);
   void Browse();
   void Begin();
   void BeginFilms(FilmKind kind, const ExportChoices& choices);
@@ -62,6 +65,8 @@ class ExportDialog : public QDialog {
   QPushButton* begin_;
   QPushButton* show_;
   QPushButton* close_;
+  bool makesCards_ = false;
+  bool cardsCancelled_ = false;
   bool numbersChosen_ = false;  ///< what the box has when the kind leaves the choice
   ExportWork work_;
 };

@@ -1,10 +1,10 @@
 #include "companions/worksheet/worksheet_record.h"
 
-#include <QLocale>
 #include <QStringList>
 #include <algorithm>
 #include <iterator>
 
+#include "paper/usual_paper.h"
 #include "ui/choices.h"
 
 namespace bramlee {
@@ -88,20 +88,9 @@ void TakeSize(double& bodyMm) {
   if (std::ranges::find(kBodySizesMm, kept) != std::end(kBodySizesMm)) bodyMm = kept;
 }
 
-/// Countries that measure by metres and print on Letter paper nevertheless.
-constexpr QLocale::Territory kMetricWithLetter[] = {
-    QLocale::Canada, QLocale::Chile,       QLocale::Colombia,   QLocale::CostaRica,
-    QLocale::Mexico, QLocale::Philippines, QLocale::PuertoRico, QLocale::Venezuela};
-
-bool UsesLetterPaper(const QLocale& locale) {
-  return locale.measurementSystem() == QLocale::ImperialUSSystem ||
-         std::ranges::find(kMetricWithLetter, locale.territory()) != std::end(kMetricWithLetter);
-}
-
 void TakePaper(QSizeF& paperMm) {
   const QString kept = Word(Key("paper"));
-  const bool letter = kept.isEmpty() ? UsesLetterPaper(QLocale()) : kept == QLatin1String(kLetter);
-  paperMm = letter ? kLetterMm : kA4Mm;
+  paperMm = kept.isEmpty() ? UsualPaperMm() : kept == QLatin1String(kLetter) ? kLetterMm : kA4Mm;
 }
 
 }  // namespace

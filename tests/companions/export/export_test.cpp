@@ -13,10 +13,12 @@
 #include <QSpinBox>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTimer>
 
 #include "board/companions.h"
 #include "board/strip.h"
 #include "companions/export/export_choices.h"
+#include "strokes/word.h"
 #include "tests/board/board_fixture.h"
 
 namespace bramlee {
@@ -95,6 +97,27 @@ TEST_F(Exports, WriteTheSheetsLettersOnceEach) {
   Choose(dialog, Which::SheetsLetters, FilmKind::Svg);
   EXPECT_EQ(Begin(dialog), "3 files written.");
   EXPECT_EQ(There().size(), 3);
+}
+
+/// Has the board's pen write a word.
+void WriteWord(Board& board, const char* text) {
+  board.pen().Write({.letter = LayWord(text).letter, .colour = 0, .placing = {}}, nullptr);
+}
+
+TEST_F(Exports, WriteWordsThatStandOnTheSheet) {
+  Board& board = OpenWith("fbrmengc02", {1});
+  for (const char* text : {"Ram", "Anna Rao", "Ram"}) WriteWord(board, text);
+  const QDialog& dialog = Ask(board);
+  Choose(dialog, Which::SheetsLetters, FilmKind::Svg);
+  EXPECT_EQ(Begin(dialog), "3 files written.");
+  EXPECT_EQ(There(),
+            QStringList({Q("engc-01-A.svg"), Q("word-01-Anna-Rao.svg"), Q("word-02-Ram.svg")}));
+  Choose(dialog, Which::ThisLetter, FilmKind::Steps);
+  EXPECT_EQ(Begin(dialog), "7 files written.");
+  EXPECT_TRUE(There().contains(Q("word-01-Ram-1.png")));
+  In<QComboBox>(dialog, "export_kind").setCurrentText(Q("Flash cards (PDF)"));
+  EXPECT_EQ(Begin(dialog), "1 file written.");
+  EXPECT_TRUE(There().contains(Q("word-01-Ram-cards.pdf")));
 }
 
 TEST_F(Exports, WriteTheWholeBoard) {
@@ -197,6 +220,61 @@ TEST_F(Exports, AreCancelledAndLeaveNothing) {
   EXPECT_EQ(Said(dialog), Q("Cancelled: nothing was written."));
   EXPECT_TRUE(There().isEmpty());
   EXPECT_TRUE(dialog.isVisible());
+}
+
+/// Flash cards of a whole board; what happens once that many pages are done.
+class ExportedCards : public Exports {
+ protected:
+  void Begin(const char* form, int pages, const std::function<void()>& act) {
+    dialog = &Ask(OpenWith(form, {}));
+    Choose(*dialog, Which::WholeBoard, FilmKind::Svg);
+    In<QComboBox>(*dialog, "export_kind").setCurrentText(Q("Flash cards (PDF)"));
+    auto* bar = &In<QProgressBar>(*dialog, "export_progress");
+    QObject::connect(bar, &QProgressBar::valueChanged, bar, [pages, act](int value) {
+      if (value == pages) act();
+    });
+    In<QPushButton>(*dialog, "export_begin").click();
+  }
+  QDialog* dialog = nullptr;
+};
+
+TEST_F(ExportedCards, ShowTheirProgress) {
+  int seen = 0;
+  Begin("fbrmengc02", 2, [&] {
+    ++seen;
+    EXPECT_TRUE(In<QProgressBar>(*dialog, "export_progress").isVisible());
+    EXPECT_EQ(In<QProgressBar>(*dialog, "export_progress").maximum(), 4);
+    EXPECT_EQ(In<QPushButton>(*dialog, "export_close").text(), Q("Cancel"));
+    EXPECT_TRUE(IsWorking(*dialog));
+    In<QPushButton>(*dialog, "export_begin").click();  // rests
+  });
+  EXPECT_EQ(seen, 1);
+  EXPECT_FALSE(IsWorking(*dialog));
+  EXPECT_EQ(Said(*dialog), Q("1 file written."));
+}
+
+TEST_F(ExportedCards, AreCancelledAtAnyPageAndLeaveWhatWasThere) {
+  WriteBytes(folder.filePath(Q("engc-cards.pdf")), "old");
+  answer = true;
+  for (const int page : {1, 3, 4}) {
+    Begin("fbrmengc02", page, [this] { QTest::keyClick(dialog, Qt::Key_Escape); });
+    EXPECT_EQ(Said(*dialog), Q("Cancelled: nothing was written.")) << page;
+    EXPECT_EQ(There(), QStringList{Q("engc-cards.pdf")});
+    EXPECT_EQ(BytesOf(folder.filePath(Q("engc-cards.pdf"))), "old");
+    EXPECT_TRUE(dialog->isVisible());
+    dialog->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(ExportedCards, EndWithTheirBoard) {
+  Begin("fbrmengc02", 2, [] {
+    QTimer::singleShot(0, [] {
+      UnloadAll();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+  });
+  EXPECT_TRUE(There().isEmpty());
 }
 
 TEST_F(Exports, EndWithTheirBoard) {
