@@ -93,10 +93,12 @@ QString TitleOf(const WorksheetSource& source, const WorksheetRecord& record) {
   return printed.isEmpty() ? source.title : source.title + QStringLiteral(": ") + printed;
 }
 
-QString LanguageOf(std::string_view set) {
-  if (set.starts_with("hin")) return QStringLiteral("hi");
-  if (set.starts_with("tel")) return QStringLiteral("te");
-  return QStringLiteral("en");
+/// Of what is printed first.
+QString LanguageOf(const WorksheetSource& source, const WorksheetRecord& record) {
+  const QStringList words = WordsOf(record.words);
+  const bool hasWords = record.matter == WorksheetMatter::TypedWords && !words.isEmpty();
+  if (hasWords) return LanguageOfSet(WordPractice(words.constFirst()).set);
+  return LanguageOfSet(record.matter == WorksheetMatter::Letters ? source.set : "mat");
 }
 
 }  // namespace
@@ -183,10 +185,9 @@ LaidOut LayOut(const WorksheetSource& source, const WorksheetRecord& record) {
 }
 
 DocumentInfo InfoOf(const WorksheetSource& source, const WorksheetRecord& record) {
-  const bool ofBoard = record.matter == WorksheetMatter::Letters;
   return {.title = TitleOf(source, record),
           .author = QStringLiteral("BRAM LEE"),
-          .language = ofBoard ? LanguageOf(source.set) : QStringLiteral("en")};
+          .language = LanguageOf(source, record)};
 }
 
 }  // namespace bramlee
