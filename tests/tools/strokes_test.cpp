@@ -279,7 +279,7 @@ TEST(StrokesManPage, NamesEveryOptionOfTheHelp) {
   const QByteArray page = ManPage(QStringLiteral("bramlee-strokes.1"));
   const QByteArrayList options = OptionsOf(Strokes("--help").out);
   for (const QByteArray& option : options) EXPECT_TRUE(page.contains(option)) << option.constData();
-  EXPECT_EQ(options.size(), 24);
+  EXPECT_EQ(options.size(), 26);
 }
 
 TEST(Output, ThatCannotBeWrittenEndsWithStatusOne) {

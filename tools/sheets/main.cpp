@@ -1,10 +1,10 @@
 // bramlee-sheets: makes sheets of letters to write, as a PDF.
 #include <QGuiApplication>
 #include <QLoggingCategory>
-#include <csignal>
 #include <cstdio>
 
 #include "paper/pdf_file.h"
+#include "tools/letters/stop_asked.h"
 #include "tools/sheets/sheets_request.h"
 
 namespace bramlee {
@@ -14,12 +14,6 @@ enum ExitStatus { kDone = 0, kFailed = 1, kBadArguments = 2 };
 
 /// How often a long document tells how far it is, in pages.
 constexpr int kPagesATime = 10;
-
-volatile std::sig_atomic_t stopped = 0;
-
-void Stop(int /*signal*/) {
-  stopped = 1;
-}
 
 void Say(const QString& text) {
   std::fprintf(stderr, "bramlee-sheets: %s\n", qPrintable(text.simplified()));
@@ -53,7 +47,7 @@ ExitStatus Write(const SheetsRequest& request) {
       WritePdf(*made.pages, request.info, request.file, [isLong](int done, int of) {
         const bool isDue = done > 0 && (done % kPagesATime == 0 || done == of);
         if (isLong && isDue) Say(QStringLiteral("page %1 of %2").arg(done).arg(of));
-        return stopped == 0;
+        return !IsStopAsked();
       });
   return error.IsNone() ? kDone : Fail(kFailed, error.text);
 }
@@ -69,9 +63,7 @@ ExitStatus Answer(const QStringList& arguments) {
 }  // namespace bramlee
 
 int main(int argc, char** argv) {
-  // Ended between two pages, so that no half file is left.
-  std::signal(SIGINT, bramlee::Stop);
-  std::signal(SIGTERM, bramlee::Stop);
+  bramlee::CatchStop();
   qputenv("QT_QPA_PLATFORM", "offscreen");  // text needs fonts, and no window system
   // What Qt says of the session's folders is of no use to whoever makes a sheet.
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "tools/letters/letter_arguments.h"
+#include "tools/letters/paper_argument.h"
 #include "tools/sheets/sheets_options.h"
 
 namespace bramlee {
@@ -12,7 +13,6 @@ namespace {
 constexpr double kBookMm = 14;
 constexpr double kLeastMm = 5;
 constexpr double kMostMm = 300;
-constexpr double kMostPaperMm = 2000;
 constexpr int kMostNumber = 9999;
 constexpr int kMostSums = 1000;
 
@@ -92,23 +92,7 @@ class Reader {
 
   QString ReadPaper() {
     page_.landscape = IsSet(options_.landscape);
-    const QString text = parser_.value(options_.paper);
-    if (text == QLatin1String("a4")) return {};
-    if (text == QLatin1String("letter")) {
-      page_.paperMm = kLetterMm;
-      return {};
-    }
-    const QStringList sides = text.split(u'x');
-    const auto width = NumberIn<double>(sides.constFirst());
-    const auto height = NumberIn<double>(sides.constLast());
-    const auto isLength = [](const std::optional<double>& mm) {
-      return mm && *mm > 0 && *mm <= kMostPaperMm;
-    };
-    if (sides.size() != 2 || !isLength(width) || !isLength(height)) {
-      return QStringLiteral("--paper: no paper \"%1\": a4 letter, or as 148x210").arg(text);
-    }
-    page_.paperMm = {*width, *height};
-    return {};
+    return bramlee::ReadPaper(parser_.value(options_.paper), page_.paperMm);
   }
 
   QString ReadStyle() {

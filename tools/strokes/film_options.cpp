@@ -2,6 +2,9 @@
 
 #include <QColor>
 #include <QFileInfo>
+#include <algorithm>
+
+#include "tools/letters/paper_argument.h"
 
 namespace bramlee {
 namespace {
@@ -19,36 +22,40 @@ std::optional<FilmKind> KindNamed(const QString& name) {
 }  // namespace
 
 void FilmOptions::AddTo(QCommandLineParser& parser) const {
-  parser.addOptions({animate_, steps_, output_, size_, rate_, ink_, ground_, numbers_, leftHand_,
-                     sound_, force_});
+  parser.addOptions({animate_, steps_, cards_, output_, size_, rate_, ink_, ground_, numbers_,
+                     leftHand_, sound_, paper_, force_});
 }
 
 QString FilmOptions::Read(const QCommandLineParser& parser, const LetterRequest& letters,
                           FilmRequest& film) const {
   QString error = ReadKind(parser, film);
   if (!error.isEmpty()) return error;
-  if (!film.kind) {
-    for (const auto* other :
-         {&output_, &size_, &rate_, &ink_, &ground_, &numbers_, &leftHand_, &sound_, &force_}) {
+  if (!film.IsAsked()) {
+    for (const auto* other : {&output_, &size_, &rate_, &ink_, &ground_, &numbers_, &leftHand_,
+                              &sound_, &paper_, &force_}) {
       if (!parser.isSet(*other)) continue;
-      return QStringLiteral("--%1: goes with --animate or --steps").arg(other->names().constLast());
+      return QStringLiteral("--%1: goes with --animate, --steps or --cards")
+          .arg(other->names().constLast());
     }
     return {};
   }
   film.numbers = parser.isSet(numbers_);
   film.hand = parser.isSet(leftHand_) ? Hand::Left : Hand::Right;
   film.replaces = parser.isSet(force_);
-  QString output = ReadOutput(parser, letters, film);
+  QString output = film.cards ? ReadCards(parser, film) : ReadOutput(parser, letters, film);
   if (!output.isEmpty()) return output;
   const QString look = ReadLook(parser, film);
-  return look.isEmpty() ? ReadSound(parser, film) : look;
+  return look.isEmpty() ? ReadSound(parser, letters, film) : look;
 }
 
 QString FilmOptions::ReadKind(const QCommandLineParser& parser, FilmRequest& film) const {
-  if (parser.isSet(steps_)) {
-    film.kind = FilmKind::Steps;
-    return parser.isSet(animate_) ? QStringLiteral("--steps: goes without --animate") : QString();
+  const QList<const QCommandLineOption*> kinds{&steps_, &cards_, &animate_};
+  const auto isSet = [&parser](const auto* option) { return parser.isSet(*option); };
+  if (std::ranges::count_if(kinds, isSet) > 1) {
+    return QStringLiteral("one of --animate, --steps and --cards at a time");
   }
+  film.cards = parser.isSet(cards_);
+  if (parser.isSet(steps_)) film.kind = FilmKind::Steps;
   if (!parser.isSet(animate_)) return {};
   const QString name = parser.value(animate_);
   film.kind = KindNamed(name);
@@ -56,10 +63,23 @@ QString FilmOptions::ReadKind(const QCommandLineParser& parser, FilmRequest& fil
   return QStringLiteral("--animate: no kind \"%1\": svg gif webm mp4").arg(name);
 }
 
+QString FilmOptions::ReadCards(const QCommandLineParser& parser, FilmRequest& film) const {
+  for (const auto* other : {&size_, &rate_, &ground_, &sound_}) {
+    if (!parser.isSet(*other)) continue;
+    return QStringLiteral("--%1: goes without --cards").arg(other->names().constFirst());
+  }
+  film.output = parser.value(output_);
+  if (film.output.endsWith(QStringLiteral(".pdf"))) {
+    return ReadPaper(parser.value(paper_), film.paperMm);
+  }
+  return QStringLiteral("--output: name the file of the cards, which ends in .pdf");
+}
+
 QString FilmOptions::ReadOutput(const QCommandLineParser& parser, const LetterRequest& letters,
                                 FilmRequest& film) const {
   film.output = parser.value(output_);
   if (film.output.isEmpty()) return QStringLiteral("--output: name a file or a folder to write to");
+  if (parser.isSet(paper_)) return QStringLiteral("--paper: goes with --cards");
   const bool oneFile = letters.firstTile == letters.lastTile && film.kind != FilmKind::Steps &&
                        !film.output.endsWith(u'/') && !QFileInfo(film.output).isDir();
   const QString end = u'.' + SuffixOf(*film.kind);
@@ -98,9 +118,11 @@ QString FilmOptions::ReadLook(const QCommandLineParser& parser, FilmRequest& fil
   return {};
 }
 
-QString FilmOptions::ReadSound(const QCommandLineParser& parser, FilmRequest& film) const {
+QString FilmOptions::ReadSound(const QCommandLineParser& parser, const LetterRequest& letters,
+                               FilmRequest& film) const {
   film.soundDrive = parser.value(sound_);
   if (!parser.isSet(sound_)) return {};
+  if (letters.set == nullptr) return QStringLiteral("--sound: words have none");
   if (!CanSpeak(*film.kind)) return QStringLiteral("--sound: goes with --animate webm or mp4");
   const bool isDrive =
       film.soundDrive.size() == 2 && film.soundDrive[0].isLetter() && film.soundDrive[1] == u':';

@@ -1,4 +1,4 @@
-// The options of bramlee-strokes for moving pictures and steps.
+// The options of bramlee-strokes for moving pictures, steps and flash cards.
 #pragma once
 
 #include <QCommandLineParser>
@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "film/film_file.h"
+#include "paper/printed_pages.h"
 #include "tools/letters/letter_arguments.h"
 
 namespace bramlee {
@@ -13,7 +14,8 @@ namespace bramlee {
 /// Letters that are to be written to files.
 struct FilmRequest {
   std::optional<FilmKind> kind;  ///< nothing for none
-  QString output;                ///< a file for one letter, else a folder
+  bool cards = false;            ///< flash cards, instead of a kind
+  QString output;                ///< a file for one letter or for cards, else a folder
   int pixels = 400;
   double rate = 1;
   QString ink = {};     ///< a colour as text; empty for the board's
@@ -22,21 +24,27 @@ struct FilmRequest {
   Hand hand = Hand::Right;
   QString soundDrive = {};  ///< the drive of the sounds, such as "C:"; empty for none
   bool replaces = false;    ///< files that are there already
+  QSizeF paperMm = kA4Mm;   ///< of cards
+
+  bool IsAsked() const { return kind.has_value() || cards; }
 };
 
 class FilmOptions {
  public:
   void AddTo(QCommandLineParser& parser) const;
-  /// Reads a command line that was parsed; gives an error, or an empty text.
+  /// Reads a command line that was parsed; gives an error, or an empty text. `letters` has no set
+  /// where a word is asked for.
   QString Read(const QCommandLineParser& parser, const LetterRequest& letters,
                FilmRequest& film) const;
 
  private:
   QString ReadKind(const QCommandLineParser& parser, FilmRequest& film) const;
+  QString ReadCards(const QCommandLineParser& parser, FilmRequest& film) const;
   QString ReadOutput(const QCommandLineParser& parser, const LetterRequest& letters,
                      FilmRequest& film) const;
   QString ReadLook(const QCommandLineParser& parser, FilmRequest& film) const;
-  QString ReadSound(const QCommandLineParser& parser, FilmRequest& film) const;
+  QString ReadSound(const QCommandLineParser& parser, const LetterRequest& letters,
+                    FilmRequest& film) const;
 
   const QCommandLineOption animate_{
       QStringLiteral("animate"),
@@ -45,9 +53,14 @@ class FilmOptions {
   const QCommandLineOption steps_{
       QStringLiteral("steps"),
       QStringLiteral("Write the letters as PNG pictures, in each one stroke more.")};
+  const QCommandLineOption cards_{
+      QStringLiteral("cards"),
+      QStringLiteral("Write the letters as flash cards to print, eight a page: a PDF.")};
   const QCommandLineOption output_{
       {QStringLiteral("o"), QStringLiteral("output")},
-      QStringLiteral("Write to PATH: a file for one letter, a folder for steps and for several."),
+      QStringLiteral(
+          "Write to PATH: a file for one letter and for cards, a folder for steps and for "
+          "several."),
       QStringLiteral("PATH")
   };
   const QCommandLineOption size_{
@@ -73,6 +86,10 @@ class FilmOptions {
       QStringLiteral("sound"),
       QStringLiteral("Put the letters' sounds of that drive, such as C:, into the videos."),
       QStringLiteral("DRIVE")};
+  const QCommandLineOption paper_{
+      QStringLiteral("paper"),
+      QStringLiteral("The cards' paper: a4, letter, or its size in millimetres, such as 148x210."),
+      QStringLiteral("NAME"), QStringLiteral("a4")};
   const QCommandLineOption force_{QStringLiteral("force"),
                                   QStringLiteral("Replace files that are there already.")};
 };

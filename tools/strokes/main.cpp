@@ -1,8 +1,13 @@
 // bramlee-strokes: prints what the program of a letter does.
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <algorithm>
 #include <cstdio>
+#include <memory>
+#include <string_view>
 
 #include "strokes/letter.h"
+#include "tools/letters/stop_asked.h"
 #include "tools/strokes/films.h"
 #include "tools/strokes/pen_strokes_report.h"
 #include "tools/strokes/pictures.h"
@@ -33,6 +38,12 @@ ExitStatus DrawPictures(const Request& request) {
   return second.isEmpty() ? kDone : Fail(kFailed, second);
 }
 
+ExitStatus WriteFiles(const Request& request) {
+  CatchStop();
+  const QString error = request.film.cards ? WriteCards(request) : WriteFilms(request);
+  return error.isEmpty() ? kDone : Fail(kFailed, error);
+}
+
 /// Names what is left out of the word, and writes the rest.
 ExitStatus AnswerWord(const Request& request) {
   const Word word = WordAsked(request);
@@ -42,6 +53,7 @@ ExitStatus AnswerWord(const Request& request) {
   for (const LeftOut& each : word.leftOut) {
     Fail(kDone, QStringLiteral("left out: ") + QString::fromStdString(each.text));
   }
+  if (request.film.IsAsked()) return WriteFiles(request);
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   const std::string text = request.word.toStdString();
   return Print(request.penStrokes ? PenStrokesAsJson(word, text) : WordAsJson(word, text));
@@ -53,10 +65,7 @@ ExitStatus Answer(const QStringList& arguments) {
   if (!parsed.text.isEmpty()) return Print(parsed.text.toStdString());
   const Request& request = parsed.request;
   if (!request.word.isEmpty()) return AnswerWord(request);
-  if (request.film.kind) {
-    const QString error = WriteFilms(request);
-    return error.isEmpty() ? kDone : Fail(kFailed, error);
-  }
+  if (request.film.IsAsked()) return WriteFiles(request);
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   for (int tile = request.firstTile; tile <= request.lastTile; ++tile) {
     const ExitStatus status =
@@ -71,6 +80,13 @@ ExitStatus Answer(const QStringList& arguments) {
 }  // namespace bramlee
 
 int main(int argc, char** argv) {
-  const QCoreApplication app(argc, argv);
+  // Cards alone need fonts, which take a while to begin with.
+  const bool needsFonts =
+      std::any_of(argv, argv + argc, [](std::string_view each) { return each == "--cards"; });
+  qputenv("QT_QPA_PLATFORM", "offscreen");  // and no window system
+  // What Qt says of the session's folders is of no use to whoever writes letters.
+  QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+  const std::unique_ptr<QCoreApplication> app(needsFonts ? new QGuiApplication(argc, argv)
+                                                         : new QCoreApplication(argc, argv));
   return bramlee::Answer(QCoreApplication::arguments());
 }

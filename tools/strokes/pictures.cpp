@@ -12,7 +12,7 @@
 #include "letters/letter_names.h"
 #include "strokes/letter.h"
 #include "strokes/run_lines.h"
-#include "tools/strokes/word_report.h"
+#include "tools/strokes/asked_letters.h"
 
 namespace bramlee {
 namespace {
@@ -31,11 +31,6 @@ QRect ShownOf(const Request& request, const Letter& letter) {
       .adjusted(-kMargin, -kMargin, kMargin, kMargin);
 }
 
-QColor GroundOf(const Request& request) {
-  if (request.set == nullptr) return ColourOf(kGround);
-  return ColourOf(request.set->sheet == SheetKind::Capitals ? kCapitalsGround : kGround);
-}
-
 /// Dots this far apart read as one line: a pen 10 wide leaves notches of a sixth of a pixel between
 /// them. Points an arc's pixel apart are off by a fifth of a pixel on the smallest circle, of
 /// radius 2.
@@ -44,8 +39,7 @@ LineRule SvgLines(const Request& request) {
 }
 
 Letter LetterAsked(const Request& request) {
-  if (!request.word.isEmpty()) return WordAsked(request).letter;
-  return RecordTile(request.Tile(request.firstTile), request.step);
+  return LettersAsked(request).front();
 }
 
 QString TitleOf(const Request& request) {

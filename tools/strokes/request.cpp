@@ -147,10 +147,10 @@ class Reader {
 
   QString ReadFilm() {
     QString error = films_.Read(parser_, request_, request_.film);
-    if (!error.isEmpty() || !request_.film.kind) return error;
-    for (const auto* other : {&options_.word, &options_.penStrokes, &options_.svg, &options_.png}) {
+    if (!error.isEmpty() || !request_.film.IsAsked()) return error;
+    for (const auto* other : {&options_.penStrokes, &options_.svg, &options_.png}) {
       if (!parser_.isSet(*other)) continue;
-      return QStringLiteral("--%1: goes without moving pictures and steps")
+      return QStringLiteral("--%1: goes without moving pictures, steps and cards")
           .arg(other->names().constFirst());
     }
     return {};
