@@ -211,6 +211,13 @@ void Sync(int file) {
   Check(fsync(file) == 0 || errno == EINVAL || errno == ENOTSUP, "the disk fails");
 }
 
+/// After a file has got its name: it stands already, so what fails here is no failure.
+void SyncFolderOf(const QString& systemPath) {
+  const Descriptor folder(open(QFile::encodeName(FolderOf(systemPath)).constData(),
+                               O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder.IsOpen()) fsync(folder.number());
+}
+
 }  // namespace
 
 FileBytes FileBytes::Open(const QString& systemPath) {
@@ -291,9 +298,35 @@ void FileReplacement::Commit(const QMap<qint64, QByteArray>& pieces) {
   }
   Sync(file);
   aside_.MoveTo(target_);
-  const Descriptor folder(
-      open(QFile::encodeName(FolderOf(target_)).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (folder.IsOpen()) fsync(folder.number());  // the new file stands already: no way back
+  SyncFolderOf(target_);
+}
+
+void WriteFile(const QString& systemPath, const QByteArray& bytes) {
+  constexpr int kAnew = O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+  const Descriptor file(open(QFile::encodeName(systemPath).constData(), kAnew, 0666));
+  Check(file.IsOpen(), "the file cannot be written", NameOf(systemPath),
+        FileTrouble::FolderReadOnly);
+  WriteAll(file.number(), 0, bytes);
+  Sync(file.number());
+}
+
+void SyncFile(const QString& systemPath) {
+  const Descriptor file(open(QFile::encodeName(systemPath).constData(), O_RDONLY | O_CLOEXEC));
+  Check(file.IsOpen(), "the file cannot be opened", NameOf(systemPath),
+        FileTrouble::FileUnreadable);
+  Sync(file.number());
+}
+
+void MoveFile(const QString& from, const QString& to) {
+  const bool moved =
+      std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+  Check(moved, "the file does not get its name", NameOf(to), FileTrouble::FolderReadOnly);
+  SyncFolderOf(to);
+}
+
+void RemoveFile(const QString& systemPath) {
+  const bool gone = unlink(QFile::encodeName(systemPath).constData()) == 0 || errno == ENOENT;
+  Check(gone, "the file cannot be taken away", NameOf(systemPath), FileTrouble::FolderReadOnly);
 }
 
 }  // namespace bramlee

@@ -132,4 +132,18 @@ class FileReplacement {
   FileBytes old_;
 };
 
+/// Writes a file, in the place of what has that name, and waits until the disk has it. Throws
+/// FileError; a part of it may stand there then.
+void WriteFile(const QString& systemPath, const QByteArray& bytes);
+
+/// Waits until the disk has all of a file that another program wrote. Throws FileError.
+void SyncFile(const QString& systemPath);
+
+/// Gives a file another name on the same file system, in one step in the place of a file that has
+/// it already, and waits until the disk has it. Throws FileError, and nothing is changed.
+void MoveFile(const QString& from, const QString& to);
+
+/// Takes a file away; one that is not there is no failure. Throws FileError.
+void RemoveFile(const QString& systemPath);
+
 }  // namespace bramlee

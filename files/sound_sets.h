@@ -34,6 +34,11 @@ inline constexpr SoundSet kSoundSets[] = {
 /// Whole numbers, beside the maths board's tiles.
 inline constexpr SoundSet kNumberSounds = {"matc", R"(mat\matc\mat-)"};
 
+/// How the set's files begin below the folder of sounds: "engc/eng-".
+inline QString FilesOf(const SoundSet& set) {
+  return QString::fromLatin1(set.prefix).replace(u'\\', u'/');
+}
+
 /// The letter's part of its file's name: "5", or "e". A tile has to be one of the set's.
 inline QString LetterPartOfSound(const SoundSet& set, int tile) {
   return set.part == LetterPart::Number ? QString::number(tile) : QChar(u'a' + tile - 1);

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 
 #include "files/platform.h"
-#include "files/sound_sets.h"
 
 namespace bramlee {
 namespace {
@@ -21,9 +20,13 @@ QString MakeFolder(QString from, const QString& names, QChar parted) {
 
 }  // namespace
 
-MediaTree::MediaTree(const QString& drive)
-    : root_(MakeFolder(QFileInfo(drive).absoluteFilePath(), QString::fromLatin1(kSoundFolder),
-                       u'\\')) {}
+QString FindBelow(QString from, const QString& names, QChar parted) {
+  for (const QString& name : names.split(parted, Qt::SkipEmptyParts)) from = InFolder(from, name);
+  return from;
+}
+
+MediaTree::MediaTree(const QString& drive, const QString& names)
+    : root_(MakeFolder(QFileInfo(drive).absoluteFilePath(), names, u'\\')) {}
 
 QString MediaTree::PathOf(const QString& file) {
   const qsizetype slash = file.lastIndexOf(u'/');

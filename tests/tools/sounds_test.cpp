@@ -14,6 +14,7 @@
 #include "files/drives.h"
 #include "tests/tools/decoded.h"
 #include "tests/tools/run_tool.h"
+#include "voice/own_sounds.h"
 
 namespace bramlee {
 namespace {
@@ -292,6 +293,20 @@ TEST_F(SoundsMaker, MakesNumbersInTheFormatThatIsAskedFor) {
   EXPECT_EQ(Files().size(), 6);
   const DecodedSound sound(At("mat/matc/mat-9999.wav"));
   EXPECT_GT(sound.SpokenMs(), 2000);
+}
+
+TEST_F(SoundsMaker, NeverReplacesAVoiceThatWasRecordedInTheProgram) {
+  ASSERT_EQ(Make("--quiet --sets mat --formats wma,wav").status, 0);
+  const SpeechWave voice{.rate = 48000, .samples = std::vector<std::int16_t>(9000, 3000)};
+  const OwnSounds own(drive.path());
+  ASSERT_EQ(own.Keep(QStringLiteral("mat/mat-3"), voice).toStdString(), "");
+  const QByteArray wma = Bytes("mat/mat-3.wma");
+  ASSERT_EQ(Make("--quiet --sets mat --formats wma,mp3,wav --overwrite").status, 0);
+  EXPECT_EQ(Bytes("mat/mat-3.wma"), wma);
+  EXPECT_EQ(Bytes("mat/mat-3.wav"), WriteWave(voice));
+  ASSERT_EQ(own.GiveBack(QStringLiteral("mat/mat-3")).toStdString(), "");
+  EXPECT_NE(Bytes("mat/mat-3.wma"), wma);
+  EXPECT_GT(Bytes("mat/mat-3.wma").size(), 1000);
 }
 
 TEST_F(SoundsMaker, KeepsRecordingsOfOnesOwn) {

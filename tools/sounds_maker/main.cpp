@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -13,9 +12,10 @@
 #include <optional>
 #include <thread>
 
-#include "voice/media_tree.h"
 #include "tools/sounds_maker/number_words.h"
 #include "tools/sounds_maker/sound_maker.h"
+#include "voice/media_tree.h"
+#include "voice/own_sounds.h"
 
 namespace bramlee {
 namespace {
@@ -191,11 +191,12 @@ int TellPhonemes(const QList<Entry>& entries) {
   return kDone;
 }
 
-/// The sounds that are missing, or all.
-std::optional<QList<SoundJob>> JobsFor(const QList<Entry>& entries, MediaTree& tree,
-                                       bool overwrite) {
+/// The sounds that are missing, or all but those in a voice of one's own.
+std::optional<QList<SoundJob>> JobsFor(const QList<Entry>& entries, const OwnSounds& own,
+                                       MediaTree& tree, bool overwrite) {
   QList<SoundJob> jobs;
   for (const Entry& entry : entries) {
+    if (own.IsRecorded(entry.spoken.file)) continue;
     SoundJob job{.spoken = entry.spoken, .targets = {}};
     for (const QString& format : entry.formats) {
       const QString path = tree.PathOf(entry.spoken.file + u'.' + format);
@@ -222,19 +223,21 @@ int Fill(const Wanted& wanted, const QList<Entry>& entries) {
     return kBadArguments;
   }
   MediaTree tree(wanted.drive);
-  const auto jobs = JobsFor(entries, tree, wanted.overwrite);
-  if (!jobs) {
+  const auto noFolder = [&wanted] {
     Say(QStringLiteral("no folder can be made in ") + wanted.drive);
     return kSomeMissing;
-  }
-  QLockFile lock(tree.Root() + QStringLiteral("/.bramlee-sounds.lock"));
-  lock.setStaleLockTime(0);
-  if (!lock.tryLock()) {
-    Say(lock.error() == QLockFile::LockFailedError
-            ? QStringLiteral("another maker is at work there")
-            : QStringLiteral("nothing can be written in ") + tree.Root());
+  };
+  if (tree.Root().isEmpty()) return noFolder();
+  const OwnSounds own(wanted.drive);
+  own.Finish();
+  const SoundsLock lock(tree.Root());
+  if (!lock.Holds()) {
+    Say(lock.IsHeldByAnother() ? QStringLiteral("another maker is at work there")
+                               : QStringLiteral("nothing can be written in ") + tree.Root());
     return kSomeMissing;
   }
+  const auto jobs = JobsFor(entries, own, tree, wanted.overwrite);
+  if (!jobs) return noFolder();
   RemoveOldWork(tree.Root());
   const QTemporaryDir work(tree.Root() + u'/' + kWorkFolder + QStringLiteral("XXXXXX"));
   const bool onScreen = isatty(STDERR_FILENO) != 0;

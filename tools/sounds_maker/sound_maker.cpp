@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "voice/media_tree.h"
+#include "voice/sound_formats.h"
 #include "voice/speech_wave.h"
 
 namespace bramlee {
@@ -36,41 +37,14 @@ QStringList SpeakArguments(const Spoken& spoken, const QStringList& more) {
          more + QStringList{QStringLiteral("--"), spoken.text};
 }
 
-/// The encoder's arguments for a format. 16000 samples a second keep the silence short that the
-/// decoders of .wma begin with, 44100 do so for .mp3.
-QStringList FormatArguments(const QString& format) {
-  if (format == QStringLiteral("wma")) {
-    return {QStringLiteral("-c:a"),  QStringLiteral("wmav2"), QStringLiteral("-ar"),
-            QStringLiteral("16000"), QStringLiteral("-b:a"),  QStringLiteral("24k")};
-  }
-  return {QStringLiteral("-ar"), QStringLiteral("44100"), QStringLiteral("-b:a"),
-          QStringLiteral("48k")};
-}
-
 bool Write(const QString& path, const QByteArray& bytes) {
   QFile file(path);
   return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
 }
 
-/// A wave to encode and what is to be made of it.
-struct Encoding {
-  QString wave;
-  QStringList made;
-};
-
-/// Encodes all in one call; when that fails, each by itself, so that one bad sound spoils no other.
+/// When that fails, each by itself, so that one bad sound spoils no other.
 void Encode(const QList<Encoding>& encodings) {
-  if (encodings.isEmpty()) return;
-  QStringList arguments{QStringLiteral("-loglevel"), QStringLiteral("error"),
-                        QStringLiteral("-nostdin"), QStringLiteral("-y")};
-  for (const Encoding& encoding : encodings) arguments << QStringLiteral("-i") << encoding.wave;
-  for (qsizetype i = 0; i < encodings.size(); ++i) {
-    for (const QString& made : encodings[i].made) {
-      arguments << QStringLiteral("-map") << QString::number(i);
-      arguments << FormatArguments(QFileInfo(made).suffix()) << made;
-    }
-  }
-  if (Run(QStringLiteral("ffmpeg"), arguments) || encodings.size() == 1) return;
+  if (encodings.isEmpty() || EncodeSounds(encodings).isEmpty() || encodings.size() == 1) return;
   for (const Encoding& encoding : encodings) Encode({encoding});
 }
 

@@ -63,10 +63,6 @@ class TableReader {
 
 }  // namespace
 
-QString FilesOf(const SoundSet& set) {
-  return QString::fromLatin1(set.prefix).replace(u'\\', u'/');
-}
-
 QList<Spoken> ReadSpokenTable(const SoundSet& set, const QString& folder, QString& error) {
   error.clear();
   QFile file(folder + QStringLiteral("/%1.tsv").arg(QString::fromLatin1(set.name)));

@@ -17,9 +17,6 @@ struct Spoken {
   QString text;   ///< what is spoken; phonemes stand in [[ ]]
 };
 
-/// How the set's files begin below the folder of sounds: "engc/eng-".
-QString FilesOf(const SoundSet& set);
-
 /// Reads the set's table in that folder. For a line that cannot be read, `error` gets the file, the
 /// line's number and what is wrong, and the list is empty; `error` stays empty when there is none.
 QList<Spoken> ReadSpokenTable(const SoundSet& set, const QString& folder, QString& error);
