@@ -49,7 +49,7 @@ int SoundEngine::Play(const QString& file) {
       worker_,
       [this, number, file] {
         // Of several that were asked for meanwhile only the last one plays.
-        if (number == latest_) {
+        if (number == latest_ && hushed_ == 0) {
           worker_->Play(number, {file});
         } else {
           Q_EMIT worker_->Ended(number, SoundEnd::CutOff);
@@ -63,6 +63,11 @@ void SoundEngine::Stop() {
   ++latest_;
   QMetaObject::invokeMethod(
       worker_, [this] { worker_->Stop(); }, Qt::QueuedConnection);
+}
+
+void SoundEngine::Hush(bool on) {
+  hushed_ += on ? 1 : -1;
+  if (on) Stop();
 }
 
 void SoundEngine::SetRate(double rate) {

@@ -33,6 +33,9 @@ class SoundEngine : public QObject {
   int Play(const QString& file);
   /// Cuts off what is playing.
   void Stop();
+  /// Cuts off what is playing, and what is asked for from now on, until that is taken back; they
+  /// nest.
+  void Hush(bool on);
   /// For this sound and those to come, see PcmSource.
   void SetRate(double rate);
   void SetMute(bool mute);
@@ -52,6 +55,7 @@ class SoundEngine : public QObject {
   QThread thread_;
   SoundWorker* worker_;  ///< lives on thread_
   std::atomic<int> latest_ = 0;
+  std::atomic<int> hushed_ = 0;
   bool warm_ = false;
 };
 

@@ -146,6 +146,60 @@ void SoundServer::Kill() {
   server_.waitForFinished();
 }
 
+QString SoundServer::Load(const QStringList& module) {
+  QProcess pactl;
+  pactl.start(QStringLiteral("pactl"), QStringList{QStringLiteral("load-module")} + module);
+  if (!pactl.waitForFinished() || pactl.exitCode() != 0) {
+    throw std::runtime_error("the sound server does not take a module");
+  }
+  return QString::fromLatin1(pactl.readAllStandardOutput()).trimmed();
+}
+
+void SoundServer::Unload(const QString& number) {
+  QProcess::execute(QStringLiteral("pactl"), {QStringLiteral("unload-module"), number});
+}
+
+RoomWithMicrophone::RoomWithMicrophone()
+    : room_(SoundServer::Load({QStringLiteral("module-null-sink"), QStringLiteral("sink_name=room"),
+                               QStringLiteral("rate=48000"), QStringLiteral("channels=1"),
+                               QStringLiteral("norewinds=1")})),
+      microphone_(SoundServer::Load(
+          {QStringLiteral("module-remap-source"), QStringLiteral("master=room.monitor"),
+           QStringLiteral("source_name=mic"),
+           QStringLiteral("source_properties=device.description=Microphone")})) {
+  QProcess::execute(QStringLiteral("pactl"),
+                    {QStringLiteral("set-default-sink"), QStringLiteral("nowhere")});
+  QProcess::execute(QStringLiteral("pactl"),
+                    {QStringLiteral("set-default-source"), QStringLiteral("mic")});
+}
+
+RoomWithMicrophone::~RoomWithMicrophone() {
+  speaker_.kill();
+  speaker_.waitForFinished();
+  PullMicrophone();
+  SoundServer::Unload(room_);
+}
+
+void RoomWithMicrophone::Say(const std::vector<std::int16_t>& samples) {
+  const QString path = folder_.filePath(QStringLiteral("said.raw"));
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("nothing can be said");
+  file.write(QByteArray(reinterpret_cast<const char*>(samples.data()),
+                        static_cast<qsizetype>(samples.size() * sizeof samples[0])));
+  file.close();
+  speaker_.kill();
+  speaker_.waitForFinished();
+  speaker_.start(QStringLiteral("pacat"),
+                 {QStringLiteral("--playback"), QStringLiteral("--device=room"),
+                  QStringLiteral("--raw"), QStringLiteral("--rate=48000"),
+                  QStringLiteral("--channels=1"), QStringLiteral("--format=s16le"), path});
+}
+
+void RoomWithMicrophone::PullMicrophone() {
+  if (!microphone_.isEmpty()) SoundServer::Unload(microphone_);
+  microphone_.clear();
+}
+
 Recorder48::Recorder48() : file_(folder_.filePath(QStringLiteral("heard.raw"))) {
   recorder_.setStandardOutputFile(file_);
   recorder_.setStandardErrorFile(QProcess::nullDevice());

@@ -50,9 +50,33 @@ class SoundServer {
   /// Ends it from one moment to the next.
   void Kill();
 
+  /// Loads a module of its, with these arguments. Returns its number. Throws std::runtime_error.
+  static QString Load(const QStringList& module);
+  static void Unload(const QString& number);
+
  private:
   QTemporaryDir folder_;
   QProcess server_;
+};
+
+/// A room with a microphone: what is played there is what the microphone "mic" hears. The sounds of
+/// the program are not heard in it. Needs a sound server.
+class RoomWithMicrophone {
+ public:
+  RoomWithMicrophone();
+  ~RoomWithMicrophone();
+  RoomWithMicrophone(const RoomWithMicrophone&) = delete;
+  RoomWithMicrophone& operator=(const RoomWithMicrophone&) = delete;
+
+  /// Begins to play samples of one channel, 48000 a second.
+  void Say(const std::vector<std::int16_t>& samples);
+  void PullMicrophone();
+
+ private:
+  QTemporaryDir folder_;
+  QString room_;
+  QString microphone_;
+  QProcess speaker_;
 };
 
 /// Records from its making on. Throws std::runtime_error when nothing comes in.
