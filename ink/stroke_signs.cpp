@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string>
 
 #include "letters/letter_sets.h"
 #include "strokes/letter.h"
@@ -17,7 +18,8 @@ namespace {
 constexpr double kDigitHeight = 1.15;
 constexpr double kDigitHeightOfTwo = 0.9;
 constexpr double kDigitPen = 0.2;
-constexpr double kDigitGap = 0.3;  ///< between the digits of a number
+constexpr double kDigitGap = 0.3;         ///< between the digits of a number
+constexpr double kMostDigitsWidth = 1.5;  ///< of three digits or more
 constexpr double kRim = 0.1;
 
 // In half widths of an arrow's head.
@@ -69,17 +71,17 @@ const QPainterPath& DigitOf(int digit) {
   return kDigits[static_cast<std::size_t>(digit)];
 }
 
-/// The number's digits side by side, around (0, 0), for a disc with a radius of one.
+/// The number's digits side by side, around (0, 0), for a disc with a radius of one. A number of
+/// three digits or more, in a long word, is as high as it has room.
 QPainterPath DigitsOf(int number) {
-  const bool two = number > 9;
-  const double height = two ? kDigitHeightOfTwo : kDigitHeight;
-  QPainterPath digits = DigitOf(number % 10);
-  if (two) {
-    const QPainterPath ones = digits;
-    digits = DigitOf(number / 10 % 10);
-    digits.addPath(ones.translated(digits.boundingRect().right() + kDigitGap, 0));
+  QPainterPath digits;
+  for (const char digit : std::to_string(number)) {
+    const double left = digits.isEmpty() ? 0 : digits.boundingRect().right() + kDigitGap;
+    digits.addPath(DigitOf(digit - '0').translated(left, 0));
   }
   digits.translate(-digits.boundingRect().center());
+  double height = number > 9 ? kDigitHeightOfTwo : kDigitHeight;
+  if (number > 99) height = std::min(height, kMostDigitsWidth / digits.boundingRect().width());
   return QTransform::fromScale(height, height).map(digits);
 }
 

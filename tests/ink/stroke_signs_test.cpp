@@ -65,6 +65,15 @@ TEST(StrokeSignsTest, KeepTwoDigitsWithinTheDisc) {
   EXPECT_EQ(image.pixelColor(39, 30), kColours.sign);
 }
 
+TEST(StrokeSignsTest, KeepThreeDigitsApartAndWithinTheDisc) {
+  for (const int number : {100, 444, 888}) {
+    const QImage image = Painted(number, NumberAt(30, 30), 4);
+    EXPECT_EQ(image.pixelColor(120 - 42, 120), kColours.sign) << number;
+    EXPECT_EQ(image.pixelColor(120 + 42, 120), kColours.sign) << number;
+  }
+  EXPECT_NE(Painted(137, NumberAt(30, 30)), Painted(37, NumberAt(30, 30)));
+}
+
 TEST(StrokeSignsTest, AreDrawnAtTheScaleThatTheyAreSeenAt) {
   const QImage image = Painted(1, NumberAt(30, 30), 4);
   EXPECT_EQ(image.pixelColor(120 - 40, 120), kColours.sign);
