@@ -1,5 +1,6 @@
 #include "strokes/letter.h"
 
+#include <algorithm>
 #include <map>
 #include <tuple>
 #include <utility>
@@ -11,16 +12,21 @@ namespace bramlee {
 Letter::Letter(const LetterId& id, double step, std::vector<Run> runs)
     : id_(id), step_(step), runs_(std::move(runs)), penStrokes_(JoinedRuns(id_, runs_)) {}
 
-Letter::Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes,
+Letter::Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes, double size,
                std::string text)
     : text_(std::move(text)),
       step_(step),
       runs_(std::move(runs)),
-      penStrokes_(std::move(penStrokes)) {}
+      penStrokes_(std::move(penStrokes)),
+      sizeOfEach_(size) {}
 
 const LetterShape& Letter::Shape() const {
   if (!shape_) shape_ = ShapeOf(runs_, penStrokes_);
   return *shape_;
+}
+
+double Letter::Size() const {
+  return sizeOfEach_ > 0 ? sizeOfEach_ : std::max(Bounds().width, Bounds().height);
 }
 
 const Letter& LetterOf(const LetterId& id) {

@@ -24,8 +24,8 @@ class Letter {
   /// is; without a set it is none that has a name, such as the rules of a sheet.
   Letter(const LetterId& id, double step, std::vector<Run> runs);
   /// Runs whose pen strokes are known, which together hold every run: several letters as one that
-  /// say `text`, UTF-8.
-  Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes,
+  /// say `text`, UTF-8, each about so large (sheet pixels).
+  Letter(double step, std::vector<Run> runs, std::vector<PenStroke> penStrokes, double size,
          std::string text = {});
 
   const LetterId& Id() const { return id_; }
@@ -43,6 +43,9 @@ class Letter {
   const Box& Bounds() const { return Shape().bounds; }
   /// How far the pen goes on the sheet, in sheet pixels.
   double Length() const { return Shape().length; }
+  /// How large a letter a hand writes here, in sheet pixels: the longer side of its box, or, of
+  /// several as one, about that of each.
+  double Size() const;
 
  private:
   LetterId id_;
@@ -50,6 +53,7 @@ class Letter {
   double step_ = kUsualStep;
   std::vector<Run> runs_;
   std::vector<PenStroke> penStrokes_;
+  double sizeOfEach_ = 0;  ///< of several letters; 0 for one
   mutable std::optional<LetterShape> shape_;
 };
 

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+
+#include "strokes/word.h"
 
 namespace bramlee {
 
@@ -36,6 +39,10 @@ void WordInk::Append(const WordInk& other, double right) {
   for (std::size_t i = first; i < runs_.size(); ++i) {
     runs_[i] = PlacedRun(runs_[i], {.right = right});
   }
+}
+
+Letter WordInk::AsLetter(double step, std::string text) const {
+  return {step, runs_, strokes_, kWordBase - kWordHead, std::move(text)};
 }
 
 Box WordInk::Bounds() const {

@@ -27,10 +27,9 @@ class WordInk {
   std::size_t Strokes() const { return strokes_.size(); }
   /// Around its dots, to a pixel; all zeros without any.
   Box Bounds() const;
-  /// All of it as one letter that says that text.
-  Letter AsLetter(double step, std::string text) const {
-    return {step, runs_, strokes_, std::move(text)};
-  }
+  /// All of it as one letter that says that text. Each of its letters counts as large as from head
+  /// to base, with however many signs.
+  Letter AsLetter(double step, std::string text) const;
 
  private:
   std::vector<Run> runs_;

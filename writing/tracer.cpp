@@ -67,8 +67,7 @@ std::optional<TraceLevel> TraceLevelNamed(std::string_view name) {
 }
 
 std::vector<GuideStroke> GuideOf(const Letter& letter, const Placing& placing) {
-  const Box& box = letter.Bounds();
-  const double unit = std::max(box.width, box.height) * placing.scale / 100;
+  const double unit = letter.Size() * placing.scale / 100;
   std::vector<GuideStroke> guide;
   for (const StrokePath& stroke : letter.Shape().strokes) {
     guide.push_back({.points = stroke.points, .unit = unit});

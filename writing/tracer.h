@@ -48,8 +48,8 @@ std::optional<TraceLevel> TraceLevelNamed(std::string_view name);
 /// A stroke to trace.
 struct GuideStroke {
   std::vector<Point> points;  ///< in the direction of the pen, in sheet pixels
-  /// A hundredth of the longer side of its letter's box, in sheet pixels: what a child's hand
-  /// misses by grows with what it writes. 1 in place of one that is not finite and above 0.
+  /// A hundredth of its letter's size, in sheet pixels: what a child's hand misses by grows with
+  /// what it writes. 1 in place of one that is not finite and above 0.
   double unit = 1;
 };
 

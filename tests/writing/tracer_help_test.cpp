@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "strokes/letter.h"
+#include "strokes/word.h"
 #include "tests/writing/tracers.h"
 
 namespace bramlee {
@@ -172,6 +173,13 @@ TEST(TracerTest, GuidesAlongALettersStrokesWhereItIsPlaced) {
   EXPECT_EQ(guide[0].points[0], (Point{first.x * 2 + 10, first.y * 2 - 5}));
   EXPECT_EQ(guide[0].unit, b.Bounds().height * 2 / 100);
   EXPECT_TRUE(GuideOf(Letter()).empty());
+}
+
+TEST(TracerTest, AsksOfAWordWhatItAsksOfItsLetters) {
+  const std::vector<GuideStroke> one = GuideOf(LayWord("a").letter);
+  const std::vector<GuideStroke> word = GuideOf(LayWord("aaaaaaaaaaaa").letter, {.scale = 0.5});
+  EXPECT_EQ(one[0].unit, (kWordBase - kWordHead) / 100);
+  EXPECT_EQ(word.back().unit, one[0].unit / 2);
 }
 
 TEST(TracerTest, IsTheSameForALetterThatIsPlaced) {
