@@ -199,4 +199,15 @@ std::vector<Word> LayLines(std::string_view text, double width, const WordOption
   return lines;
 }
 
+Letter LinesAsLetter(std::span<const Word> lines, double pitch) {
+  if (lines.empty()) return {};
+  WordInk ink;
+  double down = 0;
+  for (const Word& line : lines) {
+    ink.Add(line.letter, {.down = down});
+    down += pitch;
+  }
+  return ink.AsLetter(lines.front().letter.Step());
+}
+
 }  // namespace bramlee

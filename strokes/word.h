@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,5 +65,9 @@ Word LayWord(std::string_view text, const WordOptions& options = {});
 /// own. A line without strokes is left out, but its left-out characters go with the next one, or
 /// the last. At least one line.
 std::vector<Word> LayLines(std::string_view text, double width, const WordOptions& options = {});
+
+/// Lines as one letter, each `pitch` sheet pixels below the one before: all that is written, in
+/// writing order. The first one's own sheet is that of the whole. Without lines it has no runs.
+Letter LinesAsLetter(std::span<const Word> lines, double pitch);
 
 }  // namespace bramlee

@@ -1,5 +1,6 @@
 #include "writing/player.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace bramlee {
@@ -168,10 +169,19 @@ bool Player::StepToLetterStart() {
   const Where where = Stands();
   const bool isLetter = !AtEnd() && !PresentLetter().ruling;
   if (isLetter && where.stroke == 0 && !where.begun) return false;
-  do {
-    if (!StepBack()) return false;
-  } while (place_.stroke > 0);
-  return true;
+  if (!StepBack()) return false;
+  // From here at once and not stroke by stroke: a surface makes all of itself anew each time.
+  auto begin = std::ranges::find(begins_, place_.letter,
+                                 [](const StrokeBegin& each) { return each.place.letter; });
+  while (begin != begins_.end() && !rewindable_->RewindTo(begin->mark)) ++begin;
+  if (begin != begins_.end()) {
+    place_ = begin->place;
+    strokesWritten_ -= static_cast<std::size_t>(begins_.end() - begin);
+    begins_.erase(begin, begins_.end());
+    laid_.reset();
+    LayRulings();
+  }
+  return place_.stroke == 0;
 }
 
 bool Player::AtEnd() {

@@ -1,7 +1,5 @@
 #include "companions/words/word_lines.h"
 
-#include <utility>
-
 namespace bramlee {
 namespace {
 
@@ -23,13 +21,12 @@ double HeightOf(std::size_t lines, double scale) {
   return static_cast<double>(lines) * kLinePitch * (kWordBase - kWordHead) * scale;
 }
 
-/// The base of each line: one stands where the board's letters do.
-double BaseOf(std::size_t line, std::size_t lines, double scale, const WordRoom& room) {
+/// The base of the first line: one alone stands where the board's letters do.
+double FirstBase(std::size_t lines, double scale, const WordRoom& room) {
   if (lines == 1) return room.base;
   const double body = (kWordBase - kWordHead) * scale;
   const double free = room.around.bottom - room.around.top - HeightOf(lines, scale);
-  return room.around.top + free / 2 +
-         (static_cast<double>(line) * kLinePitch + kHeadBelowTop + 1) * body;
+  return room.around.top + free / 2 + (kHeadBelowTop + 1) * body;
 }
 
 }  // namespace
@@ -50,17 +47,17 @@ SetText SetWords(std::string_view text, const WordOptions& options, const WordRo
     lines = LayLines(text, width / scale, options);
   }
   SetText set;
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    Word& line = lines[i];
+  for (const Word& line : lines) {
     set.leftOut.insert(set.leftOut.end(), line.leftOut.begin(), line.leftOut.end());
-    if (line.letters.empty()) continue;
-    const double down = BaseOf(i, lines.size(), scale, room) - kWordBase * scale;
-    set.lines.push_back({
-        .letter = std::move(line.letter),
-        .colour = colour,
-        .placing = {.scale = scale, .right = room.around.left, .down = down}
-    });
   }
+  if (lines.front().letters.empty()) return set;  // then it is the only one
+  const double down = FirstBase(lines.size(), scale, room) - kWordBase * scale;
+  set.lines = lines.size();
+  set.letter = {
+      .letter = LinesAsLetter(lines, kLinePitch * (kWordBase - kWordHead)),
+      .colour = colour,
+      .placing = {.scale = scale, .right = room.around.left, .down = down}
+  };
   return set;
 }
 

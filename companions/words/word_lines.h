@@ -1,6 +1,8 @@
 // Where words stand on a board's sheet.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -19,7 +21,10 @@ struct WordRoom {
 
 /// A text on a sheet.
 struct SetText {
-  std::vector<PlacedLetter> lines;  ///< from above, each one letter of the page; may be none
+  /// All lines together as one letter of the page, so that a hand goes back, on and over all of
+  /// them; nothing where no character has strokes.
+  std::optional<PlacedLetter> letter;
+  std::size_t lines = 0;
   std::vector<LeftOut> leftOut;
 };
 

@@ -83,10 +83,9 @@ class WordWriting : public QObject {
     SetText set =
         SetWords(panel_->Text().toStdString(), options, RoomOn(board_), board_.sheet().ForeColor());
     panel_->Say(NamesOf(set.leftOut));
-    if (set.lines.empty()) return;
+    if (!set.letter) return;
     board_.StartGroup();
-    const BoardPen::Writing writing(board_.pen());  // one for all lines: a close waits for the last
-    for (PlacedLetter& line : set.lines) board_.pen().Write(std::move(line), nullptr);
+    board_.pen().Write(std::move(*set.letter), nullptr);
   }
 
   Board& board_;

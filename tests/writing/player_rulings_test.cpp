@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "strokes/word.h"
 #include "tests/writing/recording_surface.h"
 #include "writing/player.h"
 
@@ -140,6 +141,18 @@ TEST_F(PlayerRulings, AreNoStrokesOfALetter) {
   EXPECT_EQ(player_.StrokesWritten(), 0U);
   EXPECT_FALSE(player_.StepBack());
   EXPECT_FALSE(player_.StepToLetterStart());
+}
+
+TEST_F(PlayerRulings, TheWayToALettersStartTakesTwoStepsHoweverManyStrokesItHas) {
+  page_.Add({.letter = LayWord("mmmm").letter, .colour = kRed, .placing = {}});
+  AddRuling();
+  player_.RunToEnd();
+  EXPECT_TRUE(player_.StepToLetterStart());
+  EXPECT_EQ(surface_.rewinds, 2);
+  EXPECT_EQ(player_.Stands(), (Player::Where{.letter = 1, .stroke = 0, .begun = false}));
+  EXPECT_EQ(player_.StrokesWritten(), 2U);
+  player_.RunToEnd();
+  EXPECT_EQ(Dots().size(), PlainDots(page_).size());
 }
 
 TEST_F(PlayerRulings, TheWayToALettersStartEndsThere) {

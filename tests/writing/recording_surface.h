@@ -53,6 +53,7 @@ class RecordingSurface : public RewindableSurface {
       return false;
     }
     if (mark.at < forgotten) return false;
+    ++rewinds;
     dots.resize(kept_[mark.at].dots);
     runs_.resize(kept_[mark.at].runs);
     kept_.resize(mark.at + 1);
@@ -67,6 +68,7 @@ class RecordingSurface : public RewindableSurface {
   std::vector<ColouredDot> dots;
   std::string errors;
   std::size_t forgotten = 0;  ///< marks before this one are not there any more
+  int rewinds = 0;            ///< how often it went back
 
  private:
   static constexpr double kStepOfNobody = 123;  // letters bring their own

@@ -12,6 +12,7 @@
 #include "companions/watch/watch.h"
 #include "companions/words/words_panel.h"
 #include "files/data_files.h"
+#include "strokes/word.h"
 #include "tests/board/board_fixture.h"
 #include "ui/choices.h"
 
@@ -100,8 +101,29 @@ TEST_F(WordsTest, WipesWhatStoodThereAndKeepsTheColour) {
 TEST_F(WordsTest, BreaksALongTextIntoLines) {
   Board& board = Open("fbrmtelv01");
   Write(board, QString(200, QLatin1Char('m')).toUtf8().constData());
-  EXPECT_GT(LettersOn(board), 2U);
-  EXPECT_GT(DotsOn(board), 2000U);
+  ASSERT_EQ(LettersOn(board), 1U);
+  const PlacedLetter& text = board.pen().Letters().Letters()[0];
+  EXPECT_GT(text.letter.Bounds().height, 2 * 1.75 * (kWordBase - kWordHead))
+      << "three lines or more";
+  EXPECT_EQ(text.letter.PenStrokes().size(), 200 * LayWord("m").letter.PenStrokes().size());
+}
+
+TEST_F(WordsTest, GoesBackAndBeginsAgainThroughAllLines) {
+  Board& board = Open("fbrmtelv01");
+  Write(board, QString(60, QLatin1Char('m')).toUtf8().constData());
+  const std::size_t dots = DotsOn(board);
+  while (board.pen().StrokeBack()) {
+  }
+  EXPECT_EQ(board.pen().Stands(), (Player::Where{.letter = 0, .stroke = 0, .begun = false}));
+  EXPECT_EQ(DotsOn(board), 0U);
+  board.pen().GoOn();
+  EXPECT_EQ(DotsOn(board), dots);
+  std::size_t least = dots;
+  board.pen().SetFrameCall([&] { least = std::min(least, DotsOn(board)); });
+  board.pen().Again();
+  board.pen().SetFrameCall(nullptr);
+  EXPECT_LT(least, dots / 4);
+  EXPECT_EQ(DotsOn(board), dots);
 }
 
 TEST_F(WordsTest, NamesWhatIsLeftOutAndWritesTheRest) {
