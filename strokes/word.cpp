@@ -184,7 +184,9 @@ std::vector<Word> LayLines(std::string_view text, double width, const WordOption
   std::vector<LeftOut> leftOut;
   Breaker breaker(pieces, width);
   while (!breaker.AtEnd()) {
-    Word line = Line(options).Lay(WithoutOuterBlanks(breaker.Next()));
+    const std::span<const Piece> onIt = breaker.Next();
+    Word line = Line(options).Lay(WithoutOuterBlanks(onIt));
+    line.goesOn = !breaker.AtEnd() && !onIt.back().blank;
     line.leftOut.insert(line.leftOut.begin(), leftOut.begin(), leftOut.end());
     leftOut.clear();
     if (line.letters.empty()) {
@@ -202,12 +204,15 @@ std::vector<Word> LayLines(std::string_view text, double width, const WordOption
 Letter LinesAsLetter(std::span<const Word> lines, double pitch) {
   if (lines.empty()) return {};
   WordInk ink;
+  std::string text;
   double down = 0;
   for (const Word& line : lines) {
     ink.Add(line.letter, {.down = down});
+    text += line.letter.Text();
+    if (!line.goesOn && &line != &lines.back()) text += ' ';
     down += pitch;
   }
-  return ink.AsLetter(lines.front().letter.Step());
+  return ink.AsLetter(lines.front().letter.Step(), std::move(text));
 }
 
 }  // namespace bramlee

@@ -53,6 +53,8 @@ struct Word {
   std::vector<WordLetter> letters;
   double width = 0;  ///< the room that it takes, with the margins of its outer letters
   std::vector<LeftOut> leftOut;
+  bool goesOn =
+      false;  ///< of a line: whether it ends within a word, which the next one goes on with
 };
 
 /// Lays out a text of Latin, Hindi and Telugu letters, digits and signs on one line, however long.

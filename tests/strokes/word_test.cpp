@@ -305,6 +305,17 @@ TEST(WordLinesTest, BreakALongWordBetweenItsLetters) {
   EXPECT_EQ(letters, 200U);
 }
 
+TEST(WordLinesTest, AreOneLetterThatSaysTheWholeText) {
+  const std::vector<Word> lines = LayLines("ab cdcdcdcd", LayWord("ab cd").width);
+  ASSERT_EQ(lines.size(), 3U);
+  const Letter all = LinesAsLetter(lines, 300);
+  EXPECT_EQ(all.Text(), "ab cdcdcdcd");
+  EXPECT_EQ(all.PenStrokes().size(), LayWord("ab cdcdcdcd").letter.PenStrokes().size());
+  EXPECT_NEAR(Bottom(all.Bounds()), kWordBase + 600, 3);
+  EXPECT_EQ(all.Size(), kWordBase - kWordHead);
+  EXPECT_EQ(LinesAsLetter({}, 300).Runs().size(), 0U);
+}
+
 TEST(WordLinesTest, GiveALetterThatIsTooWideALineOfItsOwn) {
   const std::vector<Word> lines = LayLines("mm", 10);
   ASSERT_EQ(lines.size(), 2U);
