@@ -6,7 +6,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <ranges>
 #include <set>
+#include <span>
+#include <utility>
 
 #include "strokes/run_lines.h"
 
@@ -44,6 +47,10 @@ bool Covers(const QFont& font, const QString& text) {
   });
 }
 
+bool IsInk(uchar pixel) {
+  return pixel < 128;
+}
+
 /// The ink of a picture as a grid with an empty frame.
 class Ink {
  public:
@@ -52,8 +59,11 @@ class Ink {
         height_(picture.height()),
         cells_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_)) {
     for (int y = 1; y + 1 < height_; ++y) {
+      const uchar* row = picture.constScanLine(y);
       for (int x = 1; x + 1 < width_; ++x) {
-        cells_[Index(x, y)] = picture.constScanLine(y)[x] < 128;
+        if (!IsInk(row[x])) continue;
+        inked_.push_back(y * width_ + x);
+        cells_[static_cast<std::size_t>(inked_.back())] = 1;
       }
     }
   }
@@ -66,24 +76,21 @@ class Ink {
 
   CentreLine Points() const {
     CentreLine points;
-    for (int y = 1; y + 1 < height_; ++y) {
-      for (int x = 1; x + 1 < width_; ++x) {
-        if (cells_[Index(x, y)]) points.push_back({.x = 1.0 * x, .y = 1.0 * y});
-      }
+    for (const std::ptrdiff_t cell : inked_) {
+      points.push_back(
+          {.x = static_cast<double>(cell % width_), .y = static_cast<double>(cell / width_)});
     }
     return points;
   }
 
  private:
-  std::size_t Index(std::ptrdiff_t x, std::ptrdiff_t y) const {
-    return static_cast<std::size_t>(y * width_ + x);
-  }
-
   /// From the cell above, clockwise.
-  std::array<bool, 8> Around(int x, int y) const {
-    const auto cell = [&](int dx, int dy) -> bool { return cells_[Index(x + dx, y + dy)]; };
-    return {cell(0, -1), cell(1, -1), cell(1, 0),  cell(1, 1),
-            cell(0, 1),  cell(-1, 1), cell(-1, 0), cell(-1, -1)};
+  std::array<bool, 8> Around(std::ptrdiff_t cell) const {
+    const auto at = [&](std::ptrdiff_t off) {
+      return cells_[static_cast<std::size_t>(cell + off)] != 0;
+    };
+    return {at(-width_), at(1 - width_), at(1),  at(1 + width_),
+            at(width_),  at(width_ - 1), at(-1), at(-width_ - 1)};
   }
 
   static bool IsBorder(const std::array<bool, 8>& p, bool second) {
@@ -99,19 +106,20 @@ class Ink {
   }
 
   int ThinHalf(bool second) {
-    std::vector<std::size_t> gone;
-    for (int y = 1; y + 1 < height_; ++y) {
-      for (int x = 1; x + 1 < width_; ++x) {
-        if (cells_[Index(x, y)] && IsBorder(Around(x, y), second)) gone.push_back(Index(x, y));
-      }
+    std::vector<std::ptrdiff_t> left;
+    std::vector<std::ptrdiff_t> gone;
+    for (const std::ptrdiff_t cell : inked_) {
+      (IsBorder(Around(cell), second) ? gone : left).push_back(cell);
     }
-    for (const std::size_t cell : gone) cells_[cell] = false;
+    for (const std::ptrdiff_t cell : gone) cells_[static_cast<std::size_t>(cell)] = 0;
+    inked_ = std::move(left);
     return static_cast<int>(gone.size());
   }
 
-  int width_;
-  int height_;
-  std::vector<bool> cells_;
+  std::ptrdiff_t width_;
+  std::ptrdiff_t height_;
+  std::vector<unsigned char> cells_;   ///< 1 with ink
+  std::vector<std::ptrdiff_t> inked_;  ///< the indices of those, row by row
 };
 
 /// The text in that size, with room around it for whatever stands out of its line.
@@ -128,17 +136,15 @@ QImage PictureOf(const QString& text, QFont font, double size) {
   return picture;
 }
 
-bool IsInk(const QImage& picture, int x, int y) {
-  return picture.constScanLine(y)[x] < 128;
-}
-
 /// Around all ink; empty without any.
 QRect InkOf(const QImage& picture) {
   QRect ink;
   for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      if (IsInk(picture, x, y)) ink |= QRect(x, y, 1, 1);
-    }
+    const std::span row(picture.constScanLine(y), static_cast<std::size_t>(picture.width()));
+    const auto first = std::ranges::find_if(row, IsInk);
+    if (first == row.end()) continue;
+    const auto last = std::ranges::find_if(row | std::views::reverse, IsInk).base();
+    ink |= QRect(static_cast<int>(first - row.begin()), y, static_cast<int>(last - first), 1);
   }
   return ink;
 }

@@ -172,12 +172,11 @@ class Grid {
     for (const Point& point : line) {
       const double x = (point.x - left_) / cell_;
       const double y = (point.y - top_) / cell_;
-      const int reach = static_cast<int>(radius) + 1;
-      for (int row = static_cast<int>(y) - reach; row <= static_cast<int>(y) + reach; ++row) {
-        for (int column = static_cast<int>(x) - reach; column <= static_cast<int>(x) + reach;
-             ++column) {
-          if (std::hypot(column - x, row - y) <= radius) Mark(column, row, colour);
-        }
+      const auto last = static_cast<int>(std::floor(y + radius));
+      for (auto row = static_cast<int>(std::ceil(y - radius)); row <= last; ++row) {
+        const double half = std::sqrt(std::max(0.0, radius * radius - (row - y) * (row - y)));
+        MarkRow(row, static_cast<int>(std::ceil(x - half)), static_cast<int>(std::floor(x + half)),
+                colour);
       }
     }
   }
@@ -193,9 +192,12 @@ class Grid {
  private:
   static constexpr int kMargin = 40;
 
-  void Mark(std::ptrdiff_t column, std::ptrdiff_t row, unsigned char colour) {
-    if (column < 0 || column >= columns_ || row < 0 || row >= rows_) return;
-    cells_[static_cast<std::size_t>(row * columns_ + column)] |= colour;
+  void MarkRow(std::ptrdiff_t row, std::ptrdiff_t from, std::ptrdiff_t to, unsigned char colour) {
+    if (row < 0 || row >= rows_) return;
+    to = std::min<std::ptrdiff_t>(to, columns_ - 1);
+    for (from = std::max<std::ptrdiff_t>(from, 0); from <= to; ++from) {
+      cells_[static_cast<std::size_t>(row * columns_ + from)] |= colour;
+    }
   }
 
   double left_, top_, cell_;
