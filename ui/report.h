@@ -1,5 +1,4 @@
-// Reports of trapped errors: a notice that closes by itself and a record in the report's file,
-// which no screen shows.
+// Reports of trapped errors: a notice that closes by itself, and a record in the report's file.
 #pragma once
 
 #include "files/trap.h"
@@ -10,9 +9,5 @@ namespace bramlee {
 /// to the report's file. A second report while the notice is shown uses the same notice and does
 /// not prolong it. A report that fails shows a message box and is not reported itself.
 void ReportError(ErrInfo& err);
-
-/// Appends the error's text to the report's file, whole or not at all. Shows the message
-/// "ErrorReportNotResponding" when that fails.
-void AppendErrorReport(ErrInfo& err);
 
 }  // namespace bramlee

@@ -6,8 +6,8 @@
 #include "card/card_file.h"
 #include "files/drives.h"
 #include "files/err_rep_rec.h"
+#include "files/error_report.h"
 #include "files/trap.h"
-#include "ui/report.h"
 
 namespace bramlee {
 namespace {

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "files/err_rep_rec.h"
+#include "files/error_report.h"
 #include "home/home.h"
 #include "tests/files/faulty_disk.h"
 #include "tests/files/temp_drives.h"
