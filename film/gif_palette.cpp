@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "film/frames.h"
 #include "ink/stroke_signs.h"
 
 namespace bramlee {
@@ -10,7 +11,11 @@ namespace {
 /// Steps from one colour to another: at most 8 of 255 levels apart.
 constexpr int kSteps = 32;
 /// The same at the edges of signs, which are thin.
-constexpr int kSignSteps = 24;
+constexpr int kSignSteps = 28;
+
+constexpr qsizetype kMostColours = 256;
+/// Levels of a colour's red, green or blue that a frame may differ from the sheet's own picture.
+constexpr int kOff = 8;
 
 int SquareDistance(QRgb one, QRgb other) {
   const int red = qRed(one) - qRed(other);
@@ -36,6 +41,20 @@ GifPalette::GifPalette(const LetterFilm& film) {
   if (!film.Look().ground) return;
   AddMixtures(*film.Look().ground, signs.rim, kSignSteps);
   AddMixtures(*film.Look().ground, signs.sign, kSignSteps);
+  AddMissing(Frames(film).At(film.Times().seconds));
+}
+
+/// Where three colours meet in a pixel.
+void GifPalette::AddMissing(const QImage& frame) {
+  for (int y = 0; y < frame.height(); ++y) {
+    const auto* line = reinterpret_cast<const QRgb*>(frame.constScanLine(y));
+    for (int x = 0; x < frame.width() && colours_.size() < kMostColours; ++x) {
+      const QRgb near = colours_[IndexOf(line[x])];
+      if (SquareDistance(near, line[x]) <= kOff * kOff) continue;
+      colours_ << (line[x] | 0xFF000000U);
+      found_.clear();
+    }
+  }
 }
 
 void GifPalette::AddMixtures(const QColor& one, const QColor& other, int steps) {

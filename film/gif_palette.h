@@ -26,6 +26,7 @@ class GifPalette {
  private:
   /// Adds the mixtures of two colours, both among them.
   void AddMixtures(const QColor& one, const QColor& other, int steps);
+  void AddMissing(const QImage& frame);
   uchar IndexOf(QRgb colour);
 
   QList<QRgb> colours_;

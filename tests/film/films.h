@@ -5,7 +5,10 @@
 #include <QPainter>
 #include <QProcess>
 #include <QStandardPaths>
+#include <algorithm>
 #include <cstdlib>
+#include <numeric>
+#include <vector>
 
 #include "film/frames.h"
 #include "film/letter_film.h"
@@ -39,23 +42,27 @@ inline int Apart(QRgb one, QRgb other) {
                    std::abs(qBlue(one) - qBlue(other))});
 }
 
-/// How far the pictures lie apart in the mean, in levels of 255: of the pixels that the first has
-/// inked and of all that differ by more than rounding. 255 for pictures of other sizes.
-inline double MeanApart(const QImage& picture, const QImage& other) {
+/// How far apart, in levels of 255, are the pixels that the first picture has inked and all that
+/// differ by more than rounding, the least first; one of 255 for pictures of other sizes.
+inline std::vector<int> InkApart(const QImage& picture, const QImage& other) {
   constexpr int kRounding = 1;
-  if (picture.size() != other.size()) return 255;
+  std::vector<int> all;
   const QRgb ground = picture.pixel(0, 0);
-  double sum = 0;
-  int counted = 0;
-  for (int y = 0; y < picture.height(); ++y) {
+  for (int y = 0; y < picture.height() && picture.size() == other.size(); ++y) {
     for (int x = 0; x < picture.width(); ++x) {
       const int apart = Apart(picture.pixel(x, y), other.pixel(x, y));
-      if (picture.pixel(x, y) == ground && apart <= kRounding) continue;
-      sum += apart;
-      ++counted;
+      if (picture.pixel(x, y) != ground || apart > kRounding) all.push_back(apart);
     }
   }
-  return sum / std::max(counted, 1);
+  if (all.empty()) all.push_back(picture.size() == other.size() ? 0 : 255);
+  std::ranges::sort(all);
+  return all;
+}
+
+/// The mean of them.
+inline double MeanApart(const QImage& picture, const QImage& other) {
+  const std::vector<int> all = InkApart(picture, other);
+  return std::accumulate(all.begin(), all.end(), 0.0) / static_cast<double>(all.size());
 }
 
 /// The largest difference of a pixel.
