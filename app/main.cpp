@@ -12,6 +12,7 @@
 #include "companions/fit/fit.h"
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
+#include "companions/voice/voice.h"
 #include "companions/watch/watch.h"
 #include "companions/words/words.h"
 #include "companions/worksheet/worksheet.h"
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
   bramlee::AddCompanion(bramlee::AddWords);
   bramlee::AddCompanion(bramlee::AddWorksheets);
   bramlee::AddCompanion(bramlee::AddExport);
+  bramlee::AddCompanion(bramlee::AddOwnVoice);
   bramlee::ShowForm(bramlee::kStartForm);
   QTimer::singleShot(kFirstWindowMs, &app, bramlee::ScanSoundLibrary);
   const int status = QApplication::exec();

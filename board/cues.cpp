@@ -65,6 +65,10 @@ QString Prefix(std::int16_t cueBoardNo, const Form* board) {
   return QString::fromLatin1(kSoundFolder) + QString::fromLatin1(sounds.prefix);
 }
 
+QString DriveOf(const Form* board) {
+  return Trim(board->TextOf(QStringLiteral("txtdrv")));
+}
+
 QString LetterText(std::int16_t cueBoardNo, std::int16_t letterNo) {
   if (kSoundSets[cueBoardNo - 1].part == LetterPart::Number) return QString::number(letterNo);
   QString letter;
@@ -89,10 +93,17 @@ std::int16_t CuePath(std::int16_t letterNo, std::int16_t cueBoardNo, QString& pa
   const bool built = Trap({}, [&](ErrInfo&) {
     const Form* captions = Loaded(set.captions);
     const Form* board = Loaded(set.board);
-    path = Trim(board->TextOf(QStringLiteral("txtdrv"))) + Trim(Prefix(cueBoardNo, board)) +
-           LetterText(cueBoardNo, letterNo) + Trim(Extension(board, captions));
+    path = DriveOf(board) + Trim(Prefix(cueBoardNo, board)) + LetterText(cueBoardNo, letterNo) +
+           Trim(Extension(board, captions));
   });
   return built ? 0 : 1;
+}
+
+QString CueDrive(std::int16_t cueBoardNo) {
+  QString drive;
+  if (cueBoardNo < 1 || cueBoardNo > std::ssize(kCueSets)) return drive;
+  Trap({}, [&](ErrInfo&) { drive = DriveOf(Loaded(kCueSets[cueBoardNo - 1].board)); });
+  return drive;
 }
 
 std::int16_t PlayCue(std::int16_t letterNo, std::int16_t cueBoardNo) {

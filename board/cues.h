@@ -21,6 +21,10 @@ std::int16_t PlayCue(std::int16_t letterNo, std::int16_t cueBoardNo);
 /// 0; `path` is then empty.
 std::int16_t CuePath(std::int16_t letterNo, std::int16_t cueBoardNo, QString& path);
 
+/// The drive of the set's sounds as the boards' menus stand now: "C:". Loads as CuePath does. Empty
+/// for an unknown set number, and when there is no form to read from.
+QString CueDrive(std::int16_t cueBoardNo);
+
 /// 1 to 26 gives "a" to "z" and returns 0; any other number returns 1 and leaves `text` alone.
 std::int16_t CueLetterChar(std::int16_t letterNo, QString& text);
 

@@ -13,6 +13,7 @@
 #include "companions/fit/fit.h"
 #include "companions/numbers/numbers.h"
 #include "companions/trace/trace.h"
+#include "companions/voice/voice.h"
 #include "companions/watch/watch.h"
 #include "companions/words/words.h"
 #include "companions/worksheet/worksheet.h"

@@ -1,0 +1,216 @@
+// The window for one's own voice, on a machine without a microphone.
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDialog>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <set>
+
+#include "board/companions.h"
+#include "board/cues.h"
+#include "board/strip.h"
+#include "companions/voice/board_sounds.h"
+#include "companions/voice/sound_list.h"
+#include "companions/voice/take_lines.h"
+#include "companions/voice/voice.h"
+#include "files/sound_sets.h"
+#include "maths/maths.h"
+#include "tests/board/board_fixture.h"
+#include "ui/form_ids.h"
+
+namespace bramlee {
+namespace {
+
+class OwnVoices : public BoardTest {
+ protected:
+  static void SetUpTestSuite() {
+    static const bool added = [] {
+      AddCompanion(AddOwnVoice);
+      return true;
+    }();
+    ASSERT_TRUE(added);
+  }
+  void SetUp() override {
+    BoardTest::SetUp();
+    RegisterMaths();
+    QDir().mkpath(On("c/bramlee/aud/engc"));
+  }
+
+  QDialog& Ask(Board& board) const {
+    board.Named<StripButton>(Q("strip_voice"))->click();
+    auto* dialog = board.findChild<QDialog*>(Q("voice"));
+    EXPECT_NE(dialog, nullptr);
+    return *dialog;
+  }
+  template <class Widget>
+  static Widget& In(const QDialog& dialog, const char* name) {
+    return *dialog.findChild<Widget*>(Q(name));
+  }
+  static std::string Said(const QDialog& dialog) {
+    return In<QLabel>(dialog, "voice_said").text().toStdString();
+  }
+  static QStringList Marks(const QDialog& dialog, int count) {
+    const auto& list = In<SoundList>(dialog, "voice_sounds");
+    QStringList marks;
+    for (int row = 0; row < count; ++row) marks.append(list.item(row)->text());
+    return marks;
+  }
+};
+
+TEST_F(OwnVoices, HaveAButtonOnTheStripThatRestsWhileALetterIsWritten) {
+  Board& board = Open(kCapitalsForm);
+  const StripButton* button = board.Named<StripButton>(Q("strip_voice"));
+  EXPECT_EQ(button->toolTip(), Q("Own voice (V)"));
+  EXPECT_TRUE(button->isEnabled());
+  bool enabledMeanwhile = true;
+  board.pen().SetFrameCall([&] { enabledMeanwhile = button->isEnabled(); });
+  board.pic_Click(1);
+  EXPECT_FALSE(enabledMeanwhile);
+  EXPECT_TRUE(button->isEnabled());
+}
+
+TEST_F(OwnVoices, ListEachSoundThatABoardAsksFor) {
+  const struct {
+    const char* form;
+    int sounds;
+  } kBoards[] = {
+      {kCapitalsForm,         26      },
+      {kSmallLettersForm,     26      },
+      {kHindiVowelsForm,      29      },
+      {kHindiConsonantsForm,  111     },
+      {kTeluguVowelsForm,     36      },
+      {kTeluguConsonantsForm, 75      },
+      {kMathsForm,            17 + 101},
+  };
+  for (const auto& [form, count] : kBoards) {
+    SCOPED_TRACE(form);
+    Board& board = Open(form);
+    std::set<QString> listed;
+    for (const BoardSound& sound : SoundsOf(board)) {
+      EXPECT_FALSE(sound.name.isEmpty());
+      listed.insert(On("c/bramlee/aud/") + sound.sound + Q(".wma"));
+    }
+    EXPECT_EQ(listed.size(), static_cast<std::size_t>(count));
+    const auto expectAsked = [&](int letter) {
+      QString path;
+      ASSERT_EQ(CuePath(static_cast<std::int16_t>(letter), board.record().cueBoardNo, path), 0);
+      EXPECT_TRUE(listed.contains(SystemPath(path))) << path.toStdString();
+    };
+    for (int tile = 1; tile <= board.letters().tiles; ++tile) expectAsked(tile);
+    if (board.objectName() == QLatin1String(kHindiVowelsForm))
+      expectAsked(0);  // the line of lettering
+    if (board.letters().digits == 0) continue;
+    board.SetText(Q("txtaud"), Q("1"));
+    for (int number = 0; number <= 100; ++number) expectAsked(number);
+  }
+}
+
+TEST_F(OwnVoices, AnyNumberCanBeListed) {
+  Board& board = Open(kMathsForm);
+  const QDialog& dialog = Ask(board);
+  auto& list = In<SoundList>(dialog, "voice_sounds");
+  In<QSpinBox>(dialog, "voice_number").setValue(-1234);
+  for (int i = 0; i < 2; ++i) In<QPushButton>(dialog, "voice_addnumber").click();
+  EXPECT_EQ(list.count(), 17 + 101 + 1);
+  EXPECT_EQ(list.Chosen().sound, Q("mat/matc/mat--1234"));
+  board.SetText(Q("txtaud"), Q("1"));
+  QString path;
+  EXPECT_EQ(CuePath(-1234, 7, path), 0);
+  EXPECT_EQ(path, Q("C:\\bramlee\\aud\\mat\\matc\\mat--1234.wma"));
+}
+
+TEST_F(OwnVoices, MarkEachSoundByWhoSpeaksIt) {
+  WriteBytes(On("c/bramlee/aud/engc/eng-a.wma"), "maker");
+  WriteBytes(On("c/bramlee/aud/engc/eng-b.wav"), "own");
+  QDir().mkpath(On("c/bramlee/aud/own/voice/engc"));
+  WriteBytes(On("c/bramlee/aud/own/voice/engc/eng-b.wav"), "own");
+  const QDialog& dialog = Ask(Open(kCapitalsForm));
+  EXPECT_EQ(Marks(dialog, 3), QStringList({Q("maker's"), Q("own voice"), Q("missing")}));
+  EXPECT_EQ(In<QLabel>(dialog, "voice_own").text(), Q("1 of 26 in your own voice"));
+  auto& list = In<SoundList>(dialog, "voice_sounds");
+  EXPECT_EQ(list.item(1)->data(Qt::AccessibleTextRole).toString(), Q("capital B: own voice"));
+  EXPECT_FALSE(In<QPushButton>(dialog, "voice_giveback").isEnabled());
+  list.setCurrentRow(1);
+  EXPECT_TRUE(In<QPushButton>(dialog, "voice_giveback").isEnabled());
+  EXPECT_TRUE(In<QPushButton>(dialog, "voice_hear").isEnabled());
+  list.setCurrentRow(2);
+  EXPECT_FALSE(In<QPushButton>(dialog, "voice_hear").isEnabled());
+}
+
+TEST_F(OwnVoices, AreGivenBack) {
+  for (const char* format : {"wma", "mp3", "wav"}) {
+    const QString name = Q("/engc/eng-a.") + Q(format);
+    WriteBytes(On("c/bramlee/aud") + name, "own");
+    QDir().mkpath(On("c/bramlee/aud/own/kept/engc"));
+    WriteBytes(On("c/bramlee/aud/own/kept") + name, "maker");
+  }
+  QDir().mkpath(On("c/bramlee/aud/own/voice/engc"));
+  WriteBytes(On("c/bramlee/aud/own/voice/engc/eng-a.wav"), "own");
+  const QDialog& dialog = Ask(Open(kCapitalsForm));
+  EXPECT_EQ(Marks(dialog, 1), QStringList{Q("own voice")});
+  In<QPushButton>(dialog, "voice_giveback").click();
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return Marks(dialog, 1) == QStringList{Q("maker's")}; }, 30000));
+  EXPECT_EQ(Said(dialog), "The maker's voice is back.");
+  EXPECT_EQ(BytesOf(On("c/bramlee/aud/engc/eng-a.wma")), "maker");
+}
+
+TEST_F(OwnVoices, TakeUpWhatAStoppedProgramLeft) {
+  QDir().mkpath(On("c/bramlee/aud/own/.work"));
+  WriteBytes(On("c/bramlee/aud/own/.work/new.wma"), "new");
+  WriteBytes(On("c/bramlee/aud/own/.work/on"), "new.wma\t\tengc/eng-a.wma\nend");
+  const QDialog& dialog = Ask(Open(kCapitalsForm));
+  EXPECT_EQ(Marks(dialog, 1), QStringList{Q("maker's")});
+  EXPECT_EQ(BytesOf(On("c/bramlee/aud/engc/eng-a.wma")), "new");
+  EXPECT_FALSE(QFileInfo::exists(On("c/bramlee/aud/own/.work")));
+}
+
+TEST_F(OwnVoices, SayThatThereIsNoMicrophone) {
+  const QDialog& dialog = Ask(Open(kCapitalsForm));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Said(dialog).empty(); }, 30000));
+  EXPECT_EQ(Said(dialog), "There is no microphone: plug one in.");
+  EXPECT_FALSE(In<QPushButton>(dialog, "voice_record").isEnabled());
+}
+
+TEST_F(OwnVoices, SayThatTheDriveIsNotThere) {
+  drive = Q("E:");
+  const QDialog& dialog = Ask(Open(kCapitalsForm));
+  EXPECT_EQ(Said(dialog), "The drive of the sounds is not there.");
+  EXPECT_FALSE(In<QPushButton>(dialog, "voice_record").isEnabled());
+  EXPECT_FALSE(In<QPushButton>(dialog, "voice_fromstick").isEnabled());
+}
+
+TEST_F(OwnVoices, FollowWhatAnotherWindowDid) {
+  QDialog& dialog = Ask(Open(kCapitalsForm));
+  EXPECT_EQ(Marks(dialog, 1), QStringList{Q("missing")});
+  WriteBytes(On("c/bramlee/aud/engc/eng-a.wma"), "maker");
+  QEvent activated(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(&dialog, &activated);
+  EXPECT_EQ(Marks(dialog, 1), QStringList{Q("maker's")});
+}
+
+TEST_F(OwnVoices, HaveLargeTargetsWithNames) {
+  const QDialog& dialog = Ask(Open(kMathsForm));
+  for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    EXPECT_GE(button->minimumHeight(), 44) << button->objectName().toStdString();
+    EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+  }
+}
+
+TEST(TakeLines, SayForEachFaultWhatItIs) {
+  std::set<QString> lines;
+  for (int fault = 0; fault <= static_cast<int>(VoiceFault::Endless); ++fault) {
+    lines.insert(LineOf({.trouble = RecorderTrouble::None, .fault = VoiceFault(fault), .cue = {}}));
+  }
+  for (int trouble = 1; trouble <= static_cast<int>(RecorderTrouble::Gone); ++trouble) {
+    lines.insert(
+        LineOf({.trouble = RecorderTrouble(trouble), .fault = VoiceFault::None, .cue = {}}));
+  }
+  EXPECT_EQ(lines.size(), 6U + 3);
+  EXPECT_FALSE(lines.contains(QString()));
+}
+
+}  // namespace
+}  // namespace bramlee

@@ -1,0 +1,108 @@
+// A voice on its way from the microphone to the board, with a sound server of the tests' own.
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+
+#include "board/companions.h"
+#include "board/strip.h"
+#include "companions/voice/sound_list.h"
+#include "companions/voice/take_light.h"
+#include "companions/voice/voice.h"
+#include "tests/board/board_fixture.h"
+#include "tests/media/sound_rig.h"
+#include "tests/voice/spoken.h"
+#include "ui/form_ids.h"
+
+namespace bramlee {
+namespace {
+
+constexpr int kHangMs = 30000;
+
+class RecordedSound : public BoardTest {
+ protected:
+  static void SetUpTestSuite() {
+    static const bool added = [] {
+      AddCompanion(AddOwnVoice);
+      return true;
+    }();
+    ASSERT_TRUE(added);
+    if (!SoundServer::IsPossible()) return;
+    server_ = std::make_unique<SoundServer>();
+    room_ = std::make_unique<RoomWithMicrophone>();
+  }
+  static void TearDownTestSuite() {
+    room_.reset();
+    server_.reset();
+  }
+
+  void SetUp() override {
+    BoardTest::SetUp();
+    if (!server_) GTEST_SKIP() << "needs pulseaudio and parec";
+    if (!HasProgram("ffmpeg") || !HasProgram("espeak-ng"))
+      GTEST_SKIP() << "needs ffmpeg, espeak-ng";
+    QDir().mkpath(On("c/bramlee/aud/engc"));
+    WriteBytes(On("c/bramlee/aud/engc/eng-a.wma"), "maker");
+    Board& board = Open(kCapitalsForm);
+    board.Named<StripButton>(Q("strip_voice"))->click();
+    dialog_ = board.findChild<QDialog*>(Q("voice"));
+    ASSERT_TRUE(Await([this] { return Button("voice_record").isEnabled(); }));
+  }
+
+  template <class Condition>
+  static bool Await(Condition condition) {
+    return QTest::qWaitFor(condition, kHangMs);
+  }
+  QPushButton& Button(const char* name) const { return *dialog_->findChild<QPushButton*>(Q(name)); }
+  SoundList& List() const { return *dialog_->findChild<SoundList*>(Q("voice_sounds")); }
+  bool IsLit() const { return dialog_->findChild<TakeLight*>(Q("voice_light"))->IsLit(); }
+  QString Said() const { return dialog_->findChild<QLabel*>(Q("voice_said"))->text(); }
+
+  static inline std::unique_ptr<SoundServer> server_;
+  static inline std::unique_ptr<RoomWithMicrophone> room_;
+  QDialog* dialog_ = nullptr;
+};
+
+TEST_F(RecordedSound, IsKeptInAllFormatsAndLeadsToTheNext) {
+  QTest::mouseClick(&Button("voice_record"), Qt::LeftButton);
+  EXPECT_FALSE(IsLit()) << "the microphone is open before the count-in has ended";
+  ASSERT_TRUE(Await([this] { return IsLit(); }));
+  std::vector<std::int16_t> speech = SpeechOf("A");
+  Scale(speech, 3000 / LevelOf(speech));
+  room_->Say(InRoom(speech, 600, 4000, 300, Hiss::White));
+  ASSERT_TRUE(Await([this] { return Button("voice_keep").isEnabled(); })) << Said().toStdString();
+  EXPECT_FALSE(IsLit());
+  EXPECT_EQ(BytesOf(On("c/bramlee/aud/engc/eng-a.wma")), "maker");
+  Button("voice_keep").click();
+  ASSERT_TRUE(Await([this] { return List().item(0)->text() == Q("own voice"); }))
+      << Said().toStdString();
+  EXPECT_EQ(List().currentRow(), 1);
+  for (const char* format : {"wma", "mp3", "wav"}) {
+    EXPECT_GT(QFileInfo(On("c/bramlee/aud/engc/eng-a.") + Q(format)).size(), 1000) << format;
+  }
+  const auto cue = ReadWave(BytesOf(On("c/bramlee/aud/engc/eng-a.wav")));
+  ASSERT_TRUE(cue.has_value());
+  EXPECT_NEAR(20 * std::log10(LevelOf(cue->samples) / 32767), -20, 1.5);
+}
+
+TEST_F(RecordedSound, EndsWhenAHeldButtonIsLetGo) {
+  QTest::mousePress(&Button("voice_record"), Qt::LeftButton);
+  ASSERT_TRUE(Await([this] { return IsLit(); }));
+  QTest::mouseRelease(&Button("voice_record"), Qt::LeftButton);
+  ASSERT_TRUE(Await([this] { return !IsLit(); }));
+  EXPECT_FALSE(Said().isEmpty());
+  EXPECT_FALSE(Button("voice_keep").isEnabled());
+}
+
+TEST_F(RecordedSound, IsCalledOffByEscape) {
+  QTest::mouseClick(&Button("voice_record"), Qt::LeftButton);
+  QTest::keyClick(dialog_, Qt::Key_Escape);
+  EXPECT_EQ(Button("voice_record").text(), Q("&Record"));
+  EXPECT_TRUE(dialog_->isVisible());
+  QTest::keyClick(dialog_, Qt::Key_Escape);
+  EXPECT_FALSE(dialog_->isVisible());
+}
+
+}  // namespace
+}  // namespace bramlee
