@@ -1,0 +1,213 @@
+// What the tests share: one browser, pages in it, and what they look at.
+import { execFile } from 'node:child_process';
+import { existsSync, mkdirSync, readdirSync } from 'node:fs';
+import { readFile, rm } from 'node:fs/promises';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
+import { promisify } from 'node:util';
+import assert from 'node:assert/strict';
+import { after } from 'node:test';
+import puppeteer from 'puppeteer-core';
+import { serve } from './server.js';
+
+const kRoot = new URL('../..', import.meta.url).pathname;
+export const kWeb = join(kRoot, 'build/web');
+const kShots = join(kRoot, 'build/web-screenshots');
+mkdirSync(kShots, { recursive: true });
+
+export const kPhone = { width: 360, height: 640, deviceScaleFactor: 2, hasTouch: true };
+export const kTablet = { width: 1024, height: 768, deviceScaleFactor: 1 };
+export const kWallBoard = { width: 3840, height: 2160, deviceScaleFactor: 1 };
+
+/// The four letters that stand for all: a capital, a Hindi consonant, a Telugu vowel, a digit.
+export const kFourLetters = [
+  { set: 'engc', tile: 2, name: 'capital B' },
+  { set: 'hinc', tile: 12, name: 'ttha (ठ)' },
+  { set: 'telv', tile: 1, name: 'అ' },
+  { set: 'mat', tile: 8, name: '8' },
+];
+
+/// How long a test waits for what it expects before it fails.
+const kTimeout = Number(process.env.WEB_TEST_TIMEOUT_MS ?? 30000);
+
+// In a container root has no user namespaces to build the sandbox from.
+const kSandbox = process.getuid?.() === 0 ? ['--no-sandbox'] : [];
+export const browser = await puppeteer.launch({
+  executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
+  args: [...kSandbox, '--autoplay-policy=user-gesture-required', '--lang=en'],
+});
+export const server = await serve(kWeb);
+after(async () => {
+  await browser.close();
+  await server.close();
+});
+
+/// Opens a page with an empty storage. close() asserts that nothing went wrong on it, but for the
+/// messages that `expected` matches.
+export async function openPage({
+  url = server.url, address = '', size = kTablet, prepare = () => {}, calm = false, languages,
+  expected,
+} = {}) {
+  const context = await browser.createBrowserContext();
+  const page = await context.newPage();
+  page.setDefaultTimeout(kTimeout);
+  const wrong = [];
+  page.on('console', (message) => {
+    if (message.type() === 'error' || message.type() === 'warn') wrong.push(message.text());
+  });
+  page.on('pageerror', (error) => wrong.push(String(error)));
+  await page.setViewport(size);
+  if (calm) await page.emulateMediaFeatures([{ name: 'prefers-reduced-motion', value: 'reduce' }]);
+  if (languages) {
+    await page.evaluateOnNewDocument((wanted) => {
+      Object.defineProperty(navigator, 'languages', { get: () => wanted });
+    }, languages);
+  }
+  await prepare(page);
+  await page.goto(url + address);
+  await page.waitForSelector('html[data-shows]');
+  page.closeTrial = async () => {
+    await context.close();
+    assert.deepEqual(wrong.filter((text) => !expected?.test(text)), [], 'nothing in the console');
+  };
+  return page;
+}
+
+/// Waits until the page tells a screen reader that text.
+export async function said(page, text) {
+  await page.waitForFunction(
+    (wanted) => document.getElementById('live').textContent.includes(wanted),
+    { polling: 'mutation' },
+    text,
+  );
+}
+
+export function shot(page, name) {
+  return page.screenshot({ path: join(kShots, `${name}.png`) });
+}
+
+export const button = (name) => `[data-name="${name}"]`;
+export const tile = (number) => `[data-tile="${number}"]`;
+
+/// Whatever is there already: of the presets the one that was built.
+function strokesTool() {
+  const builds = join(kRoot, 'build');
+  const found = readdirSync(builds)
+    .map((preset) => join(builds, preset, 'tools/bramlee-strokes'))
+    .find((path) => existsSync(path));
+  assert.ok(found, 'bramlee-strokes is built');
+  return found;
+}
+
+const run = promisify(execFile);
+
+/// A letter's pen strokes as lists of [x, y], in sheet pixels, in the form of the book.
+export async function penStrokes({ set, tile }) {
+  const { stdout } = await run(strokesTool(), [set, String(tile), '--book', '--pen-strokes'], {
+    maxBuffer: 1 << 24,
+  });
+  return JSON.parse(stdout).strokes.map((stroke) => stroke.points);
+}
+
+let pictures = 0;
+
+/// The program's own picture of a letter, as a PNG in base64.
+async function programsPicture({ set, tile }, scale) {
+  const path = join(tmpdir(), `bramlee-web-${process.pid}-${pictures++}.png`);
+  await run(strokesTool(), [set, String(tile), '--png', path, '--scale', String(scale)]);
+  const bytes = await readFile(path);
+  await rm(path);
+  return bytes.toString('base64');
+}
+
+/// Compares the sheet's pixels with the program's picture of that letter: how many are inked, and
+/// how far the most different one is off, in levels of 255.
+export async function comparedWithProgram(page, letter) {
+  const ratio = await page.$eval('.sheet', (sheet) => sheet.dataset.ratio);
+  const png = await programsPicture(letter, ratio);
+  return page.evaluate(async (base64) => {
+    const { dataset } = document.querySelector('.sheet');
+    const canvas = document.querySelector('canvas.ink');
+    const bytes = Uint8Array.from(atob(base64), (sign) => sign.charCodeAt(0));
+    const picture = await createImageBitmap(new Blob([bytes]));
+    const drawn = new OffscreenCanvas(canvas.width, canvas.height).getContext('2d');
+    drawn.drawImage(picture, -Number(dataset.left), -Number(dataset.top));
+    const copy = new OffscreenCanvas(canvas.width, canvas.height).getContext('2d');
+    copy.drawImage(canvas, 0, 0);
+    const ours = copy.getImageData(0, 0, canvas.width, canvas.height).data;
+    const theirs = drawn.getImageData(0, 0, canvas.width, canvas.height).data;
+    const ground = theirs.subarray(0, 4);
+    let inked = 0;
+    let most = 0;
+    for (let i = 0; i < ours.length; i += 4) {
+      if (theirs[i + 3] === 0) continue; // beyond the picture
+      if (theirs[i + 1] !== ground[1]) ++inked;
+      for (let part = i; part < i + 3; ++part) {
+        most = Math.max(most, Math.abs(ours[part] - theirs[part]));
+      }
+    }
+    return { inked, most };
+  }, png);
+}
+
+/// What the ink's canvas shows, in short: equal for equal pictures.
+export function inkOf(page) {
+  return page.evaluate(async () => {
+    const canvas = document.querySelector('canvas.ink');
+    const copy = new OffscreenCanvas(canvas.width, canvas.height).getContext('2d');
+    copy.drawImage(canvas, 0, 0);
+    const { data } = copy.getImageData(0, 0, canvas.width, canvas.height);
+    const hash = await crypto.subtle.digest('SHA-256', data);
+    return `${canvas.width}x${canvas.height} ${new Uint32Array(hash).join(' ')}`;
+  });
+}
+
+/// Two frames later: whatever was to be painted is.
+export function framesLater(page) {
+  return page.evaluate(
+    () => new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done))),
+  );
+}
+
+/// The place in the window of a place on the sheet.
+export async function onScreen(page, [x, y]) {
+  return page.evaluate(
+    (sheetX, sheetY) => {
+      const { dataset } = document.querySelector('.sheet');
+      const canvas = document.querySelector('canvas.above');
+      const rect = canvas.getBoundingClientRect();
+      const css = rect.width / canvas.width;
+      return {
+        x: rect.left + (sheetX * dataset.ratio - dataset.left) * css,
+        y: rect.top + (sheetY * dataset.ratio - dataset.top) * css,
+      };
+    },
+    x,
+    y,
+  );
+}
+
+/// Frames come only when the test asks for them by frameAfter(ms); for openPage's `prepare`.
+export function withClock(page) {
+  return page.evaluateOnNewDocument(() => {
+    let now = 0;
+    let due = new Map();
+    let next = 1;
+    performance.now = () => now;
+    globalThis.requestAnimationFrame = (call) => due.set(next, call) && next++;
+    globalThis.cancelAnimationFrame = (id) => due.delete(id);
+    globalThis.frameAfter = (ms) => {
+      now += ms;
+      const calls = due;
+      due = new Map();
+      for (const call of calls.values()) call(now);
+    };
+  });
+}
+
+/// So many frames, each so many milliseconds after the last one.
+export function frames(page, count, ms) {
+  return page.evaluate((times, apart) => {
+    for (let i = 0; i < times; ++i) frameAfter(apart);
+  }, count, ms);
+}

@@ -1,0 +1,66 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import {
+  button, comparedWithProgram, kFourLetters, kPhone, kTablet, kWallBoard, openPage, said, shot, tile,
+} from './browser.js';
+
+const kSizes = { phone: kPhone, tablet: kTablet, 'wall-board': kWallBoard };
+
+function fillsHolder(page) {
+  return page.evaluate(() => {
+    const holder = document.querySelector('.sheet').getBoundingClientRect();
+    const ink = document.querySelector('canvas.ink').getBoundingClientRect();
+    return Math.abs(holder.width - ink.width) < 2 && Math.abs(holder.height - ink.height) < 2;
+  });
+}
+
+for (const [name, size] of Object.entries(kSizes)) {
+  test(`the letters are the program's own pixels on a ${name}`, async () => {
+    const page = await openPage({ size, calm: true });
+    await page.waitForSelector('nav a');
+    await shot(page, `home-${name}`);
+    for (const letter of kFourLetters) {
+      await page.click(`nav a[href="#${letter.set}"]`);
+      await page.click(tile(letter.tile));
+      await said(page, `${letter.name} is written`);
+      const { inked, most } = await comparedWithProgram(page, letter);
+      assert.ok(inked > 1000, `${letter.name}: ${inked} pixels are inked`);
+      assert.ok(most <= 1, `${letter.name}: off by ${most}`);
+      assert.ok(await fillsHolder(page), 'the canvas is as large as its place');
+      await shot(page, `${letter.set}-${name}`);
+      await page.click(button('home'));
+      await page.waitForSelector('nav a');
+    }
+    await page.closeTrial();
+  });
+}
+
+test('letters of a group stand side by side until the next group wipes them', async () => {
+  const page = await openPage({ address: '#engc', size: kWallBoard, calm: true });
+  const label = () => page.$eval('.sheet', (sheet) => sheet.getAttribute('aria-label'));
+  for (const number of [1, 2, 3]) await page.click(tile(number));
+  assert.equal(await label(), 'Sheet: capital A capital B capital C');
+  await shot(page, 'group');
+  await page.click(tile(5));
+  assert.equal(await label(), 'Sheet: capital E');
+  await page.closeTrial();
+});
+
+test('a letter that would cover another one wipes it', async () => {
+  const page = await openPage({ address: '#engc', calm: true });
+  for (const number of [3, 7]) await page.click(tile(number));
+  assert.equal(
+    await page.$eval('.sheet', (sheet) => sheet.getAttribute('aria-label')), 'Sheet: capital G');
+  await page.closeTrial();
+});
+
+test('a word is written, and what cannot be is named', async () => {
+  const page = await openPage({ address: '#hinc', calm: true });
+  await page.click(button('words'));
+  await page.type(button('word'), 'राम€');
+  await page.click(button('write'));
+  await said(page, 'राम€ is written');
+  assert.equal(await page.$eval('.words p', (line) => line.textContent), 'Left out: €');
+  await shot(page, 'word');
+  await page.closeTrial();
+});
