@@ -17,7 +17,10 @@ namespace {
 
 constexpr int kTilesOfASet = kHindiSetTiles;
 constexpr int kKhaTile = 2;
+constexpr int kDaTile = 18;
 constexpr int kRaTile = 27;
+constexpr int kShaTile = 30;
+constexpr int kHaTile = 33;
 constexpr int kRephTile = 64;
 
 /// A sign in sheet pixels of its own tile, and the place there that comes to its letter's: on the
@@ -26,13 +29,17 @@ struct HangingSign {
   char32_t code;
   int tile;
   Point at;
+  std::size_t firstRun = 0;  ///< the runs before it are left out
 };
+/// In words e has the long mark of ai, as in print and in writing books: the short one of its own
+/// tile is hardly seen above a whole word.
+constexpr std::size_t kLongMark = 2;
 constexpr HangingSign kAbove[] = {
-    {hindi::kE,        21, {247.5, kWordHead}},
-    {hindi::kAi,       22, {497.5, kWordHead}},
-    {hindi::kMoon,     27, {725, kWordHead}  },
-    {hindi::kDotAbove, 25, {225, kWordHead}  },
-    {hindi::kArcAbove, 27, {725, kWordHead}  },
+    {hindi::kE, 22,      {502.5, kWordHead}, kLongMark},
+    {hindi::kAi,         22,       {497.5, kWordHead}              },
+    {hindi::kMoon,         27,     {725, kWordHead}},
+    {hindi::kDotAbove,         25, {225, kWordHead + 15}          },
+    {hindi::kArcAbove,         27, {725, kWordHead}},
 };
 constexpr HangingSign kBelow[] = {
     {hindi::kU,    18, {225, kWordBase}      },
@@ -47,20 +54,21 @@ struct SignBehind {
   int tile;
   double left, right;
   double stem;
+  std::size_t firstRun = 0;  ///< as of a sign that hangs
 };
 constexpr SignBehind kBehind[] = {
-    {hindi::kAa,     15, 450,   500,    475   },
-    {hindi::kIi,     17, 1000,  1050,   1025  },
-    {hindi::kMoonAa, 15, 450,   500,    475   },
-    {hindi::kO,      23, 722.5, 772.5,  747.5 },
-    {hindi::kAu,     24, 978.7, 1028.7, 1003.7},
+    {hindi::kAa,     15, 450,       500,         475   },
+    {hindi::kIi,     17, 1000,      1050,        1025  },
+    {hindi::kMoonAa, 15, 450,       500,         475   },
+    {hindi::kO,      24, 978.7,     1028.7,      1003.7, kLongMark},
+    {hindi::kAu,              24,       978.7, 1028.7, 1003.7},
 };
 
 // The sign of i: its room, its stem, and the hood that reaches over the letter behind it. It is as
 // high as on its tile, and at least as wide; there it ends so far above the head line.
 constexpr double kRoomOfI = 50;
 constexpr double kStemOfI = 25;
-constexpr double kHoodHeight = 37.5;
+constexpr double kHoodHeight = 48;
 constexpr double kLeastHood = 75;
 constexpr double kHoodEnd = kWordHead - 5.625;
 
@@ -110,6 +118,42 @@ std::vector<std::size_t> HeadLineOf(const Letter& letter) {
   return runs;
 }
 
+/// Adds the letter's runs from one to another to a stroke.
+void AddRuns(std::vector<Run>& stroke, const Letter& letter, std::size_t from, std::size_t to) {
+  const auto runs = letter.Runs().subspan(from, to - from);
+  stroke.insert(stroke.end(), runs.begin(), runs.end());
+}
+
+/// Ha, da and sha have a shape of their own with the sign of vocalic r, drawn after Lohit
+/// Devanagari: in ha the sign lies in the lower bow, da has it at a straight tail, and sha is that
+/// of shra. As pen strokes where the consonant's tile stands; none for another consonant.
+std::vector<std::vector<Run>> ShapeWithRi(int tile) {
+  constexpr int kShraTile = kShaTile + (kHindiFootSet - 1) * kTilesOfASet;
+  const Letter& letter = ConsonantLetter(tile == kShaTile ? kShraTile : tile);
+  std::vector<std::vector<Run>> strokes(2);
+  switch (tile) {
+    case kHaTile:
+      AddRuns(strokes[0], letter, 0, 3);
+      strokes[1] = {ArcRun(290, 90, -1, {1003, 443}, 13), ArcRun(-90, 40, +1, {1003, 418.3}, 11.8),
+                    ArcRun(40, 292, +1, {984, 435.25}, 37.5)};
+      return strokes;
+    case kDaTile:
+      AddRuns(strokes[0], letter, 0, 4);
+      strokes[0].push_back(MakeRun(Primitive::SlantRight, std::array{25.0, 763.8, 442.5, 472.0}));
+      strokes[0].push_back(MakeRun(Primitive::LineLeft, std::array{764.0, 472.0, 777.5}));
+      strokes[0].push_back(ArcRun(90, 300, +1, {764, 491}, 19));
+      strokes.pop_back();
+      return strokes;
+    case kShaTile:
+      AddRuns(strokes[0], letter, 0, 3);
+      AddRuns(strokes[1], letter, 3, 4);
+      strokes[1].push_back(ArcRun(90, 300, +1, {275, 494}, 19));
+      return strokes;
+    default:
+      return {};
+  }
+}
+
 /// Lays one syllable from left to right.
 class Layout {
  public:
@@ -120,7 +164,7 @@ class Layout {
     LayLetters();
     if (syllable_.sign == hindi::kI) WriteI();
     LayBehind();
-    if (!WriteUOnRa()) LayHanging(kBelow, foot_);
+    if (!hasRi_ && !WriteUOnRa()) LayHanging(kBelow, foot_);
     if (syllable_.sign == hindi::kDotBelow) AddDotBelow(foot_);
     LayAbove();
     if (syllable_.dotsBeside) LayDotsBeside();
@@ -147,8 +191,10 @@ class Layout {
     x_ = around.to - around.from + 2 * kLoneMargin;
   }
 
-  void Add(const Letter& letter, double right, double down = 0) {
-    cluster_.ink.Add(letter, {.right = right, .down = down}, HeadLineOf(letter));
+  void Add(const Letter& letter, double right, double down = 0, std::size_t firstRun = 0) {
+    std::vector<std::size_t> without = HeadLineOf(letter);
+    for (std::size_t i = 0; i < firstRun; ++i) without.push_back(i);
+    cluster_.ink.Add(letter, {.right = right, .down = down}, without);
   }
 
   void AddHead(double from, double to) { cluster_.head.push_back({.from = from, .to = to}); }
@@ -173,7 +219,7 @@ class Layout {
     const Letter& letter = ConsonantLetter(anchors.tile + (set - 1) * kTilesOfASet);
     const double right = x_ - anchors.left;
     const double end = half ? anchors.halfRight : anchors.right;
-    Add(letter, right);
+    if (!AddShapeWithRi(consonant, right)) Add(letter, right);
     AddHead(anchors.headFrom + right, end + right);
     head_ = anchors.head + right;
     foot_ = {anchors.foot.x + right, anchors.foot.y};
@@ -187,6 +233,17 @@ class Layout {
     }
     if (consonant.join == HindiJoin::Mark) Hang(*Find(kBelow, hindi::kMark), foot_);
     x_ = end + right;
+  }
+
+  bool AddShapeWithRi(const HindiConsonant& consonant, double right) {
+    if (syllable_.sign != hindi::kRi || consonant.withR || consonant.join != HindiJoin::None)
+      return false;
+    WordInk shape;
+    for (const std::vector<Run>& stroke : ShapeWithRi(consonant.letter->tile))
+      shape.AddStroke(stroke);
+    cluster_.ink.Append(shape, right);
+    hasRi_ = shape.Strokes() > 0;
+    return hasRi_;
   }
 
   void AddDotBelow(Point middle) {
@@ -220,7 +277,7 @@ class Layout {
     const SignBehind* sign = Find(kBehind, syllable_.sign);
     if (sign == nullptr) return;
     const double right = x_ - sign->left;
-    Add(SignLetter(sign->tile), right);
+    Add(SignLetter(sign->tile), right, 0, sign->firstRun);
     AddHead(x_, sign->right + right);
     head_ = sign->stem + right;
     if (sign->code == hindi::kMoonAa) syllable_.moon = true;
@@ -235,7 +292,7 @@ class Layout {
   }
 
   void Hang(const HangingSign& sign, Point at) {
-    Add(SignLetter(sign.tile), at.x - sign.at.x, at.y - sign.at.y);
+    Add(SignLetter(sign.tile), at.x - sign.at.x, at.y - sign.at.y, sign.firstRun);
   }
 
   /// Ra has the signs of u and uu in its middle, right of its slant, and they are shaped for that.
@@ -292,6 +349,7 @@ class Layout {
   HindiSyllable syllable_;
   Cluster cluster_;
   double x_ = 0;
+  bool hasRi_ = false;        ///< whether the consonant's shape has the sign of vocalic r in it
   double head_ = 0;           ///< where signs above stand by now
   Point foot_{0, kWordBase};  ///< where signs below hang
 };

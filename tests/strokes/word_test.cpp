@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -147,6 +148,28 @@ TEST(WordTest, PutsSignsBeforeBehindAboveAndBelow) {
   const StrokeRun& stem = before.letter.Runs()[1];
   EXPECT_EQ(stem.primitive, Primitive::LineDown);
   EXPECT_LT(stem.values[0], 50);
+}
+
+TEST(WordTest, WritesHaDaAndShaWithVocalicRInShapesOfTheirOwn) {
+  const auto has = [](const char* text, Primitive primitive, double y) {
+    const Word word = LayWord(text);
+    return std::ranges::any_of(word.letter.Runs(), [&](const StrokeRun& run) {
+      return run.primitive == primitive && std::abs(run.values[1] - y) < 1;
+    });
+  };
+  EXPECT_LT(Bottom(LayWord("हृ").letter.Bounds()), kWordBase + 1) << "the sign lies in the bow";
+  EXPECT_GT(Bottom(LayWord("सृ").letter.Bounds()), kWordBase + 20) << "elsewhere it hangs below";
+  EXPECT_TRUE(has("दृ", Primitive::LineLeft, 472)) << "a straight tail";
+  EXPECT_FALSE(has("दु", Primitive::LineLeft, 472));
+  EXPECT_EQ(LayWord("शृ").letter.Runs()[0].primitive, Primitive::SlantUpRight) << "as in shra";
+  EXPECT_GT(Bottom(LayWord("ह्रृ").letter.Bounds()), kWordBase + 20) << "not with an r joined";
+}
+
+TEST(WordTest, GivesEInWordsTheLongMarkOfAi) {
+  const double ai = LayWord("मै").letter.Bounds().y;
+  EXPECT_EQ(LayWord("मे").letter.Bounds().y, ai);
+  EXPECT_EQ(LayWord("मो").letter.Bounds().y, ai);
+  EXPECT_LT(LayWord("मे").letter.PenStrokes().size(), LayWord("मै").letter.PenStrokes().size());
 }
 
 TEST(WordTest, LiftsTheHoodOfIOverJoinedLetters) {
