@@ -1,11 +1,14 @@
 // Telugu in words: a vowel sign takes the place of the consonant's tick or stands at its right
 // foot, further consonants hang below the first.
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "strokes/telugu_anchors.h"
+#include "strokes/telugu_signs.h"
 #include "strokes/word.h"
 #include "strokes/word_ink.h"
 
@@ -15,29 +18,39 @@ namespace {
 constexpr char32_t kVirama = 0xC4D;
 constexpr char32_t kSsa = 0xC37;
 constexpr char32_t kKa = 0xC15;
+constexpr char32_t kYa = 0xC2F;
+constexpr char32_t kAa = 0xC3E;
+constexpr char32_t kI = 0xC3F;
+constexpr char32_t kIi = 0xC40;
+constexpr char32_t kU = 0xC41;
+constexpr char32_t kUu = 0xC42;
+constexpr char32_t kE = 0xC46;
+constexpr char32_t kO = 0xC4A;
+constexpr char32_t kOo = 0xC4B;
+constexpr char32_t kAu = 0xC4C;
 constexpr double kMargin = 13;  ///< of a letter with its signs, on both sides
 
-/// A sign that stands on the head: the place on its tile that comes to the letter's head. A part of
-/// its runs may stand below the letter.
+/// A sign that stands on the head: the place on its tile that comes to the letter's head, or loop.
+/// A part of its runs may stand below the letter.
 struct HeadSign {
   char32_t code;
   int tile;
   Point at;
-  double TeluguAnchors::*side;  ///< where it stands instead of the head; null: there
+  double TeluguAnchors::*loop;  ///< where it stands instead of the head; null: there
   std::size_t runsAbove;        ///< the rest hangs below
 };
 constexpr std::size_t kAllRuns = 100;
 constexpr HeadSign kHeadSigns[] = {
-    {0xC3E,   16, {425, 315},   &TeluguAnchors::side, kAllRuns}, // ా
-    {0xC3F,   17, {225, 315},   &TeluguAnchors::loop, kAllRuns}, // ి
-    {0xC40,   18, {225, 315},   &TeluguAnchors::loop, kAllRuns}, // ీ
-    {0xC46,   23, {190.6, 316}, nullptr,              kAllRuns}, // ె
+    {kAa,     16, {425, 315},   nullptr,              kAllRuns},
+    {kI,      17, {225, 315},   &TeluguAnchors::loop, kAllRuns},
+    {kIi,     18, {225, 315},   &TeluguAnchors::loop, kAllRuns},
+    {kE,      23, {190.6, 316}, nullptr,              kAllRuns},
     {0xC47,   24, {440.6, 316}, nullptr,              kAllRuns}, // ే
     {0xC48,   25, {690.6, 316}, nullptr,              3       }, // ై
-    {0xC4A,   26, {175, 316},   &TeluguAnchors::side, kAllRuns}, // ొ
-    {0xC4B,   27, {425, 316},   &TeluguAnchors::side, kAllRuns}, // ో
-    {0xC4C,   28, {690, 316},   &TeluguAnchors::side, kAllRuns}, // ౌ
-    {kVirama, 36, {205, 316},   nullptr,              kAllRuns}, // ్
+    {kO,      26, {175, 316},   nullptr,              kAllRuns},
+    {kOo,     27, {425, 316},   nullptr,              kAllRuns},
+    {kAu,     28, {690, 316},   nullptr,              kAllRuns},
+    {kVirama, 36, {205, 316},   nullptr,              kAllRuns},
 };
 
 /// The sign of ai below: its right end on the tile.
@@ -51,8 +64,8 @@ struct FootSign {
   double at;
 };
 constexpr FootSign kFootSigns[] = {
-    {0xC41, 19, 214}, // ు
-    {0xC42, 20, 464}, // ూ
+    {kU,    19, 214},
+    {kUu,   20, 464},
     {0xC43, 21, 238}, // ృ
     {0xC44, 22, 488}, // ౄ
     {0xC62, 29, 200}, // ౢ
@@ -95,6 +108,18 @@ constexpr Vowel kVowels[] = {
     {0xC61, 32},
 };
 
+// A sign that reaches out: how far right of the letter's body its ring hangs; which part of the
+// body its bar leaves free at the left; how it lies on a letter whose back rises through it; and
+// the level at which the last hook of a hooked letter goes over into it, with the length of the bar
+// there.
+constexpr double kRingBeyond = 48;
+constexpr double kBarFrom = 0.15;
+constexpr double kCurlFrom = 0.45;
+constexpr double kLevelOfOpen = 365;
+constexpr double kCurlOnOpen = 30;
+constexpr double kLevelOfHook = 360;
+constexpr double kBarOfHook = 70;
+
 /// Forms below that begin higher than this stand at the right foot, the others under the letter.
 constexpr double kFootLine = 470;
 constexpr double kOverFoot = 8;  ///< how far they reach into the room of the letter
@@ -118,6 +143,10 @@ std::vector<std::size_t> Numbers(std::size_t from, std::size_t to) {
   std::vector<std::size_t> numbers;
   for (; from < to; ++from) numbers.push_back(from);
   return numbers;
+}
+
+std::vector<std::size_t> NoRuns() {
+  return {};
 }
 
 /// The two runs of a letter's tick, if it has one: down to the right, then up.
@@ -202,8 +231,49 @@ class Syllable {
   }
 
   void LayConsonants() {
-    const HeadSign* head = Find(kHeadSigns, sign_);
-    const FootSign* foot = Find(kFootSigns, sign_);
+    if (!letters_.empty() && letters_.front()->form == TeluguForm::Hooked) return LayHooked();
+    LayConsonants(Find(kHeadSigns, sign_), Find(kFootSigns, sign_));
+  }
+
+  /// A letter whose last hook carries aa and au keeps its tick with them; o is e and a further
+  /// hook, oo is e and aa. Ya has no loop of i: it loses its tick.
+  void LayHooked() {
+    const bool isYa = letters_.front()->code == kYa;
+    const bool isHookCut = sign_ == kAa || sign_ == kOo || (isYa && sign_ == kIi);
+    if (sign_ == kO) return LayConsonants(Find(kHeadSigns, kE), Find(kFootSigns, kU));
+    if (!isHookCut && !(isYa && sign_ == kI)) {
+      return LayConsonants(Find(kHeadSigns, sign_), Find(kFootSigns, sign_));
+    }
+    const TeluguAnchors& anchors = *letters_.front();
+    const Letter& letter = ConsonantTile(anchors.tile);
+    std::vector<std::size_t> without = sign_ == kAa ? std::vector<std::size_t>() : TickOf(letter);
+    std::vector<Run> hook;
+    if (isHookCut) hook = CutHook(letter, without);
+    Add(letter, {}, without);
+    cluster_.ink.AddStroke(hook);
+    if (sign_ == kOo) LayHead(*Find(kHeadSigns, kE), anchors);
+    LayAllBelow(anchors, letter);
+  }
+
+  /// The letter's last bow and its back up to a level where a bar and a ring go on. Takes those
+  /// runs into `without`.
+  static std::vector<Run> CutHook(const Letter& letter, std::vector<std::size_t>& without) {
+    const auto runs = letter.Runs();
+    std::size_t back = runs.size() - 1;
+    while (runs[back].primitive != Primitive::ArcStroke) --back;
+    const auto& arc = runs[back].values;
+    const Point centre{arc[3], arc[4]};
+    const double angle = std::asin((centre.y - kLevelOfHook) / arc[5]);
+    const double x = centre.x + arc[5] * std::cos(angle);
+    std::vector<Run> hook = {
+        runs[back - 1], ArcRun(arc[1], 360 + angle * 180 / std::numbers::pi, +1, centre, arc[5])};
+    for (const Run& run : BarWithRing(x, kLevelOfHook, x + kBarOfHook)) hook.push_back(run);
+    without.push_back(back - 1);
+    without.push_back(back);
+    return hook;
+  }
+
+  void LayConsonants(const HeadSign* head, const FootSign* foot) {
     if (letters_.empty()) {
       if (head != nullptr) Add(VowelTile(head->tile), {});
       if (foot != nullptr) Add(VowelTile(foot->tile), {});
@@ -211,18 +281,66 @@ class Syllable {
     }
     const TeluguAnchors& anchors = *letters_.front();
     const Letter& letter = ConsonantTile(anchors.tile);
-    Add(letter, {}, head != nullptr ? TickOf(letter) : std::vector<std::size_t>());
+    Add(letter, {}, head != nullptr && !KeepsTick(anchors) ? TickOf(letter) : NoRuns());
     if (head != nullptr) LayHead(*head, anchors);
+    LayAllBelow(anchors, letter);
+    if (foot != nullptr) Add(VowelTile(foot->tile), {.right = right_ - foot->at});
+  }
+
+  void LayAllBelow(const TeluguAnchors& anchors, const Letter& letter) {
     right_ = anchors.foot.to;
     if (anchors.code == 0)
       right_ = letter.Bounds().x + letter.Bounds().width;  // it hangs below already
     for (std::size_t i = 1; i < letters_.size(); ++i) LayBelow(*letters_[i], anchors);
-    if (foot != nullptr) Add(VowelTile(foot->tile), {.right = right_ - foot->at});
+  }
+
+  bool ReachesOut() const { return sign_ == kAa || sign_ == kO || sign_ == kOo || sign_ == kAu; }
+
+  bool KeepsTick(const TeluguAnchors& anchors) const {
+    return (anchors.form == TeluguForm::Ha && ReachesOut()) ||
+           (anchors.form == TeluguForm::Hooked && sign_ == kAu);
+  }
+
+  /// The signs that reach out to the right.
+  void LayReach(const TeluguAnchors& anchors) {
+    if (anchors.form == TeluguForm::Ha && sign_ == kAa) {
+      const Run bow = BowOfHaa(anchors.side, anchors.head.y);
+      return cluster_.ink.AddStroke({&bow, 1});
+    }
+    const SignReach reach = ReachOver(anchors);
+    cluster_.ink.AddStroke(sign_ == kAa   ? SignOfAa(reach)
+                           : sign_ == kAu ? SignOfAu(reach)
+                                          : SignOfO(reach, sign_ == kOo));
+  }
+
+  /// Over a letter that is round at its top the sign lies from its left to its right; the back of
+  /// an open one rises through it; one without a tick has the sign where its last bow ends.
+  SignReach ReachOver(const TeluguAnchors& anchors) const {
+    const Letter& letter = ConsonantTile(anchors.tile);
+    WordInk body;
+    const std::vector<std::size_t> tick = TickOf(letter);
+    body.Add(letter, {}, tick);
+    const Box box = body.Bounds();
+    const double right = box.x + box.width;
+    SignReach reach{.bar = anchors.side,
+                    .curl = anchors.side,
+                    .level = anchors.head.y,
+                    .ring = right + kRingBeyond};
+    if (anchors.form == TeluguForm::Open) {
+      reach = {
+          .bar = box.x, .curl = box.x + kCurlOnOpen, .level = kLevelOfOpen, .ring = reach.ring};
+    } else if (!tick.empty() && anchors.form == TeluguForm::Round) {
+      reach.bar = box.x + kBarFrom * box.width;
+      reach.curl = std::min(anchors.side, box.x + kCurlFrom * box.width);
+      reach.level = box.y;
+    }
+    return reach;
   }
 
   void LayHead(const HeadSign& sign, const TeluguAnchors& anchors) {
+    if (ReachesOut() && sign.code == sign_) return LayReach(anchors);
     const Letter& letter = VowelTile(sign.tile);
-    const double x = sign.side != nullptr ? anchors.*sign.side : anchors.head.x;
+    const double x = sign.loop != nullptr ? anchors.*sign.loop : anchors.head.x;
     const std::size_t runs = letter.Runs().size();
     const std::size_t above = std::min(sign.runsAbove, runs);
     Add(letter, {.right = x - sign.at.x, .down = anchors.head.y - sign.at.y}, Numbers(above, runs));
