@@ -92,7 +92,7 @@ class FormsPage : public TempDrives {
     RegisterMaths();
     static const bool added = [] {
       for (const Companion each : {AddWatching, AddTracing, AddNumbers, AddFitting, AddBookSwitch,
-                                   AddWords, AddWorksheets, AddExport}) {
+                                   AddWords, AddWorksheets, AddExport, AddOwnVoice}) {
         AddCompanion(each);
       }
       return true;
