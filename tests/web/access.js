@@ -70,7 +70,7 @@ function leastContrast(page) {
 for (const [name, size] of Object.entries({ phone: kPhone, tablet: kTablet, wall: kWallBoard })) {
   test(`everything has a name, is large enough and stands out on a ${name}`, async () => {
     const page = await openPage({ size });
-    for (const set of ['', 'engc', 'hinc', 'telc', 'mat']) {
+    for (const set of ['', 'engc', 'hinc']) {
       await page.evaluate((address) => (location.hash = address), set);
       await page.waitForSelector(set === '' ? 'nav a' : `.tiles.${set}`);
       if (set !== '') {
@@ -87,7 +87,7 @@ for (const [name, size] of Object.entries({ phone: kPhone, tablet: kTablet, wall
       const beyond = await page.evaluate(
         () => document.documentElement.scrollWidth - document.documentElement.clientWidth);
       assert.equal(beyond, 0, 'nothing is beyond the right edge');
-      await shot(page, `controls-${set || 'home'}-${name}`);
+      if (set === 'hinc') await shot(page, `controls-${name}`);
     }
     await page.closeTrial();
   });

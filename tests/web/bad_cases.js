@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import {
-  button, kFourLetters, kPhone, kWeb, openPage, penStrokes, onScreen, said, server, shot, tile,
+  button, kFourLetters, kPhone, kWeb, openPage, penStrokes, onScreen, reload, said, server, shot, tile,
 } from './browser.js';
 import { serve } from './server.js';
 
@@ -81,7 +81,7 @@ test('stars that are no stars in the storage count as none', async () => {
   const page = await openPage({ address: '#engc' });
   for (const rubbish of ['null', '7', '{"engc/2":', '{"engc/2":9}']) {
     await page.evaluate((text) => localStorage.setItem('bramlee-stars', text), rubbish);
-    await page.reload();
+    await reload(page);
     assert.equal(await page.$eval(tile(2), (it) => it.getAttribute('aria-label')), 'capital B');
   }
   await page.closeTrial();
@@ -142,10 +142,9 @@ test('a new version takes over as a whole once the old page is closed', async ()
   const own = await serve(kWeb);
   const page = await openPage({ url: own.url });
   await page.evaluate(() => navigator.serviceWorker.ready);
+  const version = await page.evaluate(() => document.documentElement.dataset.version);
   own.setChange((name, bytes) =>
-    name === 'worker.js'
-      ? Buffer.from(String(bytes).replace(/kVersion = '[^']*'/, "kVersion = 'newer'"))
-      : bytes);
+    name === 'worker.js' ? Buffer.from(String(bytes).replaceAll(version, 'newer')) : bytes);
   const waiting = await page.evaluate(async () => {
     const registration = await navigator.serviceWorker.ready;
     await registration.update();

@@ -73,6 +73,12 @@ export async function openPage({
   return page;
 }
 
+/// Loads the page again and waits until it shows something.
+export async function reload(page) {
+  await page.reload();
+  await page.waitForSelector('html[data-shows]');
+}
+
 /// Waits until the page tells a screen reader that text.
 export async function said(page, text) {
   await page.waitForFunction(
@@ -83,7 +89,7 @@ export async function said(page, text) {
 }
 
 export function shot(page, name) {
-  return page.screenshot({ path: join(kShots, `${name}.png`) });
+  return page.screenshot({ path: join(kShots, `${name}.png`), optimizeForSpeed: true });
 }
 
 export const button = (name) => `[data-name="${name}"]`;

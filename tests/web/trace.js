@@ -2,7 +2,7 @@ import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import {
   button, comparedWithProgram, framesLater, inkOf, kFourLetters, kPhone, kTablet, onScreen,
-  openPage, penStrokes, said, shot, tile,
+  openPage, penStrokes, reload, said, shot, tile,
 } from './browser.js';
 
 const [B] = kFourLetters;
@@ -115,7 +115,7 @@ test('a stroke can be traced across a resize of the window', async () => {
 
 test('after four misses the pen writes the stroke, with help at each', async () => {
   const page = await openTracing();
-  const far = await onScreen(page, [780, 420]);
+  const far = await onScreen(page, [700, 200]);
   const miss = async () => {
     await page.mouse.move(far.x, far.y);
     await page.mouse.down();
@@ -166,7 +166,7 @@ test('the level is chosen by its button and lasts', async () => {
   assert.equal(await level(), 'Level: normal');
   await page.click(button('level'));
   assert.equal(await level(), 'Level: gentle');
-  await page.reload();
+  await reload(page);
   await page.click(button('trace'));
   assert.equal(await level(), 'Level: gentle');
   await page.closeTrial();

@@ -1,4 +1,5 @@
 // Pictures as SVG text: tiles, subjects, the strip's buttons, drawn from letters and strokes.
+import { pathBox } from './path_box.js';
 
 // A tile's picture has so many units; that of a capital is wider.
 const kTile = { width: 240, height: 220 };
@@ -17,38 +18,36 @@ const kMostWidth = 250;
 
 /// Two tiles of the number set write two signs, each in a column of its own: with the strokes of
 /// the second one moved so that they stand close together. One piece for all other letters.
-function piecesOf(letter) {
-  const { x, y, width, height } = letter.bounds;
-  if (width <= kMostWidth) return { pieces: [{ d: letter.path(), right: 0 }], box: letter.bounds };
+function piecesOf(set, letter) {
+  const d = letter.path();
+  const box = pathBox(d);
+  if (set.name === 'mat' && box.width > kMostWidth) return signsOf(letter, box);
+  return { pieces: [{ d, right: 0 }], box };
+}
+
+function signsOf(letter, { x, y, height }) {
   const first = { paths: [], left: Infinity, end: -Infinity };
   const second = { paths: [], left: Infinity, end: -Infinity };
   for (let i = 0; i < letter.strokeCount; ++i) {
-    const across = [...letter.points(i)].filter((_, index) => index % 2 === 0);
-    const left = Math.min(...across);
-    const end = Math.max(...across);
-    const sign = (left + end) / 2 < x + kMostWidth * 0.7 ? first : second;
-    sign.paths.push(letter.path(i));
-    sign.left = Math.min(sign.left, left);
-    sign.end = Math.max(sign.end, end);
-  }
-  if (second.paths.length === 0) {
-    return { pieces: [{ d: letter.path(), right: 0 }], box: letter.bounds };
+    const d = letter.path(i);
+    const box = pathBox(d);
+    const sign = box.x + box.width / 2 < x + kMostWidth * 0.7 ? first : second;
+    sign.paths.push(d);
+    sign.left = Math.min(sign.left, box.x);
+    sign.end = Math.max(sign.end, box.x + box.width);
   }
   const kApart = 45;
-  const right = first.end + kApart - second.left;
-  return {
-    pieces: [
-      { d: first.paths.join(''), right: 0 },
-      { d: second.paths.join(''), right },
-    ],
-    box: { x, y, width: second.end + right - x, height },
-  };
+  const isOne = second.paths.length === 0;
+  const right = isOne ? 0 : first.end + kApart - second.left;
+  const pieces = [{ d: first.paths.join(''), right: 0 }];
+  if (!isOne) pieces.push({ d: second.paths.join(''), right });
+  return { pieces, box: { x, y, width: Math.max(first.end, second.end + right) - x, height } };
 }
 
 /// The letter in a place, its pen `width` broad unless that would fill its loops.
-export function letterPicture(letter, place, width, colour) {
-  if (letter.strokeCount === 0) return '';
-  const { pieces, box } = piecesOf(letter);
+function letterPicture(set, letter, place, width) {
+  const { pieces, box } = piecesOf(set, letter);
+  if (pieces[0].d === '') return '';
   const room = inset(place, width / 2, width / 2);
   // Small marks are not blown up beyond recognition.
   const kFullHeight = 150;
@@ -67,9 +66,8 @@ export function letterPicture(letter, place, width, colour) {
       : `<path d="${piece.d}" transform="translate(${piece.right} 0)"/>`,
   );
   return (
-    `<g fill="none" stroke="${colour}" stroke-width="${pen.toFixed(2)}" stroke-linecap="round"` +
-    ` stroke-linejoin="round" transform="translate(${right.toFixed(2)} ${down.toFixed(2)})` +
-    ` scale(${scale.toFixed(4)})">${paths.join('')}</g>`
+    `<g stroke="${set.ink}" stroke-width="${pen.toFixed(1)}" transform="translate(` +
+    `${right.toFixed(1)} ${down.toFixed(1)})scale(${scale.toFixed(3)})">${paths.join('')}</g>`
   );
 }
 
@@ -91,7 +89,7 @@ export function tilePicture(letters, set, tile, form = {}) {
     place.height -= height * 0.28 - place.y;
     place.y = height * 0.28;
   }
-  let picture = letterPicture(letter, place, height * 0.075, set.ink);
+  let picture = letterPicture(set, letter, place, height * 0.075);
   const printed = form.book ? tile.bookPrinted : tile.printed;
   if (corner && printed) {
     picture +=
@@ -118,7 +116,7 @@ export function subjectPicture(letters, set) {
   const width = (704 - 120) / tiles.length;
   const drawn = tiles.map((tile, i) => {
     const place = { x: 60 + width * i + 16, y: 70, width: width - 32, height: 412 - 140 };
-    return letterPicture(letters.letter(set.name, tile), place, 26, set.ink);
+    return letterPicture(set, letters.letter(set.name, tile), place, 26);
   });
   return (
     '<svg viewBox="0 0 704 412" aria-hidden="true">' +
