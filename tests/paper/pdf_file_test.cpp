@@ -151,7 +151,7 @@ class PrintingPages : public PdfFile {
   std::pair<double, double> Bar() const {
     const QImage page = PageOfPdf(File());
     int left = page.width(), right = 0;
-    for (int y = 0; y < page.height() / 6; ++y) {
+    for (int y = 0; y < page.height() / 4; ++y) {
       for (int x = 0; x < page.width(); ++x) {
         if (qGray(page.pixel(x, y)) < 128) left = std::min(left, x), right = std::max(right, x + 1);
       }
@@ -197,6 +197,13 @@ TEST_F(PrintingPages, MakesThemSmallerForSmallerPaper) {
   SetPage(QPageSize(QPageSize::A5), {});
   ASSERT_TRUE(PrintPages(BarPages(1), device_, 0, 0).IsNone());
   EXPECT_NEAR(Bar().second - Bar().first, 100 * 148.0 / 210, 0.3);
+}
+
+TEST_F(PrintingPages, KeepsThemAsTheyAreOnLargerPaper) {
+  SKIP_WITHOUT_PDF_TOOLS();
+  SetPage(QPageSize(QPageSize::A3), {});
+  ASSERT_TRUE(PrintPages(BarPages(1), device_, 0, 0).IsNone());
+  EXPECT_NEAR(Bar().second - Bar().first, 100, 0.1);
 }
 
 }  // namespace

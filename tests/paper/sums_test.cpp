@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <set>
 
@@ -79,6 +80,8 @@ TEST(SumSheet, HasAnswersOnPagesOfTheirOwn) {
   const QString file = folder.filePath(QStringLiteral("sums.pdf"));
   ASSERT_TRUE(WritePdf(*made.pages, {}, file).IsNone());
   EXPECT_TRUE(TextOfPdf(file, 1).contains(QStringLiteral("22.")));
+  EXPECT_TRUE(TextOfPdf(file, 1).contains(QRegularExpression(QStringLiteral("\\b1\\. +12\\."))))
+      << "sums run down a column";
   EXPECT_TRUE(TextOfPdf(file, 2).contains(QStringLiteral("23.")));
   EXPECT_FALSE(TextOfPdf(file, 2).contains(QStringLiteral("Answers")));
   EXPECT_TRUE(TextOfPdf(file, 3).contains(QStringLiteral("Answers")));

@@ -10,6 +10,7 @@
 #include "paper/figure.h"
 #include "paper/heading.h"
 #include "paper/pdf_file.h"
+#include "strokes/word.h"
 #include "tests/paper/pdf_reading.h"
 
 namespace bramlee {
@@ -103,6 +104,52 @@ TEST(Worksheet, HasTheRulingWhereTheLettersStand) {
   EXPECT_FALSE(IsDark(hindi, 100, 22.6) || IsDark(hindi, 100, 42.6));
 }
 
+/// How thick the line at that height is, in millimetres.
+double ThicknessAt(const QImage& page, double yMm) {
+  constexpr double kAround = 0.8;
+  int dark = 0;
+  for (double y = yMm - kAround; y < yMm + kAround; y += 1 / kDotsPerMm) {
+    dark += IsDark(page, 100, y) ? 1 : 0;
+  }
+  return dark / kDotsPerMm;
+}
+
+TEST(Worksheet, HasTheLineThickThatLettersStandOnOrHangFrom) {
+  Worksheet sheet = SheetOf({Tile("engc", 8)}, {RowKind::Blank});
+  sheet.practices[0].caption.clear();
+  const auto thickness = [&](Ruling ruling, double line) {
+    sheet.style.ruling = ruling;
+    return ThicknessAt(Page(sheet), kMarginMm + 0.6 + line);
+  };
+  constexpr double kThick = 0.45, kThin = 0.2, kOff = 0.1;
+  EXPECT_NEAR(thickness(Ruling::English, 0), kThin, kOff);
+  EXPECT_NEAR(thickness(Ruling::English, 10), kThin, kOff);
+  EXPECT_NEAR(thickness(Ruling::English, 20), kThick, kOff);
+  EXPECT_NEAR(thickness(Ruling::Hindi, 0), kThick, kOff);
+  EXPECT_NEAR(thickness(Ruling::Hindi, 20), kThin, kOff);
+  EXPECT_NEAR(thickness(Ruling::Telugu, 20), kThin, kOff);
+  sheet.style.bodyMm = 10;
+  sheet.style.ruling = Ruling::English;
+  EXPECT_NEAR(ThicknessAt(Page(sheet), kMarginMm + 0.3 + 10), 0.3, 0.09) << "thinner";
+}
+
+TEST(Worksheet, HasABoxALetter) {
+  Worksheet sheet = SheetOf({Tile("mat", 8)}, {RowKind::Grey});
+  sheet.practices[0].caption.clear();
+  const QImage page = Page(sheet);
+  int edges = 0, digits = 0;
+  for (int x = 1; x < page.width(); ++x) {
+    const auto grey = [&](double yMm) {
+      return std::pair(IsDark(page, (x - 0.5) / kDotsPerMm, yMm),
+                       IsDark(page, (x + 0.5) / kDotsPerMm, yMm));
+    };
+    edges += grey(kMarginMm + 1) == std::pair(false, true) ? 1 : 0;
+    digits += grey(kMarginMm + 2.6 + 10) == std::pair(false, true) ? 1 : 0;
+  }
+  EXPECT_GT(edges, 5);
+  EXPECT_EQ(digits, edges + edges - 1) << "the middle of each eight once, between two edges";
+}
+
 TEST(Worksheet, WithoutAChoiceHasTheRulingOfTheScript) {
   EXPECT_EQ(RulingOf("engs"), Ruling::English);
   EXPECT_EQ(RulingOf("hinv"), Ruling::Hindi);
@@ -123,6 +170,24 @@ TEST(Worksheet, HasTheModelAtTheEndOfEachRowForALeftHand) {
   EXPECT_GT(model.right(), 185);
 }
 
+TEST(Worksheet, GivesAModelRoomForItsNumbers) {
+  // The numbers of both stand above what the letters themselves reach.
+  for (const auto& [set, tile] : {
+           std::pair("hinv", 11), {"telc", 19}
+  }) {
+    Worksheet sheet = Narrow(Tile(set, tile), RowKind::Model, 28);
+    sheet.page.paperMm.setWidth(100);
+    EXPECT_GE(DarkBox(Page(sheet)).top(), kMarginMm - 0.1) << set;
+  }
+}
+
+TEST(Worksheet, KeepsRowsApartWhateverHangsBelow) {
+  Worksheet sheet = Narrow(Tile("engs", 7), RowKind::Grey, 20);  // g
+  const double one = DarkBox(Page(sheet), 250).height();
+  sheet.style.rows = {RowKind::Grey, RowKind::Grey};
+  EXPECT_GT(DarkBox(Page(sheet), 250).height(), 2 * one + 1.4) << "they do not overlap";
+}
+
 TEST(Worksheet, BuildsALetterUpInAsManyCells) {
   // H has three strokes: a black one in each of the first three cells, nothing in the others.
   Worksheet sheet = SheetOf({Tile("engc", 8)}, {RowKind::BuiltUp});
@@ -139,8 +204,17 @@ TEST(Worksheet, GoesOnInTheNextRowWithStrokesBuiltUpThatAreMoreThanItsCells) {
   Worksheet one = Narrow(Tile("engc", 8), RowKind::BuiltUp, 20);
   const LaidOut made = LayOut(one);
   ASSERT_TRUE(made.error.IsNone());
-  one.heading.shown = false;
-  EXPECT_GT(DarkBox(Page(one)).height(), 55) << "three rows of one cell";
+  const QImage page = Page(one);
+  const QRectF all = DarkBox(page, 250);
+  EXPECT_GT(all.height(), 55) << "three rows of one cell";
+  // The left stem, the right stem, the bar.
+  const auto blackIn = [&](int row) {
+    const int height = static_cast<int>(all.height() / 3 * kDotsPerMm);
+    const int top = static_cast<int>(all.top() * kDotsPerMm) + row * height;
+    return DarkBox(page.copy(0, top, page.width(), height));
+  };
+  EXPECT_GT(blackIn(1).left(), blackIn(0).left() + 10);
+  EXPECT_GT(blackIn(2).width(), 10);
 }
 
 TEST(Worksheet, KeepsTheRowsOfALetterOnOnePage) {
@@ -148,8 +222,19 @@ TEST(Worksheet, KeepsTheRowsOfALetterOnOnePage) {
   const LaidOut made = LayOut(SheetOf({Tile("engc", 1), Tile("engc", 2)}, five));
   ASSERT_TRUE(made.error.IsNone());
   EXPECT_EQ(made.pages->Count(), 2);
+  EXPECT_LT(DarkBox(PictureOf(made, 0), 200).bottom(), 200) << "there is room for a row or two";
   const LaidOut many = LayOut(SheetOf({Tile("engc", 1)}, std::vector<RowKind>(9, RowKind::Blank)));
   EXPECT_EQ(many.pages->Count(), 2) << "more rows than a page holds";
+}
+
+TEST(Worksheet, LeavesWhiteBetweenTheRowsOfTwoLetters) {
+  Worksheet sheet = SheetOf({Tile("engc", 8), Tile("engc", 9)}, {RowKind::Blank});
+  for (Practice& practice : sheet.practices) practice.caption.clear();
+  const QImage page = Page(sheet);
+  const double foot = kMarginMm + 0.6 + 30;
+  EXPECT_TRUE(IsDark(page, 100, foot));
+  EXPECT_TRUE(IsDark(page, 100, foot + 6 + 0.6)) << "the second letter's top line";
+  for (double y = foot + 0.5; y < foot + 6; y += 0.2) EXPECT_FALSE(IsDark(page, 100, y)) << y;
 }
 
 TEST(Worksheet, SaysThatARowDoesNotFitThePaper) {
@@ -214,6 +299,55 @@ TEST(Worksheet, MakesALongWordSmallerAndThenBreaksIt) {
   }
 }
 
+/// Where a place of a figure's sheet is painted: its middle at 40 mm, its base line at 60.
+QPointF OnPaper(const Figure& figure, const Point& place) {
+  const Box& box = figure.Shown().letter.Bounds();
+  return {40 + (place.x - box.x - box.width / 2) * figure.Scale(), 60 - figure.OverBaseMm(place.y)};
+}
+
+TEST(Figures, OfModelsHaveBeginsAndNumbers) {
+  const Figure figure(Tile("engc", 5), 20, Hand::Right);
+  QImage picture(1000, 1000, QImage::Format_Grayscale8);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.scale(kDotsPerMm, kDotsPerMm);
+  figure.Paint(painter, RowKind::Model, 40, 60);
+  painter.end();
+  const auto isDark = [&](const Point& place) {
+    const QPointF at = OnPaper(figure, place);
+    return IsDark(picture, at.x(), at.y());
+  };
+  for (const StrokePath& stroke : figure.Shown().letter.Shape().strokes) {
+    EXPECT_FALSE(isDark(stroke.points.front()));
+    EXPECT_TRUE(isDark(stroke.points[stroke.points.size() * 3 / 4]));
+  }
+  for (const StrokeNumber& number : figure.Numbers()) {
+    EXPECT_TRUE(isDark({number.centre.x - 0.75 * number.radius, number.centre.y}));
+  }
+}
+
+TEST(Figures, HaveNumbersThatCanBeReadWithinTheirWidth) {
+  for (const double body : kBodySizesMm) {
+    for (const int tile : {1, 11, 13}) {
+      const Figure figure(Tile("hinv", tile), body, Hand::Right);
+      const Box& box = figure.Shown().letter.Bounds();
+      for (const StrokeNumber& number : figure.Numbers()) {
+        const double radius = number.radius * figure.Scale();
+        EXPECT_GE(radius, 1.14);
+        EXPECT_LE(radius, 2.11);
+        const double off = std::abs(number.centre.x - box.x - box.width / 2) * figure.Scale();
+        EXPECT_GE(figure.HalfWidthMm() + 0.01, off + radius);
+      }
+    }
+  }
+}
+
+TEST(Practices, OfWordsStandOnTheLineOfWords) {
+  for (const char* word : {"Ram", "राम", "రామ"}) {
+    EXPECT_NEAR(WordPractice(QString::fromUtf8(word)).lines.base, kWordBase, 1e-9) << word;
+  }
+}
+
 /// Every letter of the book and every alternative one, at each size.
 TEST(Figures, SweepOfAllLettersHasCleanNumbers) {
   for (const double body : kBodySizesMm) {
@@ -250,6 +384,20 @@ TEST(Heading, CanBeReadInTheDocument) {
   const QString text = TextOfPdf(file).simplified();
   EXPECT_TRUE(text.startsWith(QStringLiteral("Name Amina Rao Class LKG Date"))) << qPrintable(text);
   EXPECT_TRUE(text.endsWith(QStringLiteral("capital A"))) << qPrintable(text);
+}
+
+TEST(Heading, BreaksALongNameBetweenWords) {
+  SKIP_WITHOUT_PDF_TOOLS();
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("sheet.pdf"));
+  Worksheet sheet = SheetOf({Tile("engc", 1)}, {RowKind::Model});
+  sheet.heading.name =
+      QStringLiteral("Venkateshwara Subramaniam Krishnamurthy Lakshminarayana Rao Das");
+  ASSERT_TRUE(WritePdf(*LayOut(sheet).pages, {}, file).IsNone());
+  const QString text = TextOfPdf(file);
+  for (const QString& word : sheet.heading.name.split(u' ')) {
+    EXPECT_TRUE(text.contains(word)) << qPrintable(word);
+  }
 }
 
 TEST(Choices, HaveNamesThatReadBack) {
