@@ -1,5 +1,6 @@
 #include "companions/export/export_choices.h"
 
+#include <QDir>
 #include <QStandardPaths>
 #include <algorithm>
 
@@ -33,8 +34,7 @@ std::optional<FilmKind> KindOf(int value) {
 
 QString UsualFolder() {
   const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-  return pictures.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::HomeLocation)
-                            : pictures;
+  return QDir(pictures).exists() && !pictures.isEmpty() ? pictures : QDir::homePath();
 }
 
 }  // namespace

@@ -45,7 +45,8 @@ struct ExportChoices {
   QString folder;
 };
 
-/// What was chosen last; at first a GIF of this letter, in the user's folder of pictures.
+/// What was chosen last; at first a GIF of this letter, in the user's folder of pictures or, where
+/// that is not there, the home folder.
 ExportChoices LastExportChoices();
 void KeepExportChoices(const ExportChoices& choices);
 
