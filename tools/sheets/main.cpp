@@ -1,7 +1,6 @@
 // bramlee-sheets: makes sheets of letters to write, as a PDF.
 #include <QGuiApplication>
 #include <QLoggingCategory>
-#include <cstdio>
 
 #include "paper/pdf_file.h"
 #include "tools/letters/stop_asked.h"
@@ -10,26 +9,8 @@
 namespace bramlee {
 namespace {
 
-enum ExitStatus { kDone = 0, kFailed = 1, kBadArguments = 2 };
-
 /// How often a long document tells how far it is, in pages.
 constexpr int kPagesATime = 10;
-
-void Say(const QString& text) {
-  std::fprintf(stderr, "bramlee-sheets: %s\n", qPrintable(text.simplified()));
-}
-
-ExitStatus Fail(ExitStatus status, const QString& error) {
-  Say(error);
-  return status;
-}
-
-ExitStatus Print(const QByteArray& text) {
-  const auto size = static_cast<std::size_t>(text.size());
-  const bool printed =
-      std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-  return printed ? kDone : Fail(kFailed, QStringLiteral("the output cannot be written"));
-}
 
 LaidOut LayOutDocument(const SheetsRequest& request) {
   if (const auto* sheet = std::get_if<Worksheet>(&request.document)) return LayOut(*sheet);
@@ -40,22 +21,22 @@ LaidOut LayOutDocument(const SheetsRequest& request) {
 
 ExitStatus Write(const SheetsRequest& request) {
   const LaidOut made = LayOutDocument(request);
-  if (!made.error.IsNone()) return Fail(kBadArguments, made.error.text);
-  for (const QString& note : made.pages->Notes()) Say(note);
+  if (!made.error.IsNone()) return kTool.Fail(kBadArguments, made.error.text);
+  for (const QString& note : made.pages->Notes()) kTool.Say(note);
   const bool isLong = std::holds_alternative<LetterBook>(request.document);
   const PaperError error =
       WritePdf(*made.pages, request.info, request.file, [isLong](int done, int of) {
         const bool isDue = done > 0 && (done % kPagesATime == 0 || done == of);
-        if (isLong && isDue) Say(QStringLiteral("page %1 of %2").arg(done).arg(of));
+        if (isLong && isDue) kTool.Say(QStringLiteral("page %1 of %2").arg(done).arg(of));
         return !IsStopAsked();
       });
-  return error.IsNone() ? kDone : Fail(kFailed, error.text);
+  return error.IsNone() ? kDone : kTool.Fail(kFailed, error.text);
 }
 
 ExitStatus Answer(const QStringList& arguments) {
   const SheetsRequest request = ReadSheetsRequest(arguments);
-  if (!request.error.isEmpty()) return Fail(kBadArguments, request.error);
-  if (!request.text.isEmpty()) return Print(request.text.toUtf8());
+  if (!request.error.isEmpty()) return kTool.Fail(kBadArguments, request.error);
+  if (!request.text.isEmpty()) return kTool.Print(request.text.toStdString());
   return Write(request);
 }
 

@@ -67,19 +67,10 @@ struct SheetsOptions {
       QStringLiteral("The file that is written, a PDF."),
       QStringLiteral("FILE")
   };
-  QCommandLineOption help{
-      {QStringLiteral("h"), QStringLiteral("help")},
-      QStringLiteral("This help.")
-  };
-  QCommandLineOption version{
-      {QStringLiteral("v"), QStringLiteral("version")},
-      QStringLiteral("The version.")
-  };
 
   void AddTo(QCommandLineParser& parser) const {
-    parser.addOptions({given, word,      numbers, sums,      count,  seed, rows,
-                       size,  ruling,    paper,   landscape, hand,   name, schoolClass,
-                       date,  noHeading, title,   author,    output, help, version});
+    parser.addOptions({given, word, numbers, sums, count, seed, rows, size, ruling, paper,
+                       landscape, hand, name, schoolClass, date, noHeading, title, author, output});
   }
 };
 

@@ -43,15 +43,13 @@ class Reader {
         QStringLiteral("[TILES]"));
     letters_.AddTo(parser_);
     options_.AddTo(parser_);
+    Tool::AddHelpTo(parser_);
     parsed_ = parser_.parse(arguments);
   }
 
   SheetsRequest Read() {
     if (!parsed_) return Error(parser_.errorText());
-    if (parser_.isSet(options_.help)) return Text(parser_.helpText());
-    if (parser_.isSet(options_.version)) {
-      return Text(QStringLiteral("bramlee-sheets " BRAMLEE_VERSION "\n"));
-    }
+    if (const auto text = kTool.TextAsked(parser_)) return Text(*text);
     for (const auto part : {&Reader::ReadFile, &Reader::ReadForms, &Reader::ReadPaper,
                             &Reader::ReadStyle, &Reader::ReadHeading, &Reader::ReadWhat}) {
       const QString error = (this->*part)();

@@ -8,8 +8,11 @@
 #include "paper/letter_book.h"
 #include "paper/sums.h"
 #include "paper/worksheet.h"
+#include "tools/letters/tool.h"
 
 namespace bramlee {
+
+inline constexpr Tool kTool("bramlee-sheets");
 
 /// What the arguments come to: a text to print (help, version), an error of one line, or, when
 /// both are empty, a document and its file.

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <chrono>
 #include <condition_variable>
-#include <cstdio>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -22,10 +21,6 @@
 
 namespace bramlee {
 namespace {
-
-void Say(const QString& text) {
-  std::fprintf(stderr, "bramlee-strokes: %s\n", qPrintable(text));
-}
 
 FilmLook LookOf(const Request& request) {
   const FilmRequest& film = request.film;
@@ -116,7 +111,7 @@ class Follower {
       if (IsStopAsked()) stop_.request_stop();
       const int part = films_.FramesDone() * kParts / std::max(1, films_.Frames());
       if (!says_ || part == std::exchange(said, part)) continue;
-      Say(QStringLiteral("picture %1 of %2").arg(films_.FramesDone()).arg(films_.Frames()));
+      kTool.Say(QStringLiteral("picture %1 of %2").arg(films_.FramesDone()).arg(films_.Frames()));
     }
   }
 
@@ -136,7 +131,7 @@ QString RunToEnd(FilmExport& films, bool isLong) {
   const bool failed = exported.cancelled || !exported.error.isEmpty();
   if (failed && IsStopAsked()) return QStringLiteral("cancelled");
   if (failed) return exported.error;
-  for (const QString& left : exported.left) Say(QStringLiteral("left out: ") + left);
+  for (const QString& left : exported.left) kTool.Say(QStringLiteral("left out: ") + left);
   return {};
 }
 
@@ -177,7 +172,7 @@ QString WriteCards(const Request& request) {
   const PaperError error =
       WritePdf(cards, info, file, [](int /*done*/, int /*of*/) { return !IsStopAsked(); });
   if (!error.IsNone()) return error.text;
-  for (const QString& note : cards.Notes()) Say(QStringLiteral("left out: ") + note);
+  for (const QString& note : cards.Notes()) kTool.Say(QStringLiteral("left out: ") + note);
   return {};
 }
 

@@ -2,7 +2,6 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <string_view>
 
@@ -18,59 +17,46 @@
 namespace bramlee {
 namespace {
 
-enum ExitStatus { kDone = 0, kFailed = 1, kBadArguments = 2 };
-
-ExitStatus Fail(ExitStatus status, const QString& error) {
-  std::fprintf(stderr, "bramlee-strokes: %s\n", qPrintable(error.simplified()));
-  return status;
-}
-
-ExitStatus Print(const std::string& text) {
-  const bool printed =
-      std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
-  return printed ? kDone : Fail(kFailed, QStringLiteral("the output cannot be written"));
-}
-
 ExitStatus DrawPictures(const Request& request) {
   const QString error = request.svg.isEmpty() ? QString() : WriteSvg(request);
-  if (!error.isEmpty()) return Fail(kFailed, error);
+  if (!error.isEmpty()) return kTool.Fail(kFailed, error);
   const QString second = request.png.isEmpty() ? QString() : WritePng(request);
-  return second.isEmpty() ? kDone : Fail(kFailed, second);
+  return second.isEmpty() ? kDone : kTool.Fail(kFailed, second);
 }
 
 ExitStatus WriteFiles(const Request& request) {
   CatchStop();
   const QString error = request.film.cards ? WriteCards(request) : WriteFilms(request);
-  return error.isEmpty() ? kDone : Fail(kFailed, error);
+  return error.isEmpty() ? kDone : kTool.Fail(kFailed, error);
 }
 
 /// Names what is left out of the word, and writes the rest.
 ExitStatus AnswerWord(const Request& request) {
   const Word word = WordAsked(request);
   if (word.letters.empty()) {
-    return Fail(kBadArguments, QStringLiteral("--word: there are no strokes for any of it"));
+    return kTool.Fail(kBadArguments, QStringLiteral("--word: there are no strokes for any of it"));
   }
   for (const LeftOut& each : word.leftOut) {
-    Fail(kDone, QStringLiteral("left out: ") + QString::fromStdString(each.text));
+    kTool.Say(QStringLiteral("left out: ") + QString::fromStdString(each.text));
   }
   if (request.film.IsAsked()) return WriteFiles(request);
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   const std::string text = request.word.toStdString();
-  return Print(request.penStrokes ? PenStrokesAsJson(word, text) : WordAsJson(word, text));
+  return kTool.Print(request.penStrokes ? PenStrokesAsJson(word, text) : WordAsJson(word, text));
 }
 
 ExitStatus Answer(const QStringList& arguments) {
   const Parsed parsed = ParseArguments(arguments);
-  if (!parsed.error.isEmpty()) return Fail(kBadArguments, parsed.error);
-  if (!parsed.text.isEmpty()) return Print(parsed.text.toStdString());
+  if (!parsed.error.isEmpty()) return kTool.Fail(kBadArguments, parsed.error);
+  if (!parsed.text.isEmpty()) return kTool.Print(parsed.text.toStdString());
   const Request& request = parsed.request;
   if (!request.word.isEmpty()) return AnswerWord(request);
   if (request.film.IsAsked()) return WriteFiles(request);
   if (!request.svg.isEmpty() || !request.png.isEmpty()) return DrawPictures(request);
   for (int tile = request.firstTile; tile <= request.lastTile; ++tile) {
     const ExitStatus status =
-        Print(request.penStrokes ? PenStrokesAsJson(LetterOf(request.Tile(tile)))
-                                 : StrokesAsJson(request, tile));
+        kTool.Print(request.penStrokes ? PenStrokesAsJson(LetterOf(request.Tile(tile)))
+                                       : StrokesAsJson(request, tile));
     if (status != kDone) return status;
   }
   return kDone;

@@ -60,18 +60,15 @@ class Reader {
     letters_.AddTo(parser_);
     films_.AddTo(parser_);
     parser_.addOptions({options_.given, options_.word, options_.headPerLetter, options_.step,
-                        options_.penStrokes, options_.svg, options_.png, options_.scale, help_,
-                        version_});
+                        options_.penStrokes, options_.svg, options_.png, options_.scale});
+    Tool::AddHelpTo(parser_);
     parsed_ = parser_.parse(arguments);
   }
 
   Parsed Read() {
     if (!parsed_) return {.request = {}, .text = {}, .error = parser_.errorText()};
-    if (parser_.isSet(help_)) return {.request = {}, .text = parser_.helpText(), .error = {}};
-    if (parser_.isSet(version_)) {
-      return {.request = {},
-              .text = QStringLiteral("bramlee-strokes " BRAMLEE_VERSION "\n"),
-              .error = {}};
+    if (const auto text = kTool.TextAsked(parser_)) {
+      return {.request = {}, .text = *text, .error = {}};
     }
     for (const auto part : {&Reader::ReadLetters, &Reader::ReadGiven, &Reader::ReadStep,
                             &Reader::ReadPenStrokes, &Reader::ReadPictures, &Reader::ReadFilm}) {
@@ -172,14 +169,6 @@ class Reader {
   const LetterArguments letters_;
   const FilmOptions films_;
   const Options options_;
-  const QCommandLineOption help_{
-      {QStringLiteral("h"), QStringLiteral("help")},
-      QStringLiteral("This help.")
-  };
-  const QCommandLineOption version_{
-      {QStringLiteral("v"), QStringLiteral("version")},
-      QStringLiteral("The version.")
-  };
   bool parsed_ = false;
   Request request_;
 };

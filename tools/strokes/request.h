@@ -6,9 +6,12 @@
 
 #include "strokes/pen_strokes.h"
 #include "tools/letters/letter_arguments.h"
+#include "tools/letters/tool.h"
 #include "tools/strokes/film_options.h"
 
 namespace bramlee {
+
+inline constexpr Tool kTool("bramlee-strokes");
 
 /// A request that can be carried out.
 struct Request : LetterRequest {

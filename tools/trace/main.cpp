@@ -1,6 +1,5 @@
 // bramlee-trace: judges a pen that traces a letter.
 #include <QCoreApplication>
-#include <cstdio>
 #include <iostream>
 #include <string>
 
@@ -12,20 +11,6 @@
 
 namespace bramlee {
 namespace {
-
-enum ExitStatus { kDone = 0, kFailed = 1, kBadInput = 2 };
-
-ExitStatus Fail(ExitStatus status, const QString& error) {
-  std::fprintf(stderr, "bramlee-trace: %s\n", qPrintable(error.simplified()));
-  return status;
-}
-
-/// At once, for whoever waits for the verdict before the pen goes on.
-ExitStatus Print(const std::string& text) {
-  const bool printed =
-      std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
-  return printed ? kDone : Fail(kFailed, QStringLiteral("the output cannot be written"));
-}
 
 std::string JudgementAsJson(const TraceJudgement& judgement) {
   return "{\"stroke\": " + std::to_string(judgement.stroke + 1) + ", \"verdict\": \"" +
@@ -56,10 +41,10 @@ class Tracing {
     if (event.kind == PenEvent::Kind::Move) tracer_.Move(event.place);
     if (isDown_) return kDone;
     const auto judgement = tracer_.Up();
-    return judgement ? Print(JudgementAsJson(*judgement)) : kDone;
+    return judgement ? kTool.Print(JudgementAsJson(*judgement)) : kDone;
   }
 
-  ExitStatus End() const { return Print(EndAsJson(tracer_)); }
+  ExitStatus End() const { return kTool.Print(EndAsJson(tracer_)); }
 
  private:
   Tracer tracer_;
@@ -72,7 +57,8 @@ ExitStatus Trace(const TraceRequest& request) {
   for (int number = 1; std::getline(std::cin, line); ++number) {
     const auto event = ReadPenEvent(QByteArray::fromStdString(line));
     const auto fail = [number](const char* why) {
-      return Fail(kBadInput, QStringLiteral("line %1: %2").arg(number).arg(QLatin1String(why)));
+      return kTool.Fail(kBadArguments,
+                        QStringLiteral("line %1: %2").arg(number).arg(QLatin1String(why)));
     };
     if (!event) return fail("neither {\"down\": [x, y]} nor {\"move\": [x, y]} nor {\"up\": true}");
     if (!tracing.CanTake(*event)) {
@@ -87,8 +73,8 @@ ExitStatus Trace(const TraceRequest& request) {
 
 ExitStatus Answer(const QStringList& arguments) {
   const TraceRequest request = ReadTraceRequest(arguments);
-  if (!request.error.isEmpty()) return Fail(kBadInput, request.error);
-  return request.text.isEmpty() ? Trace(request) : Print(request.text.toStdString());
+  if (!request.error.isEmpty()) return kTool.Fail(kBadArguments, request.error);
+  return request.text.isEmpty() ? Trace(request) : kTool.Print(request.text.toStdString());
 }
 
 }  // namespace

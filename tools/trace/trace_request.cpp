@@ -27,14 +27,14 @@ class Reader {
     parser_.addPositionalArgument(QStringLiteral("SET"), QStringLiteral("The letter set."));
     parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."));
     letters_.AddTo(parser_);
-    parser_.addOptions({level_, hand_, help_, version_});
+    parser_.addOptions({level_, hand_});
+    Tool::AddHelpTo(parser_);
     parsed_ = parser_.parse(arguments);
   }
 
   TraceRequest Read() {
     if (!parsed_) return Error(parser_.errorText());
-    if (parser_.isSet(help_)) return Text(parser_.helpText());
-    if (parser_.isSet(version_)) return Text(QStringLiteral("bramlee-trace " BRAMLEE_VERSION "\n"));
+    if (const auto text = kTool.TextAsked(parser_)) return Text(*text);
     LetterRequest letters;
     const QString error = letters_.Read(parser_, letters);
     if (!error.isEmpty()) return Error(error);
@@ -69,14 +69,6 @@ class Reader {
       QStringLiteral("hand"),
       QStringLiteral("The hand that holds the pen, left or right. Both are judged alike."),
       QStringLiteral("HAND"), QStringLiteral("right")};
-  const QCommandLineOption help_{
-      {QStringLiteral("h"), QStringLiteral("help")},
-      QStringLiteral("This help.")
-  };
-  const QCommandLineOption version_{
-      {QStringLiteral("v"), QStringLiteral("version")},
-      QStringLiteral("The version.")
-  };
   bool parsed_ = false;
 };
 

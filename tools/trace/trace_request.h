@@ -5,9 +5,12 @@
 #include <QStringList>
 
 #include "strokes/pen_strokes.h"
+#include "tools/letters/tool.h"
 #include "writing/tracer.h"
 
 namespace bramlee {
+
+inline constexpr Tool kTool("bramlee-trace");
 
 /// What the arguments come to: a text to print (help, version), an error of one line, or, when
 /// both are empty, a letter to trace.
