@@ -14,9 +14,8 @@ constexpr int kRate = 48000;
 /// How often it is asked which microphones there are.
 constexpr int kLookMs = 1000;
 constexpr int kWatchMs = 250;
-/// A microphone that gives nothing for so long is gone; opened, it may take its time.
+/// A microphone that gives nothing more for so long is gone.
 constexpr int kSilentMs = 1500;
-constexpr int kOpeningMs = 5000;
 
 constexpr double kLowestDb = -96;
 
@@ -111,7 +110,7 @@ void RecorderWorker::Watch() {
   if (!source_) return;
   if (source_->bytesAvailable() > 0) Take();
   if (!source_) return;
-  const bool silent = sinceHeard_.elapsed() > (began_ ? kSilentMs : kOpeningMs);
+  const bool silent = began_ && sinceHeard_.elapsed() > kSilentMs;
   const QAudio::Error error = source_->error();
   const bool broken = error == QAudio::IOError || error == QAudio::FatalError;
   if (!silent && !broken && !DeviceOf(microphone_).isNull()) return;

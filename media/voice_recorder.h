@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 #include <QThread>
+#include <QTimer>
 #include <cstdint>
 
 #include "voice/speech_wave.h"
@@ -76,6 +77,7 @@ class VoiceRecorder : public QObject {
   RecorderWorker* worker_;  ///< lives on thread_
   int number_ = 0;          ///< of what is recorded, 0 for nothing
   int last_ = 0;
+  QTimer opening_;  ///< runs until the microphone is heard
 };
 
 }  // namespace bramlee

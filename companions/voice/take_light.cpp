@@ -15,12 +15,8 @@ const QColor kRed(0xE5, 0x10, 0x10);
 }  // namespace
 
 TakeLight::TakeLight(QWidget* parent) : QWidget(parent) {
-  setFixedSize(sizeHint());
+  setFixedSize(kPixels, kPixels);
   ShowDark();
-}
-
-QSize TakeLight::sizeHint() const {
-  return {kPixels, kPixels};
 }
 
 void TakeLight::Show(State state, int number) {

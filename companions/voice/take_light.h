@@ -16,8 +16,6 @@ class TakeLight : public QWidget {
   void ShowLit() { Show(State::Lit, 0); }
   bool IsLit() const { return state_ == State::Lit; }
 
-  QSize sizeHint() const override;
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 

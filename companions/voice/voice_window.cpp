@@ -26,6 +26,7 @@ const QString kMicrophone = QStringLiteral("voice/microphone");
 
 constexpr int kLeastPixels = 44;  ///< of what is clicked
 constexpr int kSidePixels = 270;
+constexpr int kFootPixels = 110;
 constexpr QSize kWindow(900, 640);
 constexpr int kLowestLevel = -60;  ///< decibels that the meter shows
 
@@ -93,7 +94,7 @@ VoiceWindow::VoiceWindow(Board& board)
   resize(kWindow);
   for (const BoardSound& sound : SoundsOf(board_)) list_->Offer(sound);
   Connect();
-  Open();
+  Begin();
 }
 
 QVBoxLayout* VoiceWindow::MakeSide() {
@@ -143,10 +144,10 @@ QHBoxLayout* VoiceWindow::MakeFoot() {
   microphones_->setMinimumContentsLength(18);
   foot->addWidget(label);
   foot->addWidget(microphones_, 1);
-  foot->addWidget(toStick_);
-  foot->addWidget(fromStick_);
-  foot->addStretch();
-  foot->addWidget(close_);
+  for (QPushButton* button : {toStick_, fromStick_, close_}) {
+    button->setMinimumWidth(kFootPixels);
+    foot->addWidget(button);
+  }
   return foot;
 }
 
@@ -179,7 +180,7 @@ void VoiceWindow::Connect() {
   connect(&work_, &SoundsWork::Ended, this, &VoiceWindow::Finish);
 }
 
-void VoiceWindow::Open() {
+void VoiceWindow::Begin() {
   SoundEngine::Instance().WarmUp();
   Say(driveIsThere_ ? own_.Finish() : QStringLiteral("The drive of the sounds is not there."));
   if (said_->text().isEmpty()) Say(EncoderTrouble());
@@ -322,7 +323,7 @@ void VoiceWindow::Again() {
   taking_.Release();
 }
 
-void VoiceWindow::Begin(const SoundsWork::Work& work, std::function<void(const Copied&)> then) {
+void VoiceWindow::Work(const SoundsWork::Work& work, std::function<void(const Copied&)> then) {
   if (work_.IsRunning()) return;
   then_ = std::move(then);
   progress_->setRange(0, 0);
@@ -339,7 +340,7 @@ void VoiceWindow::Finish(const Copied& copied) {
 
 void VoiceWindow::Keep() {
   const QString sound = list_->Chosen().sound;
-  Begin(
+  Work(
       [own = own_, sound, take = take_](const CopyProgress&, const std::stop_token&) {
         return Copied{.sounds = 1, .error = own.Keep(sound, take)};
       },
@@ -354,7 +355,7 @@ void VoiceWindow::Keep() {
 
 void VoiceWindow::GiveBack() {
   const QString sound = list_->Chosen().sound;
-  Begin(
+  Work(
       [own = own_, sound](const CopyProgress&, const std::stop_token&) {
         return Copied{.sounds = 1, .error = own.GiveBack(sound)};
       },
@@ -367,7 +368,7 @@ void VoiceWindow::GiveBack() {
 void VoiceWindow::ToStick() {
   const QString stick = StickPlace(this, QStringLiteral("Copy all recordings to"));
   if (stick.isEmpty()) return;
-  Begin(
+  Work(
       [own = own_, stick](const CopyProgress& progress, const std::stop_token& stop) {
         return CopyToStick(own, stick, progress, stop);
       },
@@ -380,7 +381,7 @@ void VoiceWindow::ToStick() {
 void VoiceWindow::FromStick() {
   const QString stick = StickPlace(this, QStringLiteral("Take recordings from"));
   if (stick.isEmpty()) return;
-  Begin(
+  Work(
       [own = own_, stick](const CopyProgress& progress, const std::stop_token& stop) {
         return TakeFromStick(own, stick, progress, stop);
       },

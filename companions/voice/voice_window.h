@@ -41,7 +41,7 @@ class VoiceWindow : public QDialog {
   QHBoxLayout* MakeFoot();
   QWidget* MakeNumberRow();
   void Connect();
-  void Open();
+  void Begin();
 
   void ShowMicrophones(const QList<Microphone>& there);
   QByteArray MicrophoneId() const;
@@ -59,7 +59,7 @@ class VoiceWindow : public QDialog {
   void ToStick();
   void FromStick();
   void AddNumber();
-  void Begin(const SoundsWork::Work& work, std::function<void(const Copied&)> then);
+  void Work(const SoundsWork::Work& work, std::function<void(const Copied&)> then);
   void Finish(const Copied& copied);
   void Forget();
 

@@ -136,10 +136,21 @@ TEST_F(RecordedVoice, EndsWhenTheMicrophoneIsPulledOut) {
 }
 
 TEST_F(RecordedVoice, EndsAtOnceByHand) {
+  room_->Say({});
   Begin();
   recorder_.Stop();
   AwaitEnd();
-  EXPECT_EQ(recorded_->fault, VoiceFault::Dead);  // nobody speaks, and the room has no noise
+  EXPECT_NE(recorded_->fault, VoiceFault::None);  // nobody speaks
+  EXPECT_TRUE(recorded_->cue.samples.empty());
+}
+
+TEST_F(RecordedVoice, IsRefusedByAMicrophoneThatGivesNothing) {
+  room_->Suspend(true);
+  recorder_.Start(kMic);
+  AwaitEnd();
+  room_->Suspend(false);
+  EXPECT_EQ(recorded_->trouble, RecorderTrouble::Refused);
+  EXPECT_FALSE(began_);
 }
 
 TEST_F(RecordedVoice, NeedsAMicrophone) {

@@ -200,6 +200,12 @@ void RoomWithMicrophone::PullMicrophone() {
   microphone_.clear();
 }
 
+void RoomWithMicrophone::Suspend(bool on) {
+  QProcess::execute(QStringLiteral("pactl"),
+                    {QStringLiteral("suspend-source"), QStringLiteral("mic"),
+                     on ? QStringLiteral("1") : QStringLiteral("0")});
+}
+
 Recorder48::Recorder48() : file_(folder_.filePath(QStringLiteral("heard.raw"))) {
   recorder_.setStandardOutputFile(file_);
   recorder_.setStandardErrorFile(QProcess::nullDevice());

@@ -71,6 +71,8 @@ class RoomWithMicrophone {
   /// Begins to play samples of one channel, 48000 a second.
   void Say(const std::vector<std::int16_t>& samples);
   void PullMicrophone();
+  /// Whether the microphone gives nothing, though it is there.
+  static void Suspend(bool on);
 
  private:
   QTemporaryDir folder_;

@@ -87,6 +87,7 @@ TEST_F(RecordedSound, IsKeptInAllFormatsAndLeadsToTheNext) {
 }
 
 TEST_F(RecordedSound, EndsWhenAHeldButtonIsLetGo) {
+  room_->Say({});
   QTest::mousePress(&Button("voice_record"), Qt::LeftButton);
   ASSERT_TRUE(Await([this] { return IsLit(); }));
   QTest::mouseRelease(&Button("voice_record"), Qt::LeftButton);
