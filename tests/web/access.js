@@ -96,7 +96,9 @@ for (const [name, size] of Object.entries({ phone: kPhone, tablet: kTablet, wall
 test('the keyboard alone chooses a subject, writes a letter and goes back', async () => {
   const page = await openPage();
   await page.waitForSelector('nav a');
-  await page.keyboard.press('Tab');
+  const isOnSubject = () => page.evaluate(() => document.activeElement.matches('nav a'));
+  // The button that installs the page comes first, where the browser offers that.
+  for (let tabs = 0; tabs < 2 && !(await isOnSubject()); ++tabs) await page.keyboard.press('Tab');
   await page.keyboard.press('Enter');
   await page.waitForSelector('.tiles.engc');
   assert.equal(await page.evaluate(() => document.activeElement.dataset.tile), '1');

@@ -155,11 +155,12 @@ test('a new version takes over as a whole once the old page is closed', async ()
     return { state: next.state, caches: (await caches.keys()).length };
   });
   assert.deepEqual(waiting, { state: 'installed', caches: 2 });
-  await page.goto('about:blank');
-  await page.goto(own.url);
-  await page.waitForSelector('nav a');
-  await page.waitForFunction(async () => (await caches.keys()).join() === 'bramlee-newer', { polling: 100 });
   await page.closeTrial();
+  const later = await openPage({ url: own.url });
+  await later.waitForSelector('nav a');
+  await later.waitForFunction(
+    async () => (await caches.keys()).join() === 'bramlee-newer', { polling: 100 });
+  await later.closeTrial();
   await own.close();
 });
 

@@ -34,7 +34,11 @@ const kTimeout = Number(process.env.WEB_TEST_TIMEOUT_MS ?? 30000);
 const kSandbox = process.getuid?.() === 0 ? ['--no-sandbox'] : [];
 export const browser = await puppeteer.launch({
   executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
-  args: [...kSandbox, '--autoplay-policy=user-gesture-required', '--lang=en'],
+  // One process for all pages: to begin one takes as long as a test.
+  args: [
+    ...kSandbox, '--autoplay-policy=user-gesture-required', '--lang=en',
+    '--renderer-process-limit=1',
+  ],
 });
 export const server = await serve(kWeb);
 after(async () => {
@@ -48,8 +52,7 @@ export async function openPage({
   url = server.url, address = '', size = kTablet, prepare = () => {}, calm = false, languages,
   expected,
 } = {}) {
-  const context = await browser.createBrowserContext();
-  const page = await context.newPage();
+  const page = await browser.newPage();
   page.setDefaultTimeout(kTimeout);
   const wrong = [];
   page.on('console', (message) => {
@@ -64,10 +67,16 @@ export async function openPage({
     }, languages);
   }
   await prepare(page);
+  if (url.startsWith('http')) {
+    const session = await page.createCDPSession();
+    const origin = new URL(url).origin;
+    await session.send('Storage.clearDataForOrigin', { origin, storageTypes: 'local_storage' });
+    await session.detach();
+  }
   await page.goto(url + address);
   await page.waitForSelector('html[data-shows]');
   page.closeTrial = async () => {
-    await context.close();
+    await page.close();
     assert.deepEqual(wrong.filter((text) => !expected?.test(text)), [], 'nothing in the console');
   };
   return page;
