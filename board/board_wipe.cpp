@@ -20,7 +20,7 @@ void Board::ResetToDesign() {
   sheet_->SetBackColor(record_.backColor);
   sheet_->SetForeColor(kPenColour);
   auto* gridColour = Named<QLineEdit>(QStringLiteral("txtgridcolor"));
-  bramlee::SetForeColor(gridColour, 0x00FF0000);
+  bramlee::SetForeColor(gridColour, kRulingColour);
   gridColour->setText(kNo);
   SetText(QStringLiteral("txtspd"), QStringLiteral("0.01"));
   SetText(QStringLiteral("txtdrv"), QStringLiteral("C:"));

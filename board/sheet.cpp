@@ -79,7 +79,7 @@ bool Sheet::MakeReady() {
   // Dots are stamped as large as they are seen: a picture that is scaled would not be sharp.
   const QRectF area = FromSheet().inverted().mapRect(QRectF(rect()));
   const double ratio = devicePixelRatioF() * ScaleOf(this).factor;
-  const QSize size = Planes::SizeOf(area, ratio);
+  const QSize size = Ink::SizeOf(area, ratio);
   if (shown_.size() == size) return ink_.Cover(area, ratio);
   QImage picture(size, QImage::Format_RGB32);
   if (picture.isNull() || !ink_.Cover(area, ratio)) return false;

@@ -1,20 +1,11 @@
-// Colours as the boards and forms name them.
+// Colours as the boards and forms name them, for Qt.
 #pragma once
 
 #include <QColor>
-#include <cstdint>
+
+#include "strokes/colour_words.h"
 
 namespace bramlee {
-
-/// A colour as a word in blue-green-red order: 0x000000FF is red.
-using ColourWord = std::uint32_t;
-
-// The grounds of the boards' sheets.
-inline constexpr ColourWord kCapitalsGround = 0x00FFFFC0;
-inline constexpr ColourWord kGround = 0x00E0E0E0;  ///< of all but the capitals
-
-/// The pen's colour on a fresh sheet: red.
-inline constexpr ColourWord kPenColour = 0x000000FF;
 
 inline QColor ColourOf(ColourWord word) {
   return {static_cast<int>(word & 0xFF), static_cast<int>(word >> 8 & 0xFF),

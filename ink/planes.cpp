@@ -55,42 +55,55 @@ BRAMLEE_WIDE void AddColour(Sums* sums, const std::uint64_t* words, int count, c
   }
 }
 
-QRgb Mixed(const Sums& sums, QRgb ground) {
+/// One of the three parts of a colour: the byte that lies so many bits up.
+int PartOf(std::uint32_t colour, int bits) {
+  return static_cast<int>(colour >> bits & 0xFF);
+}
+
+std::uint32_t Mixed(const Sums& sums, std::uint32_t ground) {
   const int rest = 64 - sums.samples;
-  return qRgb((sums.red + rest * qRed(ground) + 32) / 64,
-              (sums.green + rest * qGreen(ground) + 32) / 64,
-              (sums.blue + rest * qBlue(ground) + 32) / 64);
+  const auto mixed = [&](int sum, int bits) {
+    return static_cast<std::uint32_t>((sum + rest * PartOf(ground, bits) + 32) / 64) << bits;
+  };
+  return 0xFF000000 | mixed(sums.red, 16) | mixed(sums.green, 8) | mixed(sums.blue, 0);
 }
 
 }  // namespace
 
-void Planes::Box::Add(const Box& other) {
+PixelRect PixelRect::Within(const PixelSize& size) const {
+  const int left = std::max(x, 0);
+  const int top = std::max(y, 0);
+  return {left, top, std::min(x + width, size.width) - left,
+          std::min(y + height, size.height) - top};
+}
+
+void Planes::Span::Add(const Span& other) {
   left = std::min(left, other.left);
   top = std::min(top, other.top);
   right = std::max(right, other.right);
   bottom = std::max(bottom, other.bottom);
 }
 
-Planes::Box Planes::Box::Shared(const Box& other) const {
+Planes::Span Planes::Span::Shared(const Span& other) const {
   return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
           std::min(bottom, other.bottom)};
 }
 
-QSize Planes::SizeOf(const QRectF& area, double ratio) {
-  return {static_cast<int>(std::ceil(area.width() * ratio)),
-          static_cast<int>(std::ceil(area.height() * ratio))};
+PixelSize Planes::SizeOf(const Box& area, double ratio) {
+  return {static_cast<int>(std::ceil(area.width * ratio)),
+          static_cast<int>(std::ceil(area.height * ratio))};
 }
 
-Planes::Planes(const QRectF& area, double ratio)
+Planes::Planes(const Box& area, double ratio)
     : stamps_(ratio),
       area_(area),
       size_(SizeOf(area, ratio)),
       margin_(2 * stamps_.Reach() + 1),
-      stride_(size_.width() + margin_ + stamps_.Columns() + 1),
-      rows_(size_.height() + 2 * margin_ + 1),
-      limitX_(size_.width() + margin_),
-      limitY_(size_.height() + margin_),
-      dirty_{margin_, margin_, margin_ + size_.width(), margin_ + size_.height()} {
+      stride_(size_.width + margin_ + stamps_.Columns() + 1),
+      rows_(size_.height + 2 * margin_ + 1),
+      limitX_(size_.width + margin_),
+      limitY_(size_.height + margin_),
+      dirty_{margin_, margin_, margin_ + size_.width, margin_ + size_.height} {
   SetColour(0);
 }
 
@@ -102,7 +115,7 @@ void Planes::SetColour(ColourWord colour) {
   current_ = static_cast<std::size_t>(known - planes_.begin());
   if (known != planes_.end()) return;
   const auto words = static_cast<std::size_t>(rows_) * static_cast<std::size_t>(stride_);
-  planes_.push_back({colour, ZeroWords(words), kEmptyBox});
+  planes_.push_back({colour, ZeroWords(words), kEmptySpan});
 }
 
 void Planes::SetBits(const std::uint64_t* stamp, int column, int row) {
@@ -116,20 +129,20 @@ void Planes::Settle() {
   Plane& current = planes_[current_];
   for (const Plane& plane : planes_) {
     if (&plane == &current) continue;
-    const Box box = unsettled_.Shared(plane.touched);
+    const Span box = unsettled_.Shared(plane.touched);
     for (int row = box.top; row < box.bottom; ++row) {
       TakeOut(RowOf(plane, row) + box.left, RowOf(current, row) + box.left, box.right - box.left);
     }
   }
   current.touched.Add(unsettled_);
   dirty_.Add(unsettled_);
-  unsettled_ = kEmptyBox;
+  unsettled_ = kEmptySpan;
 }
 
 void Planes::Clear() {
   Settle();
   for (Plane& plane : planes_) {
-    const Box box = std::exchange(plane.touched, kEmptyBox);
+    const Span box = std::exchange(plane.touched, kEmptySpan);
     for (int row = box.top; row < box.bottom; ++row) {
       std::fill(RowOf(plane, row) + box.left, RowOf(plane, row) + box.right, 0);
     }
@@ -137,36 +150,40 @@ void Planes::Clear() {
   }
 }
 
-QRect Planes::TakeDirty() {
+PixelRect Planes::TakeDirty() {
   Settle();
-  const Box box = std::exchange(dirty_, kEmptyBox);
+  const Span box = std::exchange(dirty_, kEmptySpan);
   if (box.Empty()) return {};
-  return QRect(box.left - margin_, box.top - margin_, box.right - box.left, box.bottom - box.top)
-      .intersected(QRect(QPoint(), size_));
+  return PixelRect{box.left - margin_, box.top - margin_, box.right - box.left,
+                   box.bottom - box.top}
+      .Within(size_);
 }
 
-void Planes::Compose(QImage& image, const QRect& part) noexcept {
+void Planes::Compose(const Pixels& picture, const PixelRect& part) noexcept {
   Settle();
-  const QRect area = part.intersected(QRect(QPoint(), size_));
-  for (int y = area.top(); y <= area.bottom(); ++y) {
-    auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = area.left(); x <= area.right(); x += kPixelsAtOnce) {
-      ComposePixels(line + x, x, y, std::min(kPixelsAtOnce, area.right() + 1 - x));
+  const PixelRect area = part.Within(size_);
+  const int right = area.x + area.width;
+  for (int y = area.y; y < area.y + area.height; ++y) {
+    for (int x = area.x; x < right; x += kPixelsAtOnce) {
+      ComposePixels(picture.Line(y) + x, x, y, std::min(kPixelsAtOnce, right - x));
     }
   }
 }
 
-void Planes::ComposePixels(QRgb* pixel, int x, int y, int count) const {
+void Planes::ComposePixels(std::uint32_t* pixel, int x, int y, int count) const {
   Sums sums[kPixelsAtOnce];
   std::fill_n(sums, count, Sums{});
   const int left = x + margin_;
-  const Box pixels{left, y + margin_, left + count, y + margin_ + 1};
+  const Span pixels{left, y + margin_, left + count, y + margin_ + 1};
   for (const Plane& plane : planes_) {
-    const Box box = pixels.Shared(plane.touched);
+    const Span box = pixels.Shared(plane.touched);
     if (box.Empty()) continue;
-    const QColor colour = ColourOf(plane.colour);
+    const Sums colour{.red = PartOf(plane.colour, 0),
+                      .green = PartOf(plane.colour, 8),
+                      .blue = PartOf(plane.colour, 16),
+                      .samples = 0};
     AddColour(sums + (box.left - left), RowOf(plane, box.top) + box.left, box.right - box.left,
-              {colour.red(), colour.green(), colour.blue(), 0});
+              colour);
   }
   for (int i = 0; i < count; ++i) {
     if (sums[i].samples != 0) pixel[i] = Mixed(sums[i], pixel[i]);
