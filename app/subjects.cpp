@@ -2,20 +2,27 @@
 
 #include <iterator>
 
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
 
+/// The tile of a letter set.
+constexpr HomeSubject TileOf(const SetLook& look, const char* board, const char* picture) {
+  return {
+      .caption = look.subject, .board = board, .colour = look.subjectColour, .picture = picture};
+}
+
 constexpr HomeSubject kSubjects[] = {
-    {"English:Capital Letters", kCapitalsForm,         0x002828C6, ":/pictures/home/1.jpg"},
-    {"English:Small Letters",   kSmallLettersForm,     0x008A3AAD, ":/pictures/home/2.jpg"},
-    {"Hindi:Wovels",            kHindiVowelsForm,      0x00C06515, ":/pictures/home/3.jpg"},
-    {"Hindi:Consonants",        kHindiConsonantsForm,  0x005C6800, ":/pictures/home/4.jpg"},
-    {"Telugu:Wovels",           kTeluguVowelsForm,     0x009A1B6A, ":/pictures/home/5.jpg"},
-    {"Telugu:Consonants",       kTeluguConsonantsForm, 0x00004C9C, ":/pictures/home/6.jpg"},
-    {"Maths:Numbers",           kMathsForm,            0x00327D2E, ":/pictures/home/7.jpg"},
-    {"Maths:Basics",            nullptr,               0x00444444, nullptr                },
+    TileOf(kCapitalsLook, kCapitalsForm, ":/pictures/home/1.jpg"),
+    TileOf(kSmallLettersLook, kSmallLettersForm, ":/pictures/home/2.jpg"),
+    TileOf(kHindiVowelsLook, kHindiVowelsForm, ":/pictures/home/3.jpg"),
+    TileOf(kHindiConsonantsLook, kHindiConsonantsForm, ":/pictures/home/4.jpg"),
+    TileOf(kTeluguVowelsLook, kTeluguVowelsForm, ":/pictures/home/5.jpg"),
+    TileOf(kTeluguConsonantsLook, kTeluguConsonantsForm, ":/pictures/home/6.jpg"),
+    TileOf(kNumbersLook, kMathsForm, ":/pictures/home/7.jpg"),
+    {"Maths:Basics", nullptr, 0x00444444, nullptr},
 };
 static_assert(std::size(kSubjects) <= kMostSubjects);
 

@@ -3,8 +3,10 @@
 
 #include "assets/letter_path.h"
 #include "assets/pictures.h"
+#include "ink/colours.h"
 #include "letters/letter_names.h"
 #include "letters/letter_sets.h"
+#include "strokes/set_looks.h"
 
 namespace bramlee {
 namespace {
@@ -12,14 +14,19 @@ namespace {
 /// A tile of 60 by 55 logical pixels, four picture pixels to each.
 constexpr QSize kTile(240, 220);
 
+Subject SubjectOf(const SetLook& look, QSize tile, int columns) {
+  return {.letterSet = look.set,
+          .tile = tile,
+          .ink = ColourOf(look.tileInk),
+          .ground = ColourOf(look.tileGround),
+          .columns = columns};
+}
+
 const Subject kSubjects[] = {
-    {"engc", {324, 164}, QColor(0xC62828), QColor(0xFFF6F0), 7 },
-    {"engs", kTile,      QColor(0xAD3A8C), QColor(0xFDF3FA), 7 },
-    {"hinv", kTile,      QColor(0x1565C0), QColor(0xF1F7FE), 7 },
-    {"hinc", kTile,      QColor(0x00695C), QColor(0xEFF9F6), 10},
-    {"telv", kTile,      QColor(0x6A1B9A), QColor(0xF8F2FC), 9 },
-    {"telc", kTile,      QColor(0x9E4A00), QColor(0xFFF7EC), 13},
-    {"mat",  kTile,      QColor(0x2E7D32), QColor(0xF2FAF0), 6 },
+    SubjectOf(kCapitalsLook, {324, 164}, 7), SubjectOf(kSmallLettersLook, kTile, 7),
+    SubjectOf(kHindiVowelsLook, kTile, 7),   SubjectOf(kHindiConsonantsLook, kTile, 10),
+    SubjectOf(kTeluguVowelsLook, kTile, 9),  SubjectOf(kTeluguConsonantsLook, kTile, 13),
+    SubjectOf(kNumbersLook, kTile, 6),
 };
 
 /// The scripts whose letters also stand in print in a corner: strokes alone do not tell all of

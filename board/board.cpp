@@ -17,19 +17,15 @@
 #include "ui/forms.h"
 #include "ui/scale.h"
 #include "ui/screen.h"
+#include "writing/timeline.h"
 
 namespace bramlee {
 namespace {
 
 constexpr int kRuleFlag = 26;  ///< the flag of rule 1 is txtundo(26 + 1)
 
-/// The colours of both colour menus, in their order.
-constexpr ColourWord kMenuColours[] = {0x000000, 0xFF0000, 0x00FF00, 0x0000FF, 0x00FFFF, 0xFFFFFF};
 static_assert(std::size(kMenuColours) == Board::kColours);
-
-/// The steps of the speed menu, as quotients of whole numbers.
-constexpr double kMenuSteps[] = {1.0 / 1000, 2.0 / 500, 3.0 / 100, 4.0 / 50, 5.0 / 25, 6.0 - 5};
-static_assert(std::size(kMenuSteps) == Board::kSpeeds);
+static_assert(std::size(kSpeedSteps) == Board::kSpeeds);
 
 /// Free sheet around what is written or stands at its edge, in sheet pixels.
 constexpr int kEdge = 10;
@@ -245,7 +241,7 @@ void Board::mnuspd_Click(int index) {
 }
 
 void SetSpeed(Board& board, int index) {
-  const double step = EntryOf(kMenuSteps, index);
+  const double step = EntryOf(kSpeedSteps, index);
   board.CheckOnly("mnuspd", Board::kSpeeds, index);
   board.SetText(QStringLiteral("txtspd"), NumberText(step));
 }

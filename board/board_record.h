@@ -15,7 +15,7 @@
 #include <cstdint>
 #include <span>
 
-#include "board/rules.h"
+#include "strokes/rules.h"
 #include "engine/stroke_rec.h"
 #include "ink/colours.h"
 #include "letters/letter_sets.h"

@@ -1,11 +1,10 @@
 // The board of the English capitals.
 #include "board/board.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
-
-constexpr int kGroupStarts[] = {1, 5, 9, 13, 17, 21, 25};
 
 /// A tile's top left corner, in twips.
 struct Corner {
@@ -53,15 +52,15 @@ void LayOut(Board& board) {
 
 const BoardRecord kCapitalsBoard{
     .form = kCapitalsForm,
-    .title = "English Capital Letters",
-    .backColor = kCapitalsGround,
+    .title = kCapitalsLook.title,
+    .backColor = kCapitalsLook.sheet,
     .letterSet = "engc",
     .cueBoardNo = 1,
-    .gridExtent = kCapitalsExtent,
-    .ruleExtent = kCapitalsExtent,
-    .ruleLines = RuleLines::FirstToLast,
-    .rulesComeBack = false,  // on this board a group start never draws the rule again
-    .groupStarts = kGroupStarts,
+    .gridExtent = kCapitalsLook.gridExtent,
+    .ruleExtent = kCapitalsLook.ruleExtent,
+    .ruleLines = kCapitalsLook.ruleLines,
+    .rulesComeBack = kCapitalsLook.rulesComeBack,
+    .groupStarts = kCapitalsLook.groupStarts,
     .strangeTile = "My Mom is Calling.I am going for CHACOLATE",
     .layOut = LayOut,
 };

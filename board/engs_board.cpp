@@ -1,11 +1,10 @@
 // The board of the English small letters.
 #include "board/board.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
-
-constexpr int kGroupStarts[] = {1, 5, 9, 13, 17, 21, 25};
 
 constexpr int kTilesInRow = 4;
 
@@ -23,14 +22,14 @@ void LayOut(Board& board) {
 
 const BoardRecord kSmallLettersBoard{
     .form = kSmallLettersForm,
-    .title = "English Small Letters",
+    .title = kSmallLettersLook.title,
     .letterSet = "engs",
     .cueBoardNo = 2,
     .audioCaption = "Audio",
-    .gridExtent = kSmallExtent,
-    .ruleExtent = kSmallExtent,
-    .ruleLines = RuleLines::FirstToLast,
-    .groupStarts = kGroupStarts,
+    .gridExtent = kSmallLettersLook.gridExtent,
+    .ruleExtent = kSmallLettersLook.ruleExtent,
+    .ruleLines = kSmallLettersLook.ruleLines,
+    .groupStarts = kSmallLettersLook.groupStarts,
     .strangeTile = "My Mom is Calling.I am going for CHACOLATE",
     .layOut = LayOut,
 };

@@ -1,10 +1,9 @@
 // The board of the Hindi consonants: 37 letters in three sets of tiles, of which one is in use.
-#include <array>
-
 #include "board/board.h"
 #include "files/numbers.h"
 #include "files/trap.h"
 #include "letters/letter_sets.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
@@ -12,17 +11,6 @@ namespace {
 
 constexpr const char* kSetNames[kHindiSets] = {"whole letters", "half letters",
                                                "letters with the foot stroke"};
-
-/// The first letters of the groups, in each set.
-constexpr auto kGroupStarts = [] {
-  constexpr int kInSet[] = {1, 5, 6, 10, 11, 15, 16, 20, 21, 25, 26, 30, 34};
-  std::array<int, kHindiSets * std::size(kInSet)> starts{};
-  std::size_t next = 0;
-  for (int set = 1; set <= kHindiSets; ++set) {
-    for (const int letter : kInSet) starts[next++] = FirstHindiTileOf(set) + letter - 1;
-  }
-  return starts;
-}();
 
 int SetInUse(const Board& board) {
   return RoundToInteger(board.FlagOf(QStringLiteral("txtsetno")));
@@ -114,12 +102,12 @@ void DrawAll(Board& board) {
 
 const BoardRecord kHindiConsonantsBoard{
     .form = kHindiConsonantsForm,
-    .title = "Hindi Consonants",
+    .title = kHindiConsonantsLook.title,
     .letterSet = "hinc",
     .cueBoardNo = 4,
     .backItem = "mnuback",
     .audioCaption = "Audio",
-    .groupStarts = kGroupStarts,
+    .groupStarts = kHindiConsonantsLook.groupStarts,
     .strangeTile = "My Friend is Calling.I am going for Ice-Cream",
     .makeOwn = MakeOwn,
     .layOut = LayOut,

@@ -2,12 +2,11 @@
 #include "board/board.h"
 #include "files/numbers.h"
 #include "letters/letter_names.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
-
-constexpr int kGroupStarts[] = {1, 5, 8, 12, 14, 18, 21, 25};
 
 constexpr int kVowels = 13;     ///< tiles of the first row
 constexpr int kLastTile = 36;   ///< tiles behind the vowels and signs are spare and never seen
@@ -76,12 +75,12 @@ void PickSpeed(Board& board, int index) {
 
 const BoardRecord kHindiVowelsBoard{
     .form = kHindiVowelsForm,
-    .title = "Hindi Vowels",
+    .title = kHindiVowelsLook.title,
     .letterSet = "hinv",
     .cueBoardNo = 3,
     .firstTile = kLine,
     .lastTile = kLastTile,
-    .groupStarts = kGroupStarts,
+    .groupStarts = kHindiVowelsLook.groupStarts,
     .strangeTile = "My Dad is Calling.He brings me  Dolls",
     .makeOwn = MakeOwn,
     .layOut = LayOut,

@@ -3,7 +3,7 @@
 
 #include <QRectF>
 
-#include "board/rules.h"
+#include "strokes/rules.h"
 #include "engine/stroke_rec.h"
 #include "letters/letter_sets.h"
 

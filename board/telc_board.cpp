@@ -1,14 +1,11 @@
 // The board of the Telugu consonants.
 #include "board/board.h"
 #include "files/numbers.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
-
-// Tiles 72 to 75 are written beside 71 and never begin a group.
-constexpr int kGroupStarts[] = {1,  5,  6,  9,  12, 13, 15, 16, 17, 18, 22, 23, 26, 29, 30, 34,
-                                35, 36, 39, 40, 44, 45, 49, 52, 56, 57, 61, 62, 63, 66, 67, 71};
 
 constexpr int kSpareTile = 0;  ///< an element of the array without a picture, never seen
 
@@ -36,11 +33,11 @@ void LayOut(Board& board) {
 
 const BoardRecord kTeluguConsonantsBoard{
     .form = kTeluguConsonantsForm,
-    .title = "TELUGU-CONSONANTS",
+    .title = kTeluguConsonantsLook.title,
     .letterSet = "telc",
     .cueBoardNo = 6,
     .firstTile = kSpareTile,
-    .groupStarts = kGroupStarts,
+    .groupStarts = kTeluguConsonantsLook.groupStarts,
     .strangeTile = "My Friend is Calling.I am going for Ice-Cream",
     .makeOwn = MakeOwn,
     .layOut = LayOut,

@@ -1,11 +1,10 @@
 // The board of the Telugu vowels.
 #include "board/board.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
-
-constexpr int kGroupStarts[] = {1, 5, 7, 9, 12, 15, 17, 18, 19, 21, 23, 26, 29, 31, 33, 34, 35, 36};
 
 /// The tiles as they stand on the board: 31 and 32 end its first row.
 constexpr int kReadingOrder[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12,
@@ -47,13 +46,12 @@ void LayOut(Board& board) {
 
 const BoardRecord kTeluguVowelsBoard{
     .form = kTeluguVowelsForm,
-    .title = "TELUGU-VOWELS",
+    .title = kTeluguVowelsLook.title,
     .letterSet = "telv",
     .cueBoardNo = 5,
-    // As on the small letters' sheet, so the rules do not meet the grid of this one.
-    .ruleExtent = kSmallExtent,
-    .ruleLines = RuleLines::FirstToLast,
-    .groupStarts = kGroupStarts,
+    .ruleExtent = kTeluguVowelsLook.ruleExtent,
+    .ruleLines = kTeluguVowelsLook.ruleLines,
+    .groupStarts = kTeluguVowelsLook.groupStarts,
     .strangeTile = "My Mom is Calling.I am going for CHACOLATE",
     .layOut = LayOut,
     .drawOrder = kReadingOrder,

@@ -9,12 +9,11 @@
 #include "maths/maths_menu.h"
 #include "maths/number_box.h"
 #include "maths/tables.h"
+#include "strokes/set_looks.h"
 #include "ui/form_ids.h"
 
 namespace bramlee {
 namespace {
-
-constexpr int kGroupStarts[] = {1, 5, 9, 13, 15};
 
 // Places of the tiles, in twips. The digits in two rows of five, the signs in one row beside
 // them, as high as both rows: their pictures stand below the number box, which is laid over the
@@ -116,11 +115,11 @@ void DrawAll(Board& board) {
 
 const BoardRecord kMathsBoard{
     .form = kMathsForm,
-    .title = "MATHS NUMBERS",
+    .title = kNumbersLook.title,
     .letterSet = "mat",
     .cueBoardNo = 7,
     .backItem = "mnuback",
-    .groupStarts = kGroupStarts,
+    .groupStarts = kNumbersLook.groupStarts,
     .makeOwn = MakeOwn,
     .layOut = LayOut,
     .resetOwn = ForgetPlace,

@@ -12,6 +12,11 @@ namespace bramlee {
 /// that is 1000 sheet pixels of line: a capital takes half a second to a second.
 inline constexpr double kDotsPerSecond = 100'000;
 
+/// The steps of the six speeds, as quotients of whole numbers: the pace is the same, but dots
+/// further apart make a faster pen.
+inline constexpr double kSpeedSteps[] = {1.0 / 1000, 2.0 / 500, 3.0 / 100,
+                                         4.0 / 50,   5.0 / 25,  6.0 - 5};
+
 /// A part of a letter's time, in seconds from the pen's first dot.
 struct TimeSpan {
   double begin = 0;

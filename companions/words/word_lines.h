@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "board/rules.h"
+#include "strokes/rules.h"
 #include "strokes/word.h"
 #include "writing/page.h"
 

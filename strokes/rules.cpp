@@ -1,4 +1,4 @@
-#include "board/rules.h"
+#include "strokes/rules.h"
 
 #include "engine/primitives.h"
 

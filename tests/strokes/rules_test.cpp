@@ -1,8 +1,8 @@
-#include "board/rules.h"
+#include "strokes/rules.h"
 
 #include <gtest/gtest.h>
 
-#include <QString>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,10 +15,10 @@ namespace {
 std::vector<std::string> Calls(const Recorder& recorder) {
   std::vector<std::string> calls;
   for (const RecordedRun& run : recorder.runs) {
-    std::string call = PrimitiveName(run.primitive);
-    for (const double argument : run.arguments)
-      call += " " + QString::number(argument).toStdString();
-    calls.push_back(call);
+    std::ostringstream call;
+    call << PrimitiveName(run.primitive);
+    for (const double argument : run.arguments) call << ' ' << argument;
+    calls.push_back(call.str());
   }
   return calls;
 }
