@@ -100,7 +100,7 @@ void Player::LayRulings() {
   while (FindStroke() && PresentLetter().ruling) WriteStroke();
   const std::size_t next = laid_ ? laid_->end : place_.letter + 1;
   if (next >= page_.Letters().size() || !page_.Letters()[next].ruling) return;
-  if (!laid_) laid_ = {.mark = rewindable_ != nullptr ? rewindable_->Mark() : SurfaceMark{}};
+  if (!laid_) laid_ = Laid{.mark = rewindable_ != nullptr ? rewindable_->Mark() : SurfaceMark{}};
   laid_->end = WriteRulings(next);
 }
 

@@ -21,6 +21,10 @@ enum class TraceLevel : std::uint8_t { Strict, Normal, Gentle, Toddler };
 inline constexpr TraceLevel kTraceLevels[] = {TraceLevel::Strict, TraceLevel::Normal,
                                               TraceLevel::Gentle, TraceLevel::Toddler};
 
+/// Half a corridor is never less than this on a screen, in millimetres: a child's finger or hand
+/// misses by so much on any screen. See Tracer::SetLeastRadius.
+inline constexpr double kLeastRadiusMm = 4;
+
 /// The help that is due after a miss: a touch that is neither Done nor Resume.
 enum class TraceHelp : std::uint8_t {
   None,

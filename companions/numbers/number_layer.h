@@ -5,7 +5,7 @@
 
 #include "board/board_pen.h"
 #include "board/sheet.h"
-#include "companions/numbers/page_numbers.h"
+#include "writing/page_numbers.h"
 
 namespace bramlee {
 

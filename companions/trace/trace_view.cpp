@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "writing/trace_way.h"
+
 namespace bramlee {
 namespace {
 
@@ -15,11 +17,6 @@ constexpr int kPulses = 3;
 constexpr int kRestFrames = 20;         ///< how long a shown stroke stays whole
 constexpr qsizetype kPointsAFrame = 3;  ///< points stand a sheet pixel apart
 constexpr float kShownAlpha = 0.7F;
-
-/// Of an arrow in the middle of a stroke, in sheet pixels.
-constexpr double kArrowFrom = 4;
-constexpr double kArrowLength = 26;
-constexpr double kArrowAside = 16;
 
 QPolygonF LineOf(std::span<const Point> points) {
   QPolygonF line;
@@ -34,19 +31,6 @@ QColor Pale(const QColor& colour, const QColor& ground) {
   };
   return {mixed(colour.red(), ground.red()), mixed(colour.green(), ground.green()),
           mixed(colour.blue(), ground.blue())};
-}
-
-/// In the middle of a stroke an arrow alone, on the side away from the hand.
-StrokeNumber SignAt(std::span<const Point> rest, Hand hand) {
-  StrokePath path{
-      .points = {rest.begin(), rest.end()}
-  };
-  for (std::size_t i = 1; i < rest.size(); ++i)
-    path.length += DistanceBetween(rest[i - 1], rest[i]);
-  const double aside = hand == Hand::Left ? kArrowAside : -kArrowAside;
-  StrokeNumber sign;
-  sign.arrow = ArrowAlong(path, {.from = kArrowFrom, .length = kArrowLength, .aside = aside});
-  return sign;
 }
 
 }  // namespace
@@ -74,11 +58,12 @@ void TraceView::HideGuide() {
 void TraceView::ShowWay(const Tracer& tracer, int number, const StrokeNumber& sign, Hand hand) {
   if (tracer.IsFinished()) return HideWay();
   const std::span<const Point> points = tracer.Strokes()[tracer.Stroke()].points;
-  const auto last = static_cast<double>(points.size() - 1);
-  const auto rest = points.subspan(static_cast<std::size_t>(std::lround(tracer.Progress() * last)));
+  const std::span<const Point> rest = RestOfStroke(tracer);
   const bool atStart = rest.size() == points.size();
-  marks_.SetWay(TraceMarks::Way{
-      .rest = LineOf(rest), .number = number, .sign = atStart ? sign : SignAt(rest, hand)});
+  const StrokeNumber here{
+      .centre = {}, .radius = 0, .arrow = ArrowToGoOn(rest, hand), .clean = false};
+  marks_.SetWay(
+      TraceMarks::Way{.rest = LineOf(rest), .number = number, .sign = atStart ? sign : here});
   sheet_.update();
 }
 

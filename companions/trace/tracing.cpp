@@ -18,8 +18,6 @@ const QString kLeftHand = QString::fromLatin1(kLeftHandChoice);
 const QString kByClicks = QStringLiteral("trace/byClicks");
 const QString kGiven = QStringLiteral("trace/given");
 
-/// A child's finger or hand misses by so much on any screen.
-constexpr double kLeastRadiusMm = 4;
 constexpr double kMmPerInch = 25.4;
 constexpr double kUsualDpi = 96;
 constexpr double kLeastDpi = 40;  ///< some screens report nonsense

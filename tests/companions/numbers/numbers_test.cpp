@@ -11,7 +11,7 @@
 
 #include "board/companions.h"
 #include "companions/numbers/number_layer.h"
-#include "companions/numbers/page_numbers.h"
+#include "writing/page_numbers.h"
 #include "ink/stroke_signs.h"
 #include "tests/board/board_fixture.h"
 #include "ui/choices.h"

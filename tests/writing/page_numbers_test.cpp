@@ -1,5 +1,5 @@
 // Which numbers stand over the letters of a page.
-#include "companions/numbers/page_numbers.h"
+#include "writing/page_numbers.h"
 
 #include <gtest/gtest.h>
 

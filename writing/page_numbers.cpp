@@ -1,4 +1,4 @@
-#include "companions/numbers/page_numbers.h"
+#include "writing/page_numbers.h"
 
 #include <algorithm>
 #include <cmath>
