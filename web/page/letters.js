@@ -3,15 +3,11 @@
 
 import { inflate } from './inflate.js';
 
-// Filled in by ./web/build in the page that has everything inside.
-const wasmInside = '';
-
 /** Loads the letters from beside the page, or from within it. Rejects with an Error when that
  * fails or the browser has no WebAssembly. */
 export async function openLetters() {
-  if (wasmInside !== '') {
-    return loadLetters(Uint8Array.from(atob(wasmInside), (c) => c.charCodeAt(0)));
-  }
+  const inside = globalThis.bramleeCode;
+  if (inside) return loadLetters(Uint8Array.from(atob(inside), (c) => c.charCodeAt(0)));
   const integrity = '/*WASM_INTEGRITY*/';
   const answer = await fetch('letters.wasm.gz', integrity.startsWith('sha') ? { integrity } : {});
   if (!answer.ok) throw new Error(`letters.wasm.gz: ${answer.status} ${answer.statusText}`);
