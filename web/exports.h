@@ -51,8 +51,8 @@ BRAMLEE_EXPORT(letterOfTile) int LetterOfTile(int set, int tile, int forms, int 
 /// width and how many letters, then for each letter first stroke, strokes, left, right. Text: a
 /// list of {letters, leftOut}, one a line.
 BRAMLEE_EXPORT(layText) void LayText(int bytes, double width, int headPerLetter, double step);
-/// Sets the text on a set's sheet as large as it fits. Numbers: for each line handle, scale, right,
-/// down. Text: a list of what was left out.
+/// Sets the text on a set's sheet as large as it fits. Numbers: handle of the lines as one letter,
+/// scale, right, down; none when nothing can be written. Text: a list of what was left out.
 BRAMLEE_EXPORT(setText) void SetTextOn(int set, int bytes, int headPerLetter, double step);
 BRAMLEE_EXPORT(freeLetter) void FreeLetter(int letter);
 

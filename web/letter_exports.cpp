@@ -155,12 +155,10 @@ void SetTextOn(int set, int bytes, int headPerLetter, double step) {
   const WordRoom room{.around = look->ruleExtent, .head = lines.bodyTop, .base = lines.base};
   SetText text = SetWords(TextOf(bytes), OptionsOf(headPerLetter, step), room, kPenColour);
   result.text = LeftOutAsJson(text.leftOut);
-  for (PlacedLetter& line : text.lines) {
-    result.Add(Shelved(std::move(line.letter)));
-    result.Add(line.placing.scale);
-    result.Add(line.placing.right);
-    result.Add(line.placing.down);
-  }
+  if (!text.letter) return;
+  const Placing& placing = text.letter->placing;
+  result.Add(Shelved(std::move(text.letter->letter)));
+  for (const double each : {placing.scale, placing.right, placing.down}) result.Add(each);
 }
 
 void FreeLetter(int letter) {

@@ -177,7 +177,7 @@ class Letters {
   }
 
   /** A text where the program puts it on a set's sheet: a list of {letter, scale, right, down} with
-   * a property leftOut. */
+   * a property leftOut. All lines are one letter; the list is empty when nothing can be written. */
   setWords(set, text, { headLine = 'once', step = this.usualStep } = {}) {
     const { calls_: calls } = this;
     const index = this.sets.findIndex(({ name }) => name === (set.name ?? set));
