@@ -26,7 +26,7 @@ function replaced(text, part, by) {
 
 /** A text through esbuild, or a file of web/page/ with all modules that it imports. */
 function small(kind, { text, file }) {
-  const target = ['--minify', '--charset=utf8', '--target=es2020', '--log-level=warning'];
+  const target = ['--minify', '--mangle-props=_$', '--charset=utf8', '--target=es2020', '--log-level=warning'];
   const source = file ? [file, '--bundle', '--format=iife'] : [`--loader=${kind}`];
   return execFileSync('esbuild', [...source, ...target], { cwd: kPage, input: text, encoding: 'utf8' });
 }

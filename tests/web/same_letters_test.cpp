@@ -131,7 +131,7 @@ TEST_P(SameDots, SweepOfEveryLetter) {
   ExpectSame(AllDots(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Steps, SameDots, testing::Values("0.01", "0.03", "1"));
+INSTANTIATE_TEST_SUITE_P(Steps, SameDots, testing::Values("0.01", "0.2", "1"));
 
 TEST(SameLetters, DotsOfTheFirstLetterOfEachSet) {
   std::vector<Question> questions;
