@@ -4,6 +4,7 @@
 #include <QMediaDevices>
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <exception>
+#include <memory>
 #include <utility>
 
 #include "files/file_group.h"
@@ -170,8 +171,7 @@ QString OwnSounds::Keep(const QString& sound, const SpeechWave& cue) const {
     for (const QString& format : Formats()) {
       if (format != kWav) encoding.made << group.PlaceFor(QStringLiteral("new.") + format);
     }
-    const QString trouble =
-        EncoderTrouble().isEmpty() ? EncodeSounds({encoding}) : EncoderTrouble();
+    QString trouble = EncoderTrouble().isEmpty() ? EncodeSounds({encoding}) : EncoderTrouble();
     if (!trouble.isEmpty()) return trouble;
 
     group.Put(QStringLiteral("recording"), recording);

@@ -1,6 +1,7 @@
 #include "companions/voice/voice_window.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -8,6 +9,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
+#include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <utility>
 

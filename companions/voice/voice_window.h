@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QTemporaryDir>
+#include <functional>
 
 #include "companions/voice/sound_list.h"
 #include "companions/voice/sounds_work.h"
