@@ -109,6 +109,7 @@ TEST_F(OwnSoundsTest, TheMakersFileIsKeptAsideOnce) {
 TEST_F(OwnSoundsTest, GivenBackWhereTheMakerMadeNoneLeavesNone) {
   const OwnSounds own = Own();
   EXPECT_EQ(own.Keep(kB, Cue()), QString());
+  EXPECT_EQ(own.Keep(kB, Cue(12000)), QString());
   EXPECT_EQ(own.Of(kB), VoiceOf::Own);
   EXPECT_EQ(own.GiveBack(kB), QString());
   EXPECT_EQ(own.Of(kB), VoiceOf::Nobody);
