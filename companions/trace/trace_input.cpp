@@ -17,9 +17,8 @@ constexpr qint64 kStylusGoneMs = 500;
 /// A finger touches with less than this, a palm with more; in logical pixels, about 20 mm.
 constexpr double kPalmPixels = 76;
 
-bool IsPalm(const QEventPoint& point) {
-  const QSizeF size = point.ellipseDiameters();
-  return std::max(size.width(), size.height()) > kPalmPixels;
+bool IsPalm(const TouchPoint& point) {
+  return std::max(point.diameters.width(), point.diameters.height()) > kPalmPixels;
 }
 
 }  // namespace
@@ -147,22 +146,29 @@ bool TraceInput::OnTouch(const QTouchEvent& event) {
     return true;
   }
   for (const QEventPoint& point : event.points()) {
-    if (point.state() == QEventPoint::Pressed && !down_ && !finger_ && !StylusIsNear() &&
-        !IsPalm(point)) {
-      finger_ = point.id();
-      Press(point.position());
-    } else if (finger_ == point.id()) {
-      if (IsPalm(point)) {
-        Drop();  // the hand has come to rest on it
-      } else if (point.state() == QEventPoint::Released) {
-        pen_.move(point.position());
-        Lift();
-      } else if (point.state() == QEventPoint::Updated) {
-        pen_.move(point.position());
-      }
-    }
+    Take({.id = point.id(),
+          .state = point.state(),
+          .place = point.position(),
+          .diameters = point.ellipseDiameters()});
   }
   return true;
+}
+
+void TraceInput::Take(const TouchPoint& point) {
+  if (point.state == QEventPoint::Pressed && !down_ && !finger_ && !StylusIsNear() &&
+      !IsPalm(point)) {
+    finger_ = point.id;
+    Press(point.place);
+  } else if (finger_ == point.id) {
+    if (IsPalm(point)) {
+      Drop();  // the hand has come to rest on it
+    } else if (point.state == QEventPoint::Released) {
+      pen_.move(point.place);
+      Lift();
+    } else if (point.state == QEventPoint::Updated) {
+      pen_.move(point.place);
+    }
+  }
 }
 
 bool TraceInput::OnTablet(const QTabletEvent& event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QEventPoint>
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
@@ -23,6 +24,14 @@ struct PenHandlers {
   std::function<void()> cancel;  ///< the touch was none: a palm, or its end was lost
 };
 
+/// One finger or palm on a touch screen.
+struct TouchPoint {
+  int id = 0;
+  QEventPoint::State state = QEventPoint::Unknown;
+  QPointF place;
+  QSizeF diameters;  ///< of what touches, in logical pixels; empty where the screen does not say
+};
+
 /// While on, takes what mouse, finger and stylus do on a widget and hands it over as one pen. The
 /// first finger counts alone; a palm and further fingers change nothing. While a stylus is near,
 /// and for half a second after, fingers are ignored. Only the left button writes, also with another
@@ -39,6 +48,8 @@ class TraceInput : public QObject {
   /// Writing by click, move, click instead of dragging.
   void SetByClicks(bool byClicks);
   bool IsDown() const { return down_; }
+  /// What one point of a touch does. Touch events on the widget come here by themselves.
+  void Take(const TouchPoint& point);
   /// Lifts the pen, if it is down.
   void Lift();
 

@@ -38,6 +38,15 @@ class OnePen : public testing::Test {
   void MoveMouse(QPoint place, Qt::MouseButtons buttons = Qt::LeftButton) {
     Mouse(QEvent::MouseMove, place, Qt::NoButton, buttons);
   }
+  /// What a touch screen says of one point that is so wide, in pixels.
+  void Touch(QEventPoint::State state, QPointF place, double wide, int id = 1) {
+    input.Take({
+        .id = id, .state = state, .place = place, .diameters = {wide, wide}
+    });
+  }
+  static constexpr double kFinger = 40;
+  static constexpr double kPalm = 120;
+
   void Tablet(QEvent::Type type, QPointF place, Qt::MouseButton button = Qt::LeftButton) {
     QTabletEvent event(type, &stylus, place, widget.mapToGlobal(place), 1, 0, 0, 0, 0, 0,
                        Qt::NoModifier, button, Qt::LeftButton);
@@ -137,6 +146,29 @@ TEST_F(OnePen, FurtherFingersChangeNothing) {
   QTest::touchEvent(&widget, finger).move(1, {12, 22}, &widget).release(2, {95, 95}, &widget);
   EXPECT_EQ(log.find("9"), std::string::npos) << log;
   EXPECT_EQ(log.find("up"), std::string::npos) << log;
+}
+
+TEST_F(OnePen, APalmWritesNothing) {
+  Touch(QEventPoint::Pressed, {10, 20}, kPalm);
+  Touch(QEventPoint::Updated, {12, 22}, kPalm);
+  Touch(QEventPoint::Released, {12, 22}, kPalm);
+  EXPECT_EQ(log, "");
+}
+
+TEST_F(OnePen, AFingerWritesBesideAPalm) {
+  Touch(QEventPoint::Pressed, {90, 90}, kPalm, 7);
+  Touch(QEventPoint::Pressed, {10, 20}, kFinger);
+  Touch(QEventPoint::Updated, {95, 95}, kPalm, 7);
+  Touch(QEventPoint::Released, {12, 22}, kFinger);
+  EXPECT_EQ(log, "down 10,20; move 12,22; up; ");
+}
+
+TEST_F(OnePen, AFingerThatBecomesAPalmTakesItsTouchBack) {
+  Touch(QEventPoint::Pressed, {10, 20}, kFinger);
+  Touch(QEventPoint::Updated, {12, 22}, kPalm);
+  Touch(QEventPoint::Updated, {14, 24}, kFinger);
+  Touch(QEventPoint::Released, {14, 24}, kFinger);
+  EXPECT_EQ(log, "down 10,20; cancel; ");
 }
 
 TEST_F(OnePen, ACancelledTouchIsNone) {
