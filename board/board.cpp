@@ -175,7 +175,11 @@ void Board::BringIntoView(const StrokeRec& rec) {
   // A letter that cannot be written is found out when its turn to be written comes.
   Trap(QStringLiteral("brd:12"),
        [&](ErrInfo&) { reach = ReachOf(ProgramFor(rec), rec).toAlignedRect(); });
-  if (reach.isEmpty()) return;
+  if (!reach.isEmpty()) BringIntoView(reach);
+}
+
+void Board::BringIntoView(QRect reach) {
+  if (fitsWindow_) return;
   reach.adjust(-kEdge, -kEdge, kEdge, kEdge);
   // Of a letter larger than the window its beginning counts: the top left.
   reach.setSize(reach.size().boundedTo(scroller_->viewport()->size()));

@@ -97,6 +97,10 @@ class Board : public Form {
   /// where the window is smaller. While the board fits its window, gives it the scale for that.
   void FitSheet();
 
+  /// Scrolls to that part of the sheet (sheet pixels), or to the beginning of one that is larger
+  /// than the window. Does nothing while the board fits its window.
+  void BringIntoView(QRect reach);
+
   /// From now on the whole board is scaled so that it fills the window and nothing scrolls, or it
   /// stands as designed again; as it does at first. Also while a letter is written.
   void SetFitsWindow(bool on);

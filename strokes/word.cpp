@@ -8,20 +8,23 @@
 #include "strokes/word_ink.h"
 
 namespace bramlee {
+
+/// What a text is laid from: a letter with its signs, a blank, or a character that is left out.
+struct WordPiece {
+  Cluster cluster{};
+  std::string text{};
+  bool blank = false;
+};
+
 namespace {
+
+using Piece = WordPiece;
 
 /// The room of a blank: half a letter, as one leaves between words in writing.
 constexpr double kBlank = 75;
 
 /// Two reaches of a head line that come so near are one.
 constexpr double kSameLine = 1;
-
-/// What a text is laid from: a letter with its signs, a blank, or a character that is left out.
-struct Piece {
-  Cluster cluster{};
-  std::string text{};
-  bool blank = false;
-};
 
 constexpr bool IsBlank(char32_t code) {
   return code == U' ' || (code >= U'\t' && code <= U'\r') || code == 0xA0 ||
@@ -179,10 +182,35 @@ Word LayWord(std::string_view text, const WordOptions& options) {
 }
 
 std::vector<Word> LayLines(std::string_view text, double width, const WordOptions& options) {
-  const std::vector<Piece> pieces = PiecesOf(text);
+  return WordText(text).Lay(width, options);
+}
+
+WordText::WordText(std::string_view text)
+    : pieces_(std::make_shared<const std::vector<WordPiece>>(PiecesOf(text))) {}
+
+std::size_t WordText::CountLines(double width) const {
+  std::size_t count = 0;
+  Breaker breaker(*pieces_, width);
+  while (!breaker.AtEnd()) {
+    const std::span<const Piece> line = breaker.Next();
+    if (std::ranges::any_of(line,
+                            [](const Piece& piece) { return piece.cluster.ink.Strokes() > 0; })) {
+      ++count;
+    }
+  }
+  return std::max<std::size_t>(count, 1);
+}
+
+double WordText::Width() const {
+  double width = 0;
+  for (const Piece& piece : WithoutOuterBlanks(*pieces_)) width += piece.cluster.width;
+  return width;
+}
+
+std::vector<Word> WordText::Lay(double width, const WordOptions& options) const {
   std::vector<Word> lines;
   std::vector<LeftOut> leftOut;
-  Breaker breaker(pieces, width);
+  Breaker breaker(*pieces_, width);
   while (!breaker.AtEnd()) {
     const std::span<const Piece> onIt = breaker.Next();
     Word line = Line(options).Lay(WithoutOuterBlanks(onIt));

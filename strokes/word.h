@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -67,6 +68,24 @@ Word LayWord(std::string_view text, const WordOptions& options = {});
 /// own. A line without strokes is left out, but its left-out characters go with the next one, or
 /// the last. At least one line.
 std::vector<Word> LayLines(std::string_view text, double width, const WordOptions& options = {});
+
+struct WordPiece;
+
+/// A text read once, to be laid on lines of several widths.
+class WordText {
+ public:
+  explicit WordText(std::string_view text);
+
+  /// How many lines Lay() gives at that width.
+  std::size_t CountLines(double width) const;
+  /// The room that it takes on one line.
+  double Width() const;
+  /// As LayLines.
+  std::vector<Word> Lay(double width, const WordOptions& options = {}) const;
+
+ private:
+  std::shared_ptr<const std::vector<WordPiece>> pieces_;  ///< never null
+};
 
 /// Lines as one letter, each `pitch` sheet pixels below the one before: all that is written, in
 /// writing order. The first one's own sheet is that of the whole. Without lines it has no runs.

@@ -36,16 +36,14 @@ SetText SetWords(std::string_view text, const WordOptions& options, const WordRo
   const double width = room.around.right - room.around.left;
   const double height = room.around.bottom - room.around.top;
   double scale = Scaled(room);
-  std::vector<Word> lines = LayLines(text, width / scale, options);
+  const WordText words(text);
   const double least = scale * kSmallest;
   const auto fits = [&] {
-    return lines.size() == 1 ? lines[0].width * scale <= width
-                             : HeightOf(lines.size(), scale) <= height;
+    const std::size_t lines = words.CountLines(width / scale);
+    return lines == 1 ? words.Width() * scale <= width : HeightOf(lines, scale) <= height;
   };
-  while (!fits() && scale > least) {
-    scale *= kSmaller;
-    lines = LayLines(text, width / scale, options);
-  }
+  while (!fits() && scale > least) scale *= kSmaller;
+  const std::vector<Word> lines = words.Lay(width / scale, options);
   SetText set;
   for (const Word& line : lines) {
     set.leftOut.insert(set.leftOut.end(), line.leftOut.begin(), line.leftOut.end());

@@ -1,6 +1,7 @@
 #include "companions/words/words.h"
 
 #include <QShortcut>
+#include <algorithm>
 #include <utility>
 
 #include "board/board.h"
@@ -31,14 +32,33 @@ QIcon WordsPicture() {
   });
 }
 
+/// A word keeps so far from the window's edge, in sheet pixels.
+constexpr double kEdge = 10;
+/// In a window narrower or lower than this a word goes beyond its edge: it would be too small.
+constexpr double kLeastRoom = 300;
+
+/// The rules' part of the sheet as far as the window shows it, once the beginning is in view.
+SheetExtent SeenRoom(Board& board) {
+  SheetExtent room = board.record().ruleExtent;
+  const Sheet& sheet = board.sheet();
+  if (!sheet.isVisible()) return room;
+  board.BringIntoView(
+      QRectF(QPointF(room.left, room.top), QPointF(room.right, room.bottom)).toAlignedRect());
+  const QRectF view(sheet.parentWidget()->rect().translated(-sheet.pos()));
+  const QRectF seen = sheet.FromSheet().inverted().mapRect(view);
+  room.right =
+      std::clamp(seen.right() - kEdge, std::min(room.left + kLeastRoom, room.right), room.right);
+  room.bottom =
+      std::clamp(seen.bottom() - kEdge, std::min(room.top + kLeastRoom, room.bottom), room.bottom);
+  return room;
+}
+
 /// Words stand where the board's own letters do: their capitals are as high as its capitals, or as
 /// its tall small letters.
-WordRoom RoomOn(const Board& board) {
+WordRoom RoomOn(Board& board) {
   const WritingLines lines = WritingLinesOf(board.letters().name);
   const bool small = board.letters().sheet == SheetKind::SmallLetters;
-  return {.around = board.record().ruleExtent,
-          .head = small ? lines.top : lines.bodyTop,
-          .base = lines.base};
+  return {.around = SeenRoom(board), .head = small ? lines.top : lines.bodyTop, .base = lines.base};
 }
 
 /// One a board.
@@ -70,6 +90,11 @@ class WordWriting : public QObject {
   void WriteMyName() {
     const QString name = HolderOfCard().name;
     if (name.isEmpty()) return panel_->Say(QStringLiteral("The card has no name on it yet."));
+    // The card holds "?" for each letter that its code page lacks.
+    const auto isLetter = [](QChar character) { return character.isLetter(); };
+    if (name.contains(u'?') && std::ranges::none_of(name, isLetter)) {
+      return panel_->Say(QStringLiteral("The card cannot hold the letters of the name: type it."));
+    }
     panel_->SetText(name);
     Write();
   }

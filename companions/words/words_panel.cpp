@@ -19,6 +19,7 @@ constexpr int kWidth = 620;
 constexpr int kTextPixels = 26;  ///< large enough to see which signs a letter has
 constexpr int kTextHeight = 60;  ///< signs above and below a letter have room
 constexpr qsizetype kMostNamed = 6;
+constexpr int kBelow = 110;  ///< its title bar, the strip and the scroll bar of its board
 
 QCheckBox* PerLetterBox(QWidget* panel) {
   auto* box = new QCheckBox(QStringLiteral("&Head line over each letter"), panel);
@@ -76,10 +77,9 @@ WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::functio
 
 void WordsPanel::Present() {
   resize(std::min(kWidth, parentWidget()->width()), sizeHint().height());
-  const int menuHeight = 2 * fontMetrics().height();
   const QRect board(parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size());
   move(board.center().x() - width() / 2,
-       board.top() + menuHeight);  // over the tiles: the sheet stays free
+       board.bottom() - height() - kBelow);  // the sheet is above, on every board
   show();
   raise();
   activateWindow();

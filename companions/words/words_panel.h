@@ -20,7 +20,7 @@ class WordsPanel : public QWidget {
   /// the line, `writeMy` when My name was.
   WordsPanel(QWidget* board, std::function<void()> write, std::function<void()> writeMy);
 
-  /// Comes into view at the upper edge of its board, ready to type in.
+  /// Comes into view above the strip of its board, ready to type in.
   void Present();
 
   QString Text() const { return text_->text(); }

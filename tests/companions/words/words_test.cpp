@@ -126,6 +126,21 @@ TEST_F(WordsTest, GoesBackAndBeginsAgainThroughAllLines) {
   EXPECT_EQ(DotsOn(board), dots);
 }
 
+TEST_F(WordsTest, KeepsWithinANarrowWindow) {
+  Board& board = Open("fbrmengc02");
+  board.show();
+  board.resize(900, 700);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&board));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return board.sheet().parentWidget()->width() <= 900; }));
+  Write(board, "Lakshminarayana");
+  const PlacedLetter& word = board.pen().Letters().Letters()[0];
+  const Box& box = word.letter.Bounds();
+  const double right = (box.x + box.width) * word.placing.scale + word.placing.right;
+  const QWidget* view = board.sheet().parentWidget();
+  EXPECT_LT(right + board.sheet().x(), view->width());
+  EXPECT_GE(word.placing.right + board.sheet().x(), 0);
+}
+
 TEST_F(WordsTest, NamesWhatIsLeftOutAndWritesTheRest) {
   Board& board = Open("fbrmengc02");
   Write(board, "Zoé é \U0001F600");
@@ -168,6 +183,18 @@ TEST_F(WordsTest, SaysWhenTheCardHasNoName) {
   Press(board, "words_my_name");
   EXPECT_EQ(Said(board), Q("The card has no name on it yet."));
   EXPECT_EQ(LettersOn(board), 0U);
+}
+
+TEST_F(WordsTest, AsksForANameWhoseLettersTheCardCannotHold) {
+  Board& board = Open("fbrmhinc01");
+  NameCard("राधा");
+  Press(board, "words_my_name");
+  EXPECT_EQ(Said(board), Q("The card cannot hold the letters of the name: type it."));
+  EXPECT_EQ(LettersOn(board), 0U);
+  NameCard("Zoë");
+  Press(board, "words_my_name");
+  EXPECT_EQ(LettersOn(board), 1U);
+  EXPECT_TRUE(Said(board).contains(Q("U+00EB"))) << "written without it, and said";
 }
 
 TEST_F(WordsTest, DrawsTheHeadLineOverEachLetterWhereChosen) {
