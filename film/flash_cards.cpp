@@ -85,9 +85,11 @@ void PaintSteps(QPainter& painter, const LetterFilm& film, const QRectF& place) 
   const int rows = (steps + grid.columns - 1) / grid.columns;
   const double top = place.center().y() - rows * grid.height / 2;
   for (int i = 0; i < steps; ++i) {
-    PaintStep(painter, film, static_cast<std::size_t>(i),
-              {place.left() + i % grid.columns * grid.width,
-               top + static_cast<double>(i / grid.columns) * grid.height, grid.width, grid.height});
+    const int row = i / grid.columns;
+    const int column = i % grid.columns;
+    PaintStep(
+        painter, film, static_cast<std::size_t>(i),
+        {place.left() + column * grid.width, top + row * grid.height, grid.width, grid.height});
   }
 }
 
