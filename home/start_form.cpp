@@ -21,13 +21,13 @@ namespace {
 constexpr int kLines = 3;
 constexpr int kLastPass = 170;  ///< after this tick the passing lines begin anew
 
-struct TitleLine {
+struct WelcomeLine {
   const char* caption;
   const char* font;
   ColourWord colour;
 };
 
-constexpr TitleLine kTitle[kLines] = {
+constexpr WelcomeLine kWelcome[kLines] = {
     {"Welcome to ",    "Times New Roman", 0x00A0400D}, // deep blue
     {"Online System ", "Times New Roman", 0x005B18AD}, // raspberry
     {"BRAM-LEE",       "MS Serif",        0x00004FBF}, // warm orange brown
@@ -40,7 +40,7 @@ StartForm::StartForm() : Form(kStartForm, Kind::FrameChild) {
   SetClient(new StartGround(0x00C0FFC0, this));
   client()->setCursor(Qt::PointingHandCursor);
   for (int i = 0; i < kLines; ++i) {
-    const TitleLine& line = kTitle[i];
+    const WelcomeLine& line = kWelcome[i];
     auto* label = new MovingLine(QString::fromLatin1(line.caption), client());
     label->setObjectName(Indexed("lblsta", i));
     label->setAlignment(Qt::AlignCenter);
@@ -97,7 +97,7 @@ void StartForm::LayOut() {
                   .width = 50 * w,
                   .height = 18 * h});
   for (int i = 0; i < kLines; ++i) {
-    QFont font(QString::fromLatin1(kTitle[i].font));
+    QFont font(QString::fromLatin1(kWelcome[i].font));
     font.setStyleHint(QFont::Serif);
     font.setBold(true);
     FitFont(Line(i), font, Line(i)->size());

@@ -15,17 +15,17 @@ namespace bramlee {
 namespace {
 
 constexpr ColourWord kPaleYellow = 0x80FFFF;
-constexpr ColourWord kRed = 0xFF;
+constexpr ColourWord kWrongRow = 0xFF;  // red
 
 // Sizes of the row, in twips: the whole row fits a screen of 1024 pixels.
 constexpr double kGap = 200;
 constexpr double kRowHeight = 900;
 constexpr double kOperandWidth = 2250;
-constexpr double kSignWidth = 900;
+constexpr double kEqualsWidth = 900;
 constexpr double kResultWidth = 6000;
 
 /// The operands' letters, in pixels: to be read at arm's length.
-constexpr int kLetterPixels = 30;
+constexpr int kFigurePixels = 30;
 
 struct Drill {
   const char* item;
@@ -60,7 +60,7 @@ Combo* AddOperand(Board& board, const QString& name, const QString& accessibleNa
   box->setCurrentIndex(-1);
   box->setEditText(QStringLiteral("0"));
   QFont font = box->font();
-  font.setPixelSize(kLetterPixels);
+  font.setPixelSize(kFigurePixels);
   SetDesignFont(box, font);
   box->setAccessibleName(accessibleName);
   SetBackColor(box, kPaleYellow);
@@ -174,11 +174,11 @@ void MakeDrillRow(Board& board) {
   const double top = PlaceOf(board.Tile(1)).top;
   Place(first, {.left = 600, .top = top, .width = kOperandWidth, .height = kRowHeight});
   Place(second, {.left = 600, .top = top, .width = kOperandWidth, .height = kRowHeight});
-  Place(equals, {.left = 600, .top = top, .width = kSignWidth, .height = kRowHeight});
+  Place(equals, {.left = 600, .top = top, .width = kEqualsWidth, .height = kRowHeight});
   Place(result, {.left = 4550, .top = top, .width = kResultWidth, .height = kRowHeight});
   for (int sign = kPlus; sign <= kPerCent; ++sign) {
     Place(SignPicture(board, sign),
-          {.left = 600, .top = top, .width = kSignWidth, .height = kRowHeight});
+          {.left = 600, .top = top, .width = kEqualsWidth, .height = kRowHeight});
   }
   QObject::connect(equals, &PictureBox::clicked, &board, [&board] { CalcResult(board); });
 }
@@ -200,7 +200,7 @@ void CalcResult(Board& board) {
     SetBackColor(SecondOperand(board), kPaleYellow);
     const Operands row = ReadOperands(board);
     if (row.wrong != nullptr) {
-      SetBackColor(row.wrong, kRed);
+      SetBackColor(row.wrong, kWrongRow);
       MsgBox(QStringLiteral("Enter Number"));
     }
     if (IsInfinite(sign, row.a, row.b)) return MsgBox(QStringLiteral("Infinity"));

@@ -50,12 +50,12 @@ class PdfReader {
   /// Where an object begins; -1 for one that the table does not have. The table is one part, and
   /// each line of it 20 bytes, as the format has them.
   int PlaceOf(int number) const {
-    constexpr qsizetype kLine = 20;
+    constexpr qsizetype kTableLine = 20;
     constexpr char kHead[] = "xref\n0 ";
     if (number < 0 || table_ < 0 || pdf_.mid(table_, 7) != kHead) return -1;
     const auto lines = pdf_.indexOf('\n', table_ + 7) + 1;
     if (lines == 0 || number >= NumberBehind(pdf_.mid(table_, 40), kHead)) return -1;
-    return pdf_.mid(lines + number * kLine, 10).toInt();
+    return pdf_.mid(lines + number * kTableLine, 10).toInt();
   }
 
   QByteArray pdf_;

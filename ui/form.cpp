@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "ui/forms.h"
+#include "ui/held_input.h"
 #include "ui/screen.h"
 
 namespace bramlee {
@@ -180,8 +181,6 @@ void Form::PutOnBar(QAction* item) {
 }
 
 namespace {
-
-constexpr int kLookAgainMs = 50;
 
 /// A handler that shows a message box waits in an event loop of its own. What is let go by
 /// another event meanwhile may be what the waiting handler stands on: it stays until that loop

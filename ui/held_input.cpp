@@ -29,8 +29,6 @@ QT_END_NAMESPACE
 namespace bramlee {
 namespace {
 
-constexpr int kLookAgainMs = 50;
-
 /// Something that waits, as values: a clone of a mouse event would share its point with events
 /// to come, and lie elsewhere when it is delivered.
 struct Held {

@@ -13,6 +13,9 @@ class QWidget;
 
 namespace bramlee {
 
+/// How often what waits for a handler to return looks whether it has, in milliseconds.
+inline constexpr int kLookAgainMs = 50;
+
 /// Input waits while one of these lives; they nest. Delivery never begins in the destructor but
 /// in a later turn of the event loop, one event a turn.
 class HoldInput {

@@ -10,7 +10,7 @@ namespace {
 
 const QString kFfmpeg = QStringLiteral("ffmpeg");
 /// For all sounds of one call on the slowest machine.
-constexpr int kLongestMs = 600'000;
+constexpr int kMostMs = 600'000;
 
 /// 16000 samples a second keep the silence short that the decoders of .wma begin with, 44100 do so
 /// for .mp3.
@@ -62,7 +62,7 @@ QString EncodeSounds(const QList<Encoding>& encodings) {
   QProcess process;
   process.setStandardInputFile(QProcess::nullDevice());
   process.start(kFfmpeg, ArgumentsFor(encodings), QIODevice::ReadOnly);
-  if (!process.waitForFinished(kLongestMs)) {
+  if (!process.waitForFinished(kMostMs)) {
     process.kill();
     process.waitForFinished();
     return FailureOf(process);

@@ -8,7 +8,6 @@
 namespace bramlee {
 namespace {
 
-constexpr double kFullScale = 32767;
 const double kAverage = kFullScale * std::pow(10, -20.0 / 20);
 const double kPeak = kFullScale * std::pow(10, -1.0 / 20);
 /// Samples up to this are silence: a hundredth of full scale, half of it in speech not yet

@@ -9,6 +9,9 @@
 
 namespace bramlee {
 
+/// The loudest sample.
+inline constexpr double kFullScale = 32767;
+
 /// Speech of one channel, 16 bits a sample.
 struct SpeechWave {
   int rate = 0;  ///< samples a second

@@ -15,7 +15,7 @@ namespace {
 /// Longer than any recording; more is no sound of a board.
 constexpr qint64 kLargest = 4'000'000;
 
-const QString kWav = QStringLiteral(".wav");
+const QString kEnding = QStringLiteral(".wav");
 
 /// A recording on the stick.
 struct Recording {
@@ -37,8 +37,8 @@ QList<Recording> RecordingsOf(const SoundSet& set, const QString& folder) {
   QList<Recording> found;
   for (const QString& file : place.entryList(QDir::Files)) {
     const QString sound = prefix.left(slash + 1) + file.toLower();
-    if (!sound.startsWith(prefix) || !sound.endsWith(kWav)) continue;
-    const QString part = sound.mid(prefix.size()).chopped(kWav.size());
+    if (!sound.startsWith(prefix) || !sound.endsWith(kEnding)) continue;
+    const QString part = sound.mid(prefix.size()).chopped(kEnding.size());
     if (kPart.match(part).hasMatch()) found.append({prefix + part, place.filePath(file)});
   }
   return found;
@@ -89,7 +89,7 @@ Copied CopyToStick(const OwnSounds& own, const QString& stick, const CopyProgres
   for (const QString& sound : sounds) {
     if (stop.stop_requested()) break;
     const QByteArray recording = ShortFile(own.RecordingOf(sound));
-    const QString target = tree.PathOf(sound + kWav);
+    const QString target = tree.PathOf(sound + kEnding);
     if (target.isEmpty()) {
       copied.error = QStringLiteral("Nothing can be written there.");
       break;

@@ -6,6 +6,8 @@
 #include <iterator>
 #include <numbers>
 
+#include "voice/speech_wave.h"
+
 namespace bramlee {
 namespace {
 
@@ -19,7 +21,6 @@ constexpr double kRumble = 70;
 constexpr double kLowTo = 1000;
 constexpr double kHighFrom = 3500;
 
-constexpr double kFullScale = 32767;
 constexpr int kLimit = 32600;  ///< samples from here on are as high as they can be
 constexpr int kMostAtLimit = 30;
 constexpr double kLeastPower = 1e-9;  ///< of a sample of 1

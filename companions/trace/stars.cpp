@@ -7,13 +7,13 @@
 #include <cmath>
 #include <numbers>
 
+#include "companions/trace/trace_layers.h"
 #include "ink/stamps.h"
 #include "ui/picture_box.h"
 
 namespace bramlee {
 namespace {
 
-constexpr int kFrameMs = 20;
 constexpr int kDrawnFrames = 25;
 constexpr int kSeenFrames = 50;  ///< a second
 constexpr double kRadius = 70;   ///< of the star over the sheet, in sheet pixels

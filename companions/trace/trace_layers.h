@@ -13,6 +13,9 @@
 
 namespace bramlee {
 
+/// From picture to picture of what moves, in milliseconds.
+inline constexpr int kFrameMs = 20;
+
 /// The letter to trace, pale, beneath all ink.
 class TraceGuide : public SheetLayer {
  public:

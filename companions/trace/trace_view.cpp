@@ -11,7 +11,6 @@
 namespace bramlee {
 namespace {
 
-constexpr int kFrameMs = 20;
 constexpr int kPulseFrames = 25;
 constexpr int kPulses = 3;
 constexpr int kRestFrames = 20;         ///< how long a shown stroke stays whole

@@ -13,7 +13,7 @@
 namespace bramlee {
 namespace {
 
-constexpr int kLongestText = 100;  ///< as the card's fields are
+constexpr int kLongestName = 100;  ///< as the card's fields are
 
 }  // namespace
 
@@ -24,7 +24,7 @@ HeadingPane::HeadingPane(QWidget* parent)
       name_(NamedControl(new QLineEdit(this), "name", QStringLiteral("Name"))),
       class_(NamedControl(new QLineEdit(this), "class", QStringLiteral("Class"))),
       today_(MakeCheckBox("today", QStringLiteral("The &date of today"), this)) {
-  for (QLineEdit* text : {name_, class_}) text->setMaxLength(kLongestText);
+  for (QLineEdit* text : {name_, class_}) text->setMaxLength(kLongestName);
   auto* note = new QLabel(QStringLiteral("What is left empty is a line to write on."));
   note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);

@@ -17,6 +17,10 @@ inline const QColor kGreen(0, 0xFF, 0);
 inline const QColor kBlack(0, 0, 0);
 inline const QColor kWhite(0xFF, 0xFF, 0xFF);
 
+/// The boards of letters.
+inline constexpr const char* kAllBoards[] = {"fbrmengc02", "fbrmengs01", "fbrmhinv01",
+                                             "fbrmhinc01", "fbrmtelv01", "fbrmtelc01"};
+
 QString Q(const char* latin);
 QString Q(const char* array, int index);
 

@@ -12,9 +12,6 @@ namespace {
 
 class BoardMenus : public BoardTest {};
 
-constexpr const char* kAllBoards[] = {"fbrmengc02", "fbrmengs01", "fbrmhinv01",
-                                      "fbrmhinc01", "fbrmtelv01", "fbrmtelc01"};
-
 /// A menu's items as lines "name|caption", those of its menus behind dots.
 void AppendItems(QStringList& lines, const QList<QAction*>& items, const QString& dots) {
   for (const QAction* item : items) {

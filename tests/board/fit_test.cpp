@@ -14,8 +14,6 @@
 namespace bramlee {
 namespace {
 
-constexpr const char* kAllBoards[] = {"fbrmengc02", "fbrmengs01", "fbrmhinv01",
-                                      "fbrmhinc01", "fbrmtelv01", "fbrmtelc01"};
 constexpr QSize kWindows[] = {
     {1024, 768 },
     {1366, 768 },

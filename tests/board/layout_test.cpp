@@ -9,9 +9,6 @@ namespace {
 
 class Layout : public BoardTest {};
 
-constexpr const char* kAllBoards[] = {"fbrmengc02", "fbrmengs01", "fbrmhinv01",
-                                      "fbrmhinc01", "fbrmtelv01", "fbrmtelc01"};
-
 std::string At(int left, int top, int width = 900, int height = 825) {
   return std::to_string(left) + " " + std::to_string(top) + " " + std::to_string(width) + " " +
          std::to_string(height);

@@ -108,11 +108,6 @@ std::vector<double> OverlapsOf(const std::vector<Printed>& letters, bool reshape
   return overlaps;
 }
 
-double MedianOf(const std::vector<double>& sorted) {
-  const std::size_t half = sorted.size() / 2;
-  return sorted.size() % 2 != 0 ? sorted[half] : (sorted[half - 1] + sorted[half]) / 2;
-}
-
 TEST(PrintFonts, AreThereAndAtLeastTwoToAScript) {
   for (const LetterSet& set : LetterSets()) {
     const std::vector<QString> families = PrintFontsOf(set.name);

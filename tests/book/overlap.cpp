@@ -236,4 +236,11 @@ double OverlapInBox(const CentreLine& line, const CentreLine& other) {
          (static_cast<double>(grid.Count(kLine)) + static_cast<double>(grid.Count(kOther)));
 }
 
+double MedianOf(std::vector<double> overlaps) {
+  if (overlaps.empty()) return 0;
+  std::ranges::sort(overlaps);
+  const std::size_t half = overlaps.size() / 2;
+  return overlaps.size() % 2 != 0 ? overlaps[half] : (overlaps[half - 1] + overlaps[half]) / 2;
+}
+
 }  // namespace bramlee

@@ -1,6 +1,8 @@
 // How much two letters overlap when they are laid over each other.
 #pragma once
 
+#include <vector>
+
 #include "tests/book/centre_line.h"
 
 namespace bramlee {
@@ -15,5 +17,8 @@ double Overlap(const CentreLine& line, const CentreLine& other);
 /// returns the part of their ink that both have: twice what is common, of what the two have
 /// together. 1 for the same letter.
 double OverlapInBox(const CentreLine& line, const CentreLine& other);
+
+/// The middle one of them, or the mean of the two in the middle; 0 without any.
+double MedianOf(std::vector<double> overlaps);
 
 }  // namespace bramlee

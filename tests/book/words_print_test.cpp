@@ -72,11 +72,6 @@ struct Measured {
   double overlap = 0;
 };
 
-double MedianOf(std::vector<double> values) {
-  std::ranges::sort(values);
-  return values.empty() ? 0 : values[values.size() / 2];
-}
-
 std::vector<Measured> Measure(std::string_view script) {
   std::vector<Measured> all;
   for (const WordCluster& cluster : ClustersOf(script)) {

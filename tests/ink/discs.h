@@ -5,9 +5,16 @@
 #include <QRectF>
 #include <vector>
 
+#include "ink/colours.h"
 #include "tests/recorder.h"
 
 namespace bramlee {
+
+// Pens.
+inline constexpr ColourWord kBlack = 0;
+inline constexpr ColourWord kRed = 0x0000FF;
+inline constexpr ColourWord kBlue = 0xFF0000;
+inline constexpr ColourWord kYellow = 0x00FFFF;
 
 /// How much of each device pixel the discs of some dots cover together, in samples of 64 by 64.
 class Discs {

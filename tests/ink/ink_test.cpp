@@ -14,10 +14,6 @@ namespace bramlee {
 namespace {
 
 constexpr QRectF kArea(380, 40, 80, 80);
-constexpr ColourWord kBlack = 0;
-constexpr ColourWord kRed = 0x0000FF;
-constexpr ColourWord kBlue = 0xFF0000;
-constexpr ColourWord kYellow = 0x00FFFF;
 
 using Strokes = std::function<void(DrawingSurface&)>;
 

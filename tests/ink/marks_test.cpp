@@ -3,12 +3,12 @@
 
 #include "ink/ink.h"
 #include "letters/letter_sets.h"
+#include "tests/ink/discs.h"
 
 namespace bramlee {
 namespace {
 
-constexpr QRectF kArea(380, 40, 820, 320);
-constexpr ColourWord kBlue = 0xFF0000;
+constexpr QRectF kSheetPart(380, 40, 820, 320);
 
 void WriteCapitalOn(Ink& ink, std::int16_t letter) {
   StrokeRec rec = FillStrokeRec(SheetKind::Capitals, letter);
@@ -16,7 +16,7 @@ void WriteCapitalOn(Ink& ink, std::int16_t letter) {
 }
 
 QImage PictureOf(const Ink& ink, double ratio = 1) {
-  return ink.Picture(kArea, ratio, Qt::white);
+  return ink.Picture(kSheetPart, ratio, Qt::white);
 }
 
 TEST(InkMarks, TakeAwayWhatCameAfterThem) {
@@ -108,7 +108,7 @@ TEST(InkMarks, AreGoneAfterAWipeAndOnceDropped) {
 
 TEST(InkMarks, ShowALivingWindowWhatAPictureShows) {
   Ink ink(0.2);
-  ink.Cover(kArea, 1.5);
+  ink.Cover(kSheetPart, 1.5);
   ink.SetPen(kBlue);
   WriteCapitalOn(ink, 1);
   const SurfaceMark mark = ink.Mark();

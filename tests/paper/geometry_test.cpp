@@ -11,7 +11,6 @@
 namespace bramlee {
 namespace {
 
-constexpr double kDotsPerMm = 300 / 25.4;
 constexpr double kOffMm = 0.2;
 
 /// A letter of each set, with what rises over its body or hangs below.

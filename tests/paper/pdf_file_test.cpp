@@ -61,7 +61,6 @@ TEST_F(PdfFile, HasLengthsInMillimetres) {
   SKIP_WITHOUT_PDF_TOOLS();
   ASSERT_TRUE(WritePdf(BarPages(1), kInfo, File()).IsNone());
   const QImage page = PageOfPdf(File());
-  constexpr double kDotsPerMm = 300 / 25.4;
   const auto dark = [&](double xMm, double yMm) {
     return qGray(page.pixel(static_cast<int>(xMm * kDotsPerMm),
                             static_cast<int>(yMm * kDotsPerMm))) < 128;

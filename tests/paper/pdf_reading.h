@@ -12,8 +12,12 @@ namespace bramlee {
 /// What a program prints on its standard output; nothing when it fails.
 QByteArray OutputOf(const QString& program, const QStringList& arguments);
 
+/// What pages are looked at with.
+inline constexpr int kDotsPerInch = 300;
+inline constexpr double kDotsPerMm = kDotsPerInch / 25.4;
+
 /// A page of a document, from 1, in grey, at so many dots an inch.
-QImage PageOfPdf(const QString& file, int page = 1, int dotsPerInch = 300);
+QImage PageOfPdf(const QString& file, int page = 1, int dotsPerInch = kDotsPerInch);
 
 /// All text of a document, or of one page, from 1.
 QString TextOfPdf(const QString& file, int page = 0);

@@ -16,8 +16,6 @@
 namespace bramlee {
 namespace {
 
-constexpr double kDotsPerMm = 300 / 25.4;
-
 Practice Tile(std::string_view set, int tile) {
   return PracticeOf({.set = set, .tile = tile, .form = {.book = true}});
 }

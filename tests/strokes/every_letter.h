@@ -1,4 +1,4 @@
-// All letters that there are, for tests that go through them.
+// All letters that there are, for tests that go through them, and a run for letters of their own.
 #pragma once
 
 #include <string>
@@ -8,6 +8,13 @@
 #include "strokes/pen_strokes.h"
 
 namespace bramlee {
+
+/// A run to the right.
+inline Run Line(double fromX, double toX) {
+  return {
+      Primitive::LineRight, {fromX, 40, toX}
+  };
+}
 
 /// The forms of a tile: its usual one and its alternative, each as given and in the book, and at
 /// each place of a number.

@@ -21,12 +21,6 @@ Point AsPoint(const Dot& dot) {
   return {static_cast<double>(dot.x), static_cast<double>(dot.y)};
 }
 
-Run Line(double fromX, double toX) {
-  return {
-      Primitive::LineRight, {fromX, 40, toX}
-  };
-}
-
 Run Arc(double from, double to, double radius) {
   return {
       Primitive::ArcStroke, {+1, from, to, 200, 200, radius}

@@ -14,12 +14,6 @@ namespace {
 
 using Strokes = std::vector<PenStroke>;
 
-Run Line(double fromX, double toX) {
-  return {
-      Primitive::LineRight, {fromX, 40, toX}
-  };
-}
-
 Strokes StrokesOf(const Letter& letter) {
   return {letter.PenStrokes().begin(), letter.PenStrokes().end()};
 }

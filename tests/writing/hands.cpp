@@ -91,7 +91,7 @@ double Chance::Error(double sigma) {
   return sigma * radius * std::cos(2 * std::numbers::pi * Between(0, 1));
 }
 
-Way DrawnBy(const Hand& hand, const Way& right, Chance& chance) {
+Way DrawnBy(const ChildHand& hand, const Way& right, Chance& chance) {
   Way way = Ended(Rounded(Even(right, 1), hand.rounding), chance.Error(hand.end));
   const Way straightOn = way;
   const Waves sideways(hand.deviation, chance);

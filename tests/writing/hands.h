@@ -6,12 +6,9 @@
 #include <random>
 #include <vector>
 
-#include "strokes/letter_shape.h"
+#include "tests/writing/pen_marks.h"
 
 namespace bramlee {
-
-/// Where a pen went, in units.
-using Way = std::vector<Point>;
 
 /// The same figures for the same seed with every standard library.
 class Chance {
@@ -27,7 +24,7 @@ class Chance {
 };
 
 /// How a child of some age traces; lengths in units, sigmas where not said otherwise.
-struct Hand {
+struct ChildHand {
   const char* name;
   double start;      ///< how far it misses the start, in any direction
   double deviation;  ///< how far it strays sideways from the stroke, in waves of 25 to 120 units
@@ -35,13 +32,13 @@ struct Hand {
   double end;        ///< how far it goes over the end or stops short of it
 };
 
-inline constexpr Hand kExact{"exact", 0, 0, 0, 0};
-inline constexpr Hand kSix{"age 6", 4, 3, 2, 4};
-inline constexpr Hand kFive{"age 5", 6, 4.5, 3, 6};
-inline constexpr Hand kFour{"age 4", 8, 6, 4, 8};
+inline constexpr ChildHand kExact{"exact", 0, 0, 0, 0};
+inline constexpr ChildHand kSix{"age 6", 4, 3, 2, 4};
+inline constexpr ChildHand kFive{"age 5", 6, 4.5, 3, 6};
+inline constexpr ChildHand kFour{"age 4", 8, 6, 4, 8};
 
 /// The way of such a hand along a right one: also how far apart its points are is by chance.
-Way DrawnBy(const Hand& hand, const Way& right, Chance& chance);
+Way DrawnBy(const ChildHand& hand, const Way& right, Chance& chance);
 
 /// What children do instead of writing a stroke as it is.
 enum class Wrong {

@@ -12,7 +12,7 @@ namespace {
 
 /// A stroke of a second: 500 pixels down and, joined, 500 to the right; then one of half a second
 /// that is apart.
-Letter TwoStrokes() {
+Letter OfASecondAndAHalf() {
   const double down[] = {100, 0, 500};
   const double right[] = {100, 500, 600};
   const double apart[] = {300, 0, 500};
@@ -50,7 +50,7 @@ int CountOf(const std::string& text, const std::string& part) {
 }
 
 TEST(MovingSvg, WritesEachStrokeInItsPartOfTheCycle) {
-  const std::string svg = MovingSvgOf(TwoStrokes(), Look());
+  const std::string svg = MovingSvgOf(OfASecondAndAHalf(), Look());
   EXPECT_TRUE(Has(svg, "animation:2.5s linear infinite")) << svg;
   EXPECT_TRUE(Has(svg, "path{stroke-dasharray:1001}")) << svg;
   EXPECT_TRUE(Has(svg,
@@ -66,26 +66,27 @@ TEST(MovingSvg, WritesEachStrokeInItsPartOfTheCycle) {
 }
 
 TEST(MovingSvg, MovesOnlyForWhomMotionIsRight) {
-  const std::string svg = MovingSvgOf(TwoStrokes(), Look());
+  const std::string svg = MovingSvgOf(OfASecondAndAHalf(), Look());
   EXPECT_TRUE(Has(svg, "@media(prefers-reduced-motion:no-preference){path{animation:")) << svg;
   EXPECT_FALSE(Has(svg, "script")) << svg;
 }
 
 TEST(MovingSvg, ParsesThoughTheTitleHasSigns) {
-  EXPECT_TRUE(Has(MovingSvgOf(TwoStrokes(), Look()), "<title>two &lt;strokes> &amp; more</title>"));
+  EXPECT_TRUE(
+      Has(MovingSvgOf(OfASecondAndAHalf(), Look()), "<title>two &lt;strokes> &amp; more</title>"));
 }
 
 TEST(MovingSvg, HasAGroundOnlyWhenOneIsWanted) {
   MovingSvg look = Look();
-  EXPECT_FALSE(Has(MovingSvgOf(TwoStrokes(), look), "<rect"));
+  EXPECT_FALSE(Has(MovingSvgOf(OfASecondAndAHalf(), look), "<rect"));
   look.ground = "#e0e0e0";
-  EXPECT_TRUE(
-      Has(MovingSvgOf(TwoStrokes(), look), R"(<rect width="100%" height="100%" fill="#e0e0e0"/>)"));
+  EXPECT_TRUE(Has(MovingSvgOf(OfASecondAndAHalf(), look),
+                  R"(<rect width="100%" height="100%" fill="#e0e0e0"/>)"));
 }
 
 TEST(MovingSvg, HidesANumberFromItsStrokesBeginToTheLettersEnd) {
   MovingSvg look = Look();
-  const Letter letter = TwoStrokes();
+  const Letter letter = OfASecondAndAHalf();
   const auto numbers = PlaceNumbers(letter.Shape().strokes, {});
   look.numbers = numbers;
   const std::string svg = MovingSvgOf(letter, look);

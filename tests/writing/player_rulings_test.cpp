@@ -10,8 +10,6 @@
 namespace bramlee {
 namespace {
 
-constexpr std::uint32_t kRed = 0x0000FF;
-constexpr std::uint32_t kBlue = 0xFF0000;
 constexpr std::int64_t kFirst = 11;
 constexpr std::int64_t kSecond = 6;
 

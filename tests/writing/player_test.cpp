@@ -15,9 +15,6 @@
 namespace bramlee {
 namespace {
 
-constexpr std::uint32_t kRed = 0x0000FF;
-constexpr std::uint32_t kBlue = 0xFF0000;
-
 /// Two strokes of 11 and of 6 + 3 dots.
 Letter TwoStrokes() {
   return {

@@ -13,6 +13,10 @@
 
 namespace bramlee {
 
+// Colours that a page may have.
+inline constexpr std::uint32_t kRed = 0x0000FF;
+inline constexpr std::uint32_t kBlue = 0xFF0000;
+
 struct ColouredDot {
   Dot dot;
   std::uint32_t colour = 0;

@@ -48,12 +48,6 @@ Tracer TracerAt(const UnitLetter& letter, std::size_t stroke, TraceLevel level) 
   return Tracer(std::move(guide), level);
 }
 
-TraceVerdict VerdictOf(Tracer& tracer, const Way& way) {
-  tracer.Down(way.front());
-  for (const Point& place : way) tracer.Move(place);
-  return tracer.Up().value().verdict;
-}
-
 /// How many of how many ways are taken for the stroke at each level.
 struct Count {
   int taken[std::size(kTraceLevels)] = {};
@@ -85,7 +79,7 @@ struct Sample {
 constexpr Sample kAll{1, 2, 0};
 constexpr Sample kSome{12, 1, 1.5};
 
-Count CountOf(const Hand& hand, const Sample& sample) {
+Count CountOf(const ChildHand& hand, const Sample& sample) {
   Count count;
   Chance chance(6);
   for (const UnitLetter& letter : Letters(sample.every)) {

@@ -216,12 +216,12 @@ class Reader {
                    .heading = heading_};
     int count = SumsOnAPage(sheet);
     if (IsSet(options_.count)) {
-      const auto asked = NumberIn<int>(parser_.value(options_.count));
-      if (!asked || *asked < 1 || *asked > kMostSums) {
+      const auto wanted = NumberIn<int>(parser_.value(options_.count));
+      if (!wanted || *wanted < 1 || *wanted > kMostSums) {
         return QStringLiteral("--count: \"%1\" is no number from 1 to 1000")
             .arg(parser_.value(options_.count));
       }
-      count = *asked;
+      count = *wanted;
     }
     if (count > 0) sheet.sums = ChooseSums(*kind, *largest, count, *seed);
     request_.info.title = QStringLiteral("Sums");
