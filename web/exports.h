@@ -58,6 +58,8 @@ BRAMLEE_EXPORT(freeLetter) void FreeLetter(int letter);
 
 /// Numbers: the bounds (x, y, width, height), the whole length, then the length of each stroke.
 BRAMLEE_EXPORT(shapeOf) void ShapeOfLetter(int letter);
+/// Numbers: the bounds alone, from dots half a pixel apart: less exact, and ready at once.
+BRAMLEE_EXPORT(roughBoundsOf) void RoughBoundsOfLetter(int letter);
 /// Numbers: x and y of each point of a pen stroke.
 BRAMLEE_EXPORT(pointsOf) void PointsOfStroke(int letter, int stroke);
 /// Text: the SVG path of a pen stroke, or of the whole letter for stroke -1.

@@ -173,6 +173,11 @@ void ShapeOfLetter(int handle) {
   for (const StrokePath& stroke : shape.strokes) result.Add(stroke.length);
 }
 
+void RoughBoundsOfLetter(int handle) {
+  constexpr double kRoughStep = 0.5;
+  NewResult().Add(BoundsOf(LetterAt(handle).Runs(), kRoughStep).value_or(Box{}));
+}
+
 void PointsOfStroke(int handle, int stroke) {
   Result& result = NewResult();
   const auto& strokes = LetterAt(handle).Shape().strokes;
