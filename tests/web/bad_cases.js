@@ -1,11 +1,9 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import {
-  button, kFourLetters, kPhone, kWeb, openPage, penStrokes, onScreen, reload, said, server, shot, tile,
+  button, kPhone, kStrokesOfB, kWeb, openPage, onScreen, reload, said, server, shot, tile,
 } from './browser.js';
 import { serve } from './server.js';
-
-const [B] = kFourLetters;
 
 const withoutWasm = (page) => page.evaluateOnNewDocument(() => delete globalThis.WebAssembly);
 const kNoWasm = 'This browser cannot write the letters. Here they are as pictures.';
@@ -68,7 +66,7 @@ test('a refused storage changes nothing but what lasts', async () => {
     await page.$eval(button('level'), (it) => it.getAttribute('aria-label')), 'Level: gentle');
   await page.keyboard.press('Space'); // on the button: the next level
   await page.focus(tile(2));
-  const strokes = await penStrokes(B);
+  const strokes = kStrokesOfB;
   for (let i = 0; i < strokes.length; ++i) await page.keyboard.press('Space');
   await said(page, 'Well done!');
   assert.equal(
@@ -203,7 +201,7 @@ test('a lost mouse release lifts the pen at the next move', async () => {
   const page = await openPage({ address: '#engc' });
   await page.click(button('trace'));
   await page.click(tile(2));
-  const strokes = await penStrokes(B);
+  const strokes = kStrokesOfB;
   const [stroke] = strokes;
   await page.evaluate(() => {
     document.addEventListener('pointerup', (event) => event.stopImmediatePropagation(), true);

@@ -226,3 +226,7 @@ export function frames(page, count, ms) {
     for (let i = 0; i < times; ++i) frameAfter(apart);
   }, count, ms);
 }
+
+/// Of B. Here and not beside the tests that use it: a test that is registered after a pause would
+/// come after the end.
+export const kStrokesOfB = await penStrokes(kFourLetters[0]);

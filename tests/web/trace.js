@@ -1,12 +1,12 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import {
-  button, comparedWithProgram, framesLater, inkOf, kFourLetters, kPhone, kTablet, onScreen,
-  openPage, penStrokes, reload, said, shot, tile,
+  button, comparedWithProgram, framesLater, inkOf, kFourLetters, kPhone, kStrokesOfB, kTablet, onScreen,
+  openPage, reload, said, shot, tile,
 } from './browser.js';
 
 const [B] = kFourLetters;
-const kStrokes = await penStrokes(B);
+const kStrokes = kStrokesOfB;
 const kFirst = `Stroke 1 of ${kStrokes.length}`;
 const kSecond = `Stroke 2 of ${kStrokes.length}`;
 
