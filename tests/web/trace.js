@@ -73,6 +73,24 @@ test('a second finger changes nothing', async () => {
   await page.closeTrial();
 });
 
+test('a stylus traces, and the hand that rests beside it changes nothing', async () => {
+  const page = await openTracing({ size: kPhone });
+  const session = await page.createCDPSession();
+  const stylus = (type, { x, y }) => session.send('Input.dispatchMouseEvent', {
+    type, x, y, pointerType: 'pen', button: type === 'mouseMoved' ? 'none' : 'left', clickCount: 1,
+    buttons: type === 'mouseReleased' ? 0 : 1,
+  });
+  const places = await placesOf(page, kStrokes[0]);
+  const resting = { x: places[0].x + 60, y: places[0].y + 20 };
+  await touch(session, 'touchStart', [resting]);
+  await stylus('mousePressed', places[0]);
+  for (const place of places.slice(1)) await stylus('mouseMoved', place);
+  await stylus('mouseReleased', places.at(-1));
+  await touch(session, 'touchEnd', []);
+  await said(page, kSecond);
+  await page.closeTrial();
+});
+
 test('a pointer that the browser takes away is no miss', async () => {
   const page = await openTracing({ size: kPhone });
   const session = await page.createCDPSession();
