@@ -15,10 +15,10 @@
 #include <cstdint>
 #include <span>
 
-#include "strokes/rules.h"
 #include "engine/stroke_rec.h"
 #include "ink/colours.h"
 #include "letters/letter_sets.h"
+#include "strokes/rules.h"
 #include "ui/controls.h"
 
 namespace bramlee {

@@ -3,9 +3,9 @@
 
 #include <QRectF>
 
-#include "strokes/rules.h"
 #include "engine/stroke_rec.h"
 #include "letters/letter_sets.h"
+#include "strokes/rules.h"
 
 namespace bramlee {
 

@@ -166,7 +166,7 @@ bool DotJournal::Cover(const Box& area, double ratio) noexcept {
   return planes_.has_value();
 }
 
-PixelRect DotJournal::TakeDirty() {
+PixelRect DotJournal::TakeDirtyPixels() {
   return planes_ ? planes_->TakeDirty() : PixelRect();
 }
 

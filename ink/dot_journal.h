@@ -72,11 +72,11 @@ class DotJournal : public RewindableSurface {
   /// Returns false when there is no memory for it: nothing is covered then.
   bool Cover(const Box& area, double ratio) noexcept;
   /// Size of what is covered, in device pixels.
-  PixelSize CoveredSize() const { return planes_ ? planes_->Size() : PixelSize(); }
+  PixelSize CoveredPixels() const { return planes_ ? planes_->Size() : PixelSize(); }
   /// Where the covered part has changed since the last call, in device pixels.
-  PixelRect TakeDirty();
-  /// Paints a part of what is covered into the same place of a picture of CoveredSize(), over what
-  /// stands there.
+  PixelRect TakeDirtyPixels();
+  /// Paints a part of what is covered into the same place of a picture of CoveredPixels(), over
+  /// what stands there.
   void Compose(const Pixels& picture, const PixelRect& part) noexcept;
 
   /// How many dots the journal holds.

@@ -48,11 +48,11 @@ bool Ink::Cover(const QRectF& area, double ratio) noexcept {
 }
 
 QSize Ink::CoveredSize() const {
-  return AsQSize(DotJournal::CoveredSize());
+  return AsQSize(DotJournal::CoveredPixels());
 }
 
 QRect Ink::TakeDirty() {
-  const PixelRect dirty = DotJournal::TakeDirty();
+  const PixelRect dirty = DotJournal::TakeDirtyPixels();
   return {dirty.x, dirty.y, dirty.width, dirty.height};
 }
 

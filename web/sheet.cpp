@@ -62,7 +62,7 @@ bool WebSheet::Cover(const Box& area, double ratio, std::optional<ColourWord> gr
 }
 
 PixelRect WebSheet::Paint() {
-  const PixelRect dirty = ink_.Journal().TakeDirty();
+  const PixelRect dirty = ink_.Journal().TakeDirtyPixels();
   PaintPart(dirty);
   return dirty;
 }

@@ -64,7 +64,7 @@ class WebSheet {
   /// without one what is no ink is transparent. False when it is empty or has more pixels than a
   /// canvas may have.
   bool Cover(const Box& area, double ratio, std::optional<ColourWord> ground);
-  PixelSize CoveredSize() { return ink_.Journal().CoveredSize(); }
+  PixelSize CoveredSize() { return ink_.Journal().CoveredPixels(); }
   /// Brings the pixels up to date; returns what changed.
   PixelRect Paint();
   /// Line by line, 4 bytes each: red, green, blue, how opaque.

@@ -11,11 +11,11 @@
 
 #include "board/companions.h"
 #include "companions/numbers/number_layer.h"
-#include "writing/page_numbers.h"
 #include "ink/stroke_signs.h"
 #include "tests/board/board_fixture.h"
 #include "ui/choices.h"
 #include "ui/form_ids.h"
+#include "writing/page_numbers.h"
 
 namespace bramlee {
 namespace {
