@@ -1,5 +1,5 @@
 // Sheets for the page.
-#include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -179,7 +179,8 @@ const float* TakeDots(int sheet) {
   WebSheet* found = Sheets().At(sheet);
   if (found == nullptr) return nullptr;
   const auto& dots = found->Ink().TakeDots();
-  result.Add(static_cast<double>(dots.size() / 2));
+  const std::size_t count = dots.size() / 2;
+  result.Add(static_cast<double>(count));
   for (const WebInk::PenChange& change : found->Ink().TakenChanges()) {
     result.Add(static_cast<double>(change.first));
     result.Add(change.colour);
