@@ -4,7 +4,7 @@ namespace bramlee {
 namespace {
 
 /// From line to line, in heights from head to base: room for signs above and below.
-constexpr double kLinePitch = 1.75;
+constexpr double kLinePitch = 1.9;
 /// How far below a line's top its head is, the same.
 constexpr double kHeadBelowTop = 0.4;
 

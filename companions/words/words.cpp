@@ -37,6 +37,9 @@ constexpr double kEdge = 10;
 /// In a window narrower or lower than this a word goes beyond its edge: it would be too small.
 constexpr double kLeastRoom = 300;
 
+/// A board has its tiles above its sheet where that begins so far down, in sheet pixels.
+constexpr double kLeastTiles = 200;
+
 /// The rules' part of the sheet as far as the window shows it, once the beginning is in view.
 SheetExtent SeenRoom(Board& board) {
   SheetExtent room = board.record().ruleExtent;
@@ -67,7 +70,9 @@ class WordWriting : public QObject {
   explicit WordWriting(Board& board) : QObject(&board), board_(board) {
     panel_ = new WordsPanel(
         &board, [this] { Do(&WordWriting::Write); }, [this] { Do(&WordWriting::WriteMyName); });
-    const auto open = [this] { panel_->Present(); };
+    // Where it leaves the sheet free: over the tiles of a board whose sheet lies below them.
+    const bool above = board.record().ruleExtent.top > kLeastTiles;
+    const auto open = [this, above] { panel_->Present(above); };
     board.strip().AddButton(Strip::Group::Teacher,
                             {.name = "strip_words",
                              .text = QStringLiteral("Words"),

@@ -75,11 +75,11 @@ WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::functio
   FollowText();
 }
 
-void WordsPanel::Present() {
+void WordsPanel::Present(bool above) {
   resize(std::min(kWidth, parentWidget()->width()), sizeHint().height());
   const QRect board(parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size());
   move(board.center().x() - width() / 2,
-       board.bottom() - height() - kBelow);  // the sheet is above, on every board
+       above ? board.top() + 2 * fontMetrics().height() : board.bottom() - height() - kBelow);
   show();
   raise();
   activateWindow();

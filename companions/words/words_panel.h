@@ -20,8 +20,8 @@ class WordsPanel : public QWidget {
   /// the line, `writeMy` when My name was.
   WordsPanel(QWidget* board, std::function<void()> write, std::function<void()> writeMy);
 
-  /// Comes into view above the strip of its board, ready to type in.
-  void Present();
+  /// Comes into view ready to type in, over the upper part of its board or just above the strip.
+  void Present(bool above);
 
   QString Text() const { return text_->text(); }
   void SetText(const QString& text) { text_->setText(text); }
