@@ -10,13 +10,13 @@
 
 #include "tests/board/board_fixture.h"
 #include "tests/board/scarce_memory.h"
+#include "tests/board/sheet_colours.h"
 #include "tests/ui/failing_event.h"
 
 namespace bramlee {
 namespace {
 
 constexpr ColourWord kRedWord = 0x0000FF;
-constexpr ColourWord kBlueWord = 0xFF0000;
 constexpr double kStep = 0.01;
 
 /// A letter of two pen strokes, either of 20,000 dots: a dozen frames at 60 a second.

@@ -4,12 +4,11 @@
 #include "board/sheet.h"
 #include "engine/primitives.h"
 #include "tests/board/scarce_memory.h"
+#include "tests/board/sheet_colours.h"
 
 namespace bramlee {
 namespace {
 
-constexpr ColourWord kGround = 0x00FFFFC0;
-constexpr ColourWord kBlue = 0xFF0000;
 constexpr std::size_t kForAPlane = 100000;
 constexpr QSize kSize(400, 300);
 constexpr QRect kCorner(0, 0, 450, 350);
@@ -19,7 +18,7 @@ class SheetMemory : public ::testing::Test {
  protected:
   SheetMemory() {
     sheet.resize(kSize);
-    sheet.SetBackColor(kGround);
+    sheet.SetBackColor(kSheetGround);
     LineRight(sheet, 100, 100, 200);
     sheet.grab();
   }
@@ -28,7 +27,7 @@ class SheetMemory : public ::testing::Test {
     return sheet.grab(part).toImage().convertToFormat(QImage::Format_RGB32);
   }
   /// What its dots give for that part.
-  QImage Dots() const { return sheet.Dots().Picture(QRect({}, kSize), 1, ColourOf(kGround)); }
+  QImage Dots() const { return sheet.Dots().Picture(QRect({}, kSize), 1, ColourOf(kSheetGround)); }
 
   Sheet sheet;
 };
@@ -37,7 +36,7 @@ TEST_F(SheetMemory, NoRoomForAnotherColourLeavesTheLastPicture) {
   const QImage last = Shown();
   {
     const ScarceMemory memory(ScarceMemory::kAny, kForAPlane);
-    EXPECT_NO_THROW(sheet.SetForeColor(kBlue));
+    EXPECT_NO_THROW(sheet.SetForeColor(kBlueWord));
     LineRight(sheet, 100, 200, 200);
     EXPECT_EQ(Shown(), last);
     EXPECT_GE(memory.Refused(), 1);
@@ -52,7 +51,7 @@ TEST_F(SheetMemory, NoRoomForALargerSheetLeavesTheLastPictureOnTheGround) {
     const ScarceMemory memory(ScarceMemory::kAny, kForAPlane);
     sheet.resize(2 * kSize);
     EXPECT_EQ(Shown(), last);
-    EXPECT_EQ(Shown(kCorner).pixelColor(420, 320), ColourOf(kGround));
+    EXPECT_EQ(Shown(kCorner).pixelColor(420, 320), ColourOf(kSheetGround));
     EXPECT_GE(memory.Refused(), 1);
   }
   LineRight(sheet, 100, 200, 200);
@@ -62,7 +61,7 @@ TEST_F(SheetMemory, NoRoomForALargerSheetLeavesTheLastPictureOnTheGround) {
 TEST_F(SheetMemory, NoRoomForALargerPictureLeavesTheLastOneOnTheGround) {
   sheet.resize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // no machine has so much
   EXPECT_EQ(Shown(), Dots());
-  EXPECT_EQ(Shown(kCorner).pixelColor(420, 320), ColourOf(kGround));
+  EXPECT_EQ(Shown(kCorner).pixelColor(420, 320), ColourOf(kSheetGround));
   sheet.resize(kSize);
   LineRight(sheet, 100, 200, 200);
   EXPECT_EQ(Shown(), Dots());
@@ -71,9 +70,9 @@ TEST_F(SheetMemory, NoRoomForALargerPictureLeavesTheLastOneOnTheGround) {
 TEST_F(SheetMemory, AWipedSheetWithoutRoomShowsItsGroundAlone) {
   {
     const ScarceMemory memory(ScarceMemory::kAny, kForAPlane);
-    sheet.SetForeColor(kBlue);
+    sheet.SetForeColor(kBlueWord);
     sheet.Wipe();
-    EXPECT_EQ(Shown().pixelColor(150, 100), ColourOf(kGround));
+    EXPECT_EQ(Shown().pixelColor(150, 100), ColourOf(kSheetGround));
     EXPECT_GE(memory.Refused(), 1);
   }
   EXPECT_EQ(Shown(), Dots());
@@ -82,11 +81,11 @@ TEST_F(SheetMemory, AWipedSheetWithoutRoomShowsItsGroundAlone) {
 TEST_F(SheetMemory, ASheetThatNeverHadRoomShowsItsGround) {
   Sheet fresh;
   fresh.resize(kSize);
-  fresh.SetBackColor(kGround);
+  fresh.SetBackColor(kSheetGround);
   const ScarceMemory memory(ScarceMemory::kAny, kForAPlane);
   LineRight(fresh, 100, 100, 200);
   const QImage shown = fresh.grab().toImage();
-  EXPECT_EQ(shown.pixelColor(150, 100), ColourOf(kGround));
+  EXPECT_EQ(shown.pixelColor(150, 100), ColourOf(kSheetGround));
   EXPECT_GE(memory.Refused(), 1);
 }
 
@@ -99,7 +98,7 @@ TEST_F(SheetMemory, PaintingAFrameAllocatesNothing) {
 
 TEST_F(SheetMemory, GoingBackToAColourWithoutRoomGoesBackAndShowsItLater) {
   Ink ink(1);
-  ink.SetPen(kBlue);
+  ink.SetPen(kBlueWord);
   const SurfaceMark mark = ink.Mark();
   ink.SetPen(0);
   LineRight(ink, 100, 100, 200);
@@ -110,7 +109,7 @@ TEST_F(SheetMemory, GoingBackToAColourWithoutRoomGoesBackAndShowsItLater) {
     EXPECT_TRUE(ink.RewindTo(mark));
     EXPECT_EQ(memory.Refused(), 1);
   }
-  EXPECT_EQ(ink.Colour(), kBlue);
+  EXPECT_EQ(ink.Colour(), kBlueWord);
   LineRight(ink, 100, 200, 200);
   EXPECT_TRUE(ink.Cover(area, 1));
   QImage shown(kSize, QImage::Format_RGB32);

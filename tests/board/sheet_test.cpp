@@ -10,12 +10,10 @@
 
 #include "engine/primitives.h"
 #include "letters/letter_sets.h"
+#include "tests/board/sheet_colours.h"
 
 namespace bramlee {
 namespace {
-
-constexpr ColourWord kGround = 0x00FFFFC0;
-constexpr ColourWord kBlue = 0xFF0000;
 
 void WriteLetterOn(DrawingSurface& sheet, std::int16_t letter) {
   StrokeRec rec = FillStrokeRec(SheetKind::Capitals, letter);
@@ -26,7 +24,7 @@ void WriteLetterOn(DrawingSurface& sheet, std::int16_t letter) {
 struct Scrolled {
   explicit Scrolled(const QSize& size) {
     sheet->setMinimumSize(1366, 700);
-    sheet->SetBackColor(kGround);
+    sheet->SetBackColor(kSheetGround);
     window.setWidgetResizable(true);
     window.setWidget(sheet);
     window.resize(size);
@@ -41,13 +39,13 @@ struct Scrolled {
 /// What is written as the sheet shows it, and as its dots tell.
 void ExpectShowsItsDots(Sheet& sheet) {
   const QImage shown = sheet.grab().toImage().convertToFormat(QImage::Format_RGB32);
-  EXPECT_EQ(shown, sheet.Dots().Picture(sheet.rect(), 1, ColourOf(kGround)));
+  EXPECT_EQ(shown, sheet.Dots().Picture(sheet.rect(), 1, ColourOf(kSheetGround)));
 }
 
 TEST(Sheet, ShowsWhatIsWritten) {
   Scrolled scrolled({1366, 700});
   WriteLetterOn(*scrolled.sheet, 1);
-  EXPECT_EQ(ColourOf(kGround), scrolled.sheet->grab().toImage().pixelColor(450, 60));
+  EXPECT_EQ(ColourOf(kSheetGround), scrolled.sheet->grab().toImage().pixelColor(450, 60));
   EXPECT_EQ(QColor(Qt::red), scrolled.sheet->grab().toImage().pixelColor(500, 151));
   ExpectShowsItsDots(*scrolled.sheet);
 }
@@ -111,14 +109,14 @@ TEST(Sheet, KeepsWhatWasWrittenThroughSizesDuringAndAfterALetter) {
 
 TEST(Sheet, WipesEveryDotAndKeepsItsPen) {
   Scrolled scrolled({1366, 700});
-  scrolled.sheet->SetForeColor(kBlue);
+  scrolled.sheet->SetForeColor(kBlueWord);
   WriteLetterOn(*scrolled.sheet, 1);
   scrolled.sheet->Wipe();
-  EXPECT_EQ(scrolled.sheet->ForeColor(), kBlue);
+  EXPECT_EQ(scrolled.sheet->ForeColor(), kBlueWord);
   EXPECT_EQ(scrolled.sheet->Dots().KeptDots(), 0U);
   const QImage shown = scrolled.sheet->grab().toImage();
   QImage empty(shown.size(), shown.format());
-  empty.fill(ColourOf(kGround));
+  empty.fill(ColourOf(kSheetGround));
   EXPECT_EQ(shown, empty);
 }
 

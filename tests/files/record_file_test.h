@@ -1,7 +1,9 @@
-// A data file of a test's own.
+// A data file of a test's own, and what saving it fails with.
 #pragma once
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 
 #include "files/data_files.h"
 #include "tests/files/temp_drives.h"
@@ -45,5 +47,23 @@ class RecordFileTest : public TempDrives {
     return QDir(On("c/bramlee/dba")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
   }
 };
+
+/// What the save fails with, and the name of the file that it names.
+struct Failure {
+  FileTrouble trouble;
+  QString file;
+  bool operator==(const Failure& other) const = default;
+};
+
+inline std::optional<Failure> FailureOf(const std::function<void()>& run) {
+  try {
+    run();
+  } catch (const FileError& error) {
+    return Failure{.trouble = error.trouble(), .file = error.file()};
+  }
+  return {};
+}
+
+class FileSaveTest : public RecordFileTest {};
 
 }  // namespace bramlee

@@ -145,7 +145,7 @@ TEST(SameLetters, DotsOfTheFirstLetterOfEachSet) {
 // --- the tracer
 
 /// Places to a thousandth, so that both sides read the same figures.
-Way Rounded(const Way& way, double unit) {
+Way AsPrinted(const Way& way, double unit) {
   Way rounded;
   for (const Point& point : way) {
     rounded.push_back(
@@ -198,8 +198,8 @@ Question TracedBy(std::uint32_t seed, const LetterId& id, TraceLevel level) {
   for (std::size_t stroke = 0; stroke < ways.size(); ++stroke) {
     const Wrong wrong = kWrongs[(seed + stroke) % std::size(kWrongs)];
     const auto drawn = DrawnWrongly(wrong, ways, stroke, chance);
-    if (drawn && !drawn->empty()) Touch(tracer, Rounded(*drawn, unit), traced);
-    Touch(tracer, Rounded(DrawnBy(kFive, ways[stroke], chance), unit), traced);
+    if (drawn && !drawn->empty()) Touch(tracer, AsPrinted(*drawn, unit), traced);
+    Touch(tracer, AsPrinted(DrawnBy(kFive, ways[stroke], chance), unit), traced);
   }
   std::ostringstream text;
   text << "trace " << id.set << ' ' << id.tile << ' ' << NameOf(level) << traced.touches;

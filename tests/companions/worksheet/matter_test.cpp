@@ -9,8 +9,6 @@
 namespace bramlee {
 namespace {
 
-enum Matter { kLetters, kWords, kNumbers, kSums, kBook };
-
 class WorksheetMatterTest : public OpenedWorksheet {
  protected:
   QStringList TilesOffered() const {

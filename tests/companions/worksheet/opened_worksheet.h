@@ -21,6 +21,9 @@
 
 namespace bramlee {
 
+/// What a worksheet can be about, as the dialog lists it.
+enum Matter { kLetters, kWords, kNumbers, kSums, kBook };
+
 /// A desk with one printer that prints to the file `printed`; a user who names `file` and looks at
 /// `folders`.
 class OpenedWorksheet : public BoardTest {

@@ -15,8 +15,6 @@
 namespace bramlee {
 namespace {
 
-constexpr int kBook = 4;
-
 class WorksheetOutput : public OpenedWorksheet {
  protected:
   static qsizetype PagesOf(const QString& pdf) {

@@ -40,9 +40,6 @@ const char* const kExtensions[] = {".wma", ".mp3", ".wav", ".cda"};
 /// Begins no group on any board.
 constexpr int kTile = 2;
 
-/// Pixels that the smallest letter covers.
-constexpr int kSomeInk = 100;
-
 std::string At(const char* array, int index) {
   return Indexed(array, index).toStdString();
 }

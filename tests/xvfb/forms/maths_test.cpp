@@ -5,7 +5,6 @@
 namespace bramlee {
 namespace {
 
-constexpr int kSomeInk = 100;
 constexpr ColourWord kRed = 0xFF;
 constexpr int kTiles = 17;
 

@@ -21,6 +21,9 @@
 
 namespace bramlee {
 
+/// Pixels that the smallest letter covers.
+inline constexpr int kSomeInk = 100;
+
 /// The desktop of this test program.
 Desktop& TheDesktop();
 

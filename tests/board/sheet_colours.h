@@ -1,0 +1,11 @@
+// Colours of tests that have a sheet without a board, as words.
+#pragma once
+
+#include "ink/colours.h"
+
+namespace bramlee {
+
+inline constexpr ColourWord kSheetGround = 0x00FFFFC0;
+inline constexpr ColourWord kBlueWord = 0xFF0000;
+
+}  // namespace bramlee
