@@ -1,10 +1,9 @@
 # Headers that nearly every source of a folder with windows, or nearly every test, reads: compiled
-# once a build. A source still includes what it uses; BRAMLEE_PRECOMPILE=OFF shows whether it does,
-# and is what the fuzz build and clang-tidy go by.
+# once a build. A source still includes what it uses: BRAMLEE_PRECOMPILE=OFF with CMAKE_UNITY_BUILD=OFF
+# shows whether it does.
 option(BRAMLEE_PRECOMPILE "Precompile the headers of Qt and GoogleTest" ON)
 
-# The compiler then collects no garbage, which takes a fifth of its time with such headers. Not in
-# builds that clang-tidy reads, to which the parameters are errors.
+# GCC then collects no garbage, which takes a fifth of its time with such headers.
 if(BRAMLEE_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(bramlee_options INTERFACE
     --param=ggc-min-expand=10000 --param=ggc-min-heapsize=2000000)
