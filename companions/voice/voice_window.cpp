@@ -119,7 +119,9 @@ QVBoxLayout* VoiceWindow::MakeSide() {
   side->addWidget(level_);
   for (QPushButton* button : {record_, hear_, keep_, again_, giveBack_}) side->addWidget(button);
   side->addStretch();
-  if (NumberSoundOf(board_, 0)) side->addWidget(MakeNumberRow());
+  QWidget* numbers = MakeNumberRow();
+  numbers->setHidden(!NumberSoundOf(board_, 0));
+  side->addWidget(numbers);
   return side;
 }
 
