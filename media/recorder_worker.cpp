@@ -62,6 +62,12 @@ RecorderWorker::RecorderWorker() : look_(this), watch_(this) {
   connect(&watch_, &QTimer::timeout, this, &RecorderWorker::Watch);
 }
 
+/// What the microphone still gives while it closes would find half of this gone.
+RecorderWorker::~RecorderWorker() {
+  if (heard_ != nullptr) heard_->disconnect(this);
+  source_.reset();
+}
+
 void RecorderWorker::Look() {
   look_.start(kLookMs);
   SayMicrophones();

@@ -15,6 +15,9 @@ class RecorderWorker : public QObject {
   Q_OBJECT
  public:
   RecorderWorker();
+  ~RecorderWorker() override;
+  RecorderWorker(const RecorderWorker&) = delete;
+  RecorderWorker& operator=(const RecorderWorker&) = delete;
 
   /// Says which microphones there are, from now on.
   void Look();
