@@ -1,6 +1,5 @@
 #include "tools/contact_sheets/book_sheets.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -10,11 +9,13 @@
 #include "letters/letter_names.h"
 #include "tools/contact_sheets/letter_cell.h"
 #include "tools/contact_sheets/print_fonts.h"
+#include "tools/contact_sheets/print_sign.h"
 
 namespace bramlee {
 namespace {
 
-constexpr std::size_t kRows = 5;
+constexpr std::size_t kBookRows = 5;
+constexpr double kMostScale = 1.6;  ///< of a small sign
 
 struct Row {
   Letter given;
@@ -51,25 +52,6 @@ Box Around(const Box& a, const Box& b) {
   return {.x = x, .y = y, .width = right - x, .height = bottom - y};
 }
 
-/// The sign as large as the cell allows.
-void DrawSign(QPainter& painter, const QString& sign, const QString& family, const QRectF& cell) {
-  DrawCaption(painter, family, cell);
-  QFont font(family);
-  font.setPixelSize(200);
-  const QRectF ink = QFontMetricsF(font).tightBoundingRect(sign);
-  if (ink.isEmpty()) return;
-  const QRectF room = RoomOf(cell);
-  const double scale = std::min({room.width() / ink.width(), room.height() / ink.height(), 1.6});
-  painter.save();
-  painter.translate(room.center());
-  painter.scale(scale, scale);
-  painter.translate(-ink.center());
-  painter.setFont(font);
-  painter.setPen(Qt::black);
-  painter.drawText(QPointF(0, 0), sign);
-  painter.restore();
-}
-
 void DrawRow(QPainter& painter, const Row& row, const std::vector<QString>& fonts, int top) {
   const auto cell = [&](int column) {
     return QRectF(QPointF(column * kCell.width(), top), QSizeF(kCell));
@@ -82,8 +64,11 @@ void DrawRow(QPainter& painter, const Row& row, const std::vector<QString>& font
   } else {
     DrawCaption(painter, QStringLiteral("in the book as given"), cell(1));
   }
-  for (int i = 0; i < 2; ++i)
-    DrawSign(painter, row.sign, fonts[static_cast<std::size_t>(i)], cell(i + 2));
+  for (int i = 0; i < 2; ++i) {
+    const QString& family = fonts[static_cast<std::size_t>(i)];
+    DrawCaption(painter, family, cell(i + 2));
+    DrawSign(painter, row.sign, family, RoomOf(cell(i + 2)), kMostScale);
+  }
 }
 
 QImage DrawSheet(std::span<const Row> rows, const std::vector<QString>& fonts) {
@@ -113,8 +98,8 @@ bool SaveSheet(const QImage& sheet, const QString& folder, const LetterSet& set,
 bool DrawBookSheets(const LetterSet& set, const QString& folder) {
   const std::vector<Row> rows = RowsOf(set);
   const std::vector<QString> fonts = PrintFontsOf(set.name);
-  for (std::size_t first = 0, number = 1; first < rows.size(); first += kRows, ++number) {
-    const std::size_t count = std::min(kRows, rows.size() - first);
+  for (std::size_t first = 0, number = 1; first < rows.size(); first += kBookRows, ++number) {
+    const std::size_t count = std::min(kBookRows, rows.size() - first);
     const QImage sheet = DrawSheet(std::span(rows).subspan(first, count), fonts);
     if (!SaveSheet(sheet, folder, set, number)) return false;
   }

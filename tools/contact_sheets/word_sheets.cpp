@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
 #include <cstdio>
 #include <span>
@@ -10,35 +9,20 @@
 #include "strokes/word.h"
 #include "tools/contact_sheets/letter_cell.h"
 #include "tools/contact_sheets/print_fonts.h"
+#include "tools/contact_sheets/print_sign.h"
 #include "tools/contact_sheets/word_clusters.h"
 
 namespace bramlee {
 namespace {
 
 constexpr QSize kPair(280, 220);  ///< a cluster, from strokes and in print
-constexpr std::size_t kRows = 7;
+constexpr std::size_t kWordRows = 7;
 
 /// Written and printed halves of a cell.
 QRectF HalfOf(const QRectF& cell, bool print) {
   const double half = cell.width() / 2;
   return QRectF(cell.x() + (print ? half : 0), cell.y(), half, cell.height())
       .adjusted(12, 30, -12, -12);
-}
-
-void DrawSign(QPainter& painter, const QString& sign, const QString& family, const QRectF& room) {
-  QFont font(family);
-  font.setPixelSize(200);
-  QPainterPath path;
-  path.addText(0, 0, font, sign);
-  const QRectF ink = path.boundingRect();
-  if (ink.isEmpty()) return;
-  painter.save();
-  painter.translate(room.center());
-  const double scale = std::min(room.width() / ink.width(), room.height() / ink.height());
-  painter.scale(scale, scale);
-  painter.translate(-ink.center());
-  painter.fillPath(path, Qt::black);
-  painter.restore();
 }
 
 void DrawWord(QPainter& painter, const Letter& word, const QRectF& room) {
@@ -63,10 +47,10 @@ bool DrawWordSheets(std::string_view script, const QString& folder) {
   const auto second = std::find_if(clusters.begin() + 1, clusters.end(),
                                    [](const WordCluster& each) { return each.bare; });
   const auto columns = static_cast<std::size_t>(second - clusters.begin());
-  const std::size_t onASheet = columns * kRows;
+  const std::size_t onASheet = columns * kWordRows;
   for (std::size_t first = 0, number = 1; first < clusters.size(); first += onASheet, ++number) {
     QImage sheet(kPair.width() * static_cast<int>(columns),
-                 kPair.height() * static_cast<int>(kRows), QImage::Format_RGB32);
+                 kPair.height() * static_cast<int>(kWordRows), QImage::Format_RGB32);
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
     painter.setRenderHint(QPainter::Antialiasing);
