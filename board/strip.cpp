@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QWheelEvent>
 
 #include "board/board.h"
@@ -31,7 +32,8 @@ QIcon Chevron(bool down) {
 }
 
 QString ToolTip(const StripItem& item) {
-  return item.key.isEmpty() ? item.text : QStringLiteral("%1 (%2)").arg(item.text, item.key);
+  if (item.key.isEmpty()) return item.text;
+  return QStringLiteral("%1 (%2)").arg(item.text, item.key.toString());
 }
 
 /// What the buttons stand on. The arrow keys are the strip's, and the wheel moves the row.
@@ -50,11 +52,23 @@ class RowScroller : public QScrollArea {
   }
 };
 
+/// The key of an event as a button has it. The keypad's keys are those of the same name.
+QKeySequence KeyOf(const QKeyEvent& event) {
+  return QKeySequence(
+      QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key())));
+}
+
 bool TakesKeysItself(const QWidget* widget) {
   return widget != nullptr && dynamic_cast<const StripButton*>(widget) == nullptr;
 }
 
 }  // namespace
+
+void StripButton::Press() {
+  if (!isEnabledTo(parentWidget())) return;
+  nextCheckState();
+  Q_EMIT clicked(isChecked());
+}
 
 void StripButton::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
@@ -132,7 +146,24 @@ StripButton* Strip::AddButton(Group group, const StripItem& item, std::function<
   button->setFocusPolicy(Qt::TabFocus);
   connect(button, &QToolButton::clicked, this, std::move(click));
   AddControl(group, button);
+  AddKey(item, button);
+  if (item.restsWhileWriting) RestWhileWriting(button);
   return button;
+}
+
+void Strip::AddKey(const StripItem& item, StripButton* button) {
+  if (item.key.isEmpty()) return;
+  if (item.keyWorks != StripKeyWorks::WhenIdle) keys_[item.key] = button;
+  if (item.keyWorks == StripKeyWorks::WhileWriting) return;
+  auto* key = new QShortcut(item.key, &board_);
+  key->setAutoRepeat(false);
+  connect(key, &QShortcut::activated, button, &StripButton::Press);
+}
+
+void Strip::RestWhileWriting(StripButton* button) {
+  const auto follow = [this, button] { button->setEnabled(!board_.pen().IsWriting()); };
+  connect(&board_.pen(), &BoardPen::Changed, button, follow);
+  follow();
 }
 
 void Strip::AddControl(Group group, QWidget* control) {
@@ -155,16 +186,15 @@ void Strip::SetTabOrders() {
 
 /// A text box or slider of the strip that has the focus needs its keys itself.
 bool Strip::WantsKey(const QKeyEvent& event) const {
-  if (!board_.pen().IsWriting() || !keys_.contains(event.key())) return false;
-  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+  if (!board_.pen().IsWriting() || !keys_.contains(KeyOf(event))) return false;
   const QWidget* focus = QApplication::focusWidget();
   return !isAncestorOf(focus) || !TakesKeysItself(focus);
 }
 
 void Strip::keyPressEvent(QKeyEvent* event) {
-  const auto press = keys_.find(event->key());
-  if (press == keys_.end()) return QToolBar::keyPressEvent(event);
-  if (!event->isAutoRepeat()) press->second();
+  const auto button = keys_.find(KeyOf(*event));
+  if (button == keys_.end()) return QToolBar::keyPressEvent(event);
+  if (!event->isAutoRepeat()) button->second->Press();
 }
 
 void Strip::Fold(bool folded) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QKeySequence>
 #include <QString>
 #include <QToolBar>
 #include <QToolButton>
@@ -26,17 +27,26 @@ class StripButton : public QToolButton {
  public:
   using QToolButton::QToolButton;
 
+  /// As a click, unless it rests; also while the strip is folded away, which disables all on it.
+  void Press();
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 };
+
+/// When the key of a button presses it. At other times it is a key like any other, which waits for
+/// the letter's end while one is written.
+enum class StripKeyWorks : std::uint8_t { WhenIdle, WhileWriting, Always };
 
 /// What a button of the strip is.
 struct StripItem {
   const char* name;  ///< of the object, as "strip_pause"
   QString text;      ///< for tool tip and screen reader
-  QString key;       ///< as the tool tip shows it; empty for none
+  QKeySequence key;  ///< presses it, and stands in the tool tip; empty for none
   QIcon picture;
   bool checkable = false;
+  StripKeyWorks keyWorks = StripKeyWorks::WhenIdle;
+  bool restsWhileWriting = false;  ///< disabled then: for a window whose input would be held
 };
 
 /// The bar itself, "strip", made when the first companion asks the board for it. Stands below the
@@ -52,19 +62,19 @@ class Strip : public QToolBar {
 
   explicit Strip(Board& board);
 
-  /// Adds a button to the right end of a group. `click` runs when it was pressed and switched.
+  /// Adds a button to the right end of a group. `click` runs when it was pressed and switched, by
+  /// hand or by its key; a held key presses once. With the strip focused, a key that works while a
+  /// letter is written works too.
   StripButton* AddButton(Group group, const StripItem& item, std::function<void()> click);
   /// Adds another control there; its object name is its own. It belongs to the strip.
   void AddControl(Group group, QWidget* control);
-
-  /// While a letter is written, and while the strip has the focus, that key runs `press`, a held
-  /// key once.
-  void OnKey(Qt::Key key, std::function<void()> press) { keys_[key] = std::move(press); }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void AddKey(const StripItem& item, StripButton* button);
+  void RestWhileWriting(StripButton* button);
   bool WantsKey(const QKeyEvent& event) const;
   void Fold(bool folded);
   void FollowChoice();
@@ -76,7 +86,7 @@ class Strip : public QToolBar {
   QAction* shown_ = nullptr;  ///< whether the row is shown; a tool bar shows a hidden widget again
   std::array<QHBoxLayout*, 3> groups_{};
   QToolButton* fold_;
-  std::map<int, std::function<void()>> keys_;
+  std::map<QKeySequence, StripButton*> keys_;  ///< those that work while a letter is written
 };
 
 }  // namespace bramlee

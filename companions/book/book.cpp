@@ -1,7 +1,5 @@
 #include "companions/book/book.h"
 
-#include <QShortcut>
-
 #include "board/board.h"
 #include "board/book_letters.h"
 #include "board/strip.h"
@@ -35,15 +33,12 @@ void AddBookSwitch(Board& board) {
       Strip::Group::Teacher,
       {.name = "strip_book",
        .text = QStringLiteral("Letters as in the book"),
-       .key = QStringLiteral("B"),
+       .key = Qt::Key_B,
        .picture = BookPicture(),
        .checkable = true},
       [] { Choices::Instance().Choose(kBook, !BookLetters::Instance().On()); });
   Follow(*button);
   QObject::connect(&Choices::Instance(), &Choices::Changed, button, [button] { Follow(*button); });
-  auto* key = new QShortcut(Qt::Key_B, &board);
-  key->setAutoRepeat(false);
-  QObject::connect(key, &QShortcut::activated, button, &StripButton::click);
 }
 
 }  // namespace bramlee

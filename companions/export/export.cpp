@@ -1,7 +1,5 @@
 #include "companions/export/export.h"
 
-#include <QShortcut>
-
 #include "board/board.h"
 #include "board/strip.h"
 #include "board/strip_pictures.h"
@@ -19,41 +17,22 @@ QIcon ExportPicture() {
   });
 }
 
-/// One a board.
-class Exports : public QObject {
- public:
-  explicit Exports(Board& board) : QObject(&board), board_(board) {
-    button_ = board.strip().AddButton(Strip::Group::Teacher,
-                                      {.name = "strip_export",
-                                       .text = QStringLiteral("Export letters to files"),
-                                       .key = QStringLiteral("E"),
-                                       .picture = ExportPicture()},
-                                      [this] { Show(); });
-    auto* key = new QShortcut(Qt::Key_E, &board);
-    key->setAutoRepeat(false);
-    connect(key, &QShortcut::activated, button_, &StripButton::click);
-    connect(&board.pen(), &BoardPen::Changed, this, [this] { FollowPen(); });
-    FollowPen();
-  }
-
- private:
-  /// Input for a dialog would wait for the letter's end.
-  void FollowPen() { button_->setEnabled(!board_.pen().IsWriting()); }
-
-  void Show() {
-    auto* dialog = new ExportDialog(board_);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
-  }
-
-  Board& board_;
-  StripButton* button_;
-};
+void Show(Board& board) {
+  auto* dialog = new ExportDialog(board);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->open();
+}
 
 }  // namespace
 
 void AddExport(Board& board) {
-  new Exports(board);
+  board.strip().AddButton(Strip::Group::Teacher,
+                          {.name = "strip_export",
+                           .text = QStringLiteral("Export letters to files"),
+                           .key = Qt::Key_E,
+                           .picture = ExportPicture(),
+                           .restsWhileWriting = true},
+                          [&board] { Show(board); });
 }
 
 }  // namespace bramlee

@@ -1,7 +1,5 @@
 #include "companions/fit/fit.h"
 
-#include <QShortcut>
-
 #include "board/board.h"
 #include "board/strip.h"
 #include "board/strip_pictures.h"
@@ -55,15 +53,11 @@ class Fitting : public QObject {
     button_ = board.strip().AddButton(Strip::Group::Teacher,
                                       {.name = "strip_fit",
                                        .text = QStringLiteral("Fit the board to the window"),
-                                       .key = QStringLiteral("F"),
+                                       .key = Qt::Key_F,
                                        .picture = FitPicture(),
-                                       .checkable = true},
+                                       .checkable = true,
+                                       .keyWorks = StripKeyWorks::Always},
                                       [this] { Choose(button_->isChecked()); });
-    const auto press = [] { Choose(!Chosen()); };
-    board.strip().OnKey(Qt::Key_F, press);
-    auto* whenIdle = new QShortcut(Qt::Key_F, &board);
-    whenIdle->setAutoRepeat(false);
-    connect(whenIdle, &QShortcut::activated, this, press);
     connect(&Choices::Instance(), &Choices::Changed, this, [this](const QString& name) {
       if (name == kFits) Follow();
     });

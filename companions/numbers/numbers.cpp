@@ -1,7 +1,5 @@
 #include "companions/numbers/numbers.h"
 
-#include <QShortcut>
-
 #include "board/board.h"
 #include "board/strip.h"
 #include "board/strip_pictures.h"
@@ -32,21 +30,15 @@ QIcon Picture() {
 class Numbering : public QObject {
  public:
   explicit Numbering(Board& board) : QObject(&board), board_(board), layer_(board.pen()) {
-    const auto choose = [] {
-      Choices& choices = Choices::Instance();
-      choices.Choose(kShown, !choices.Of(kShown, false).toBool());
-    };
-    button_ = board.strip().AddButton(Strip::Group::Teacher,
-                                      {.name = "strip_numbers",
-                                       .text = QStringLiteral("Numbers and arrows"),
-                                       .key = QStringLiteral("N"),
-                                       .picture = Picture(),
-                                       .checkable = true},
-                                      choose);
-    board.strip().OnKey(Qt::Key_N, choose);
-    auto* whenIdle = new QShortcut(Qt::Key_N, &board);
-    whenIdle->setAutoRepeat(false);
-    connect(whenIdle, &QShortcut::activated, this, choose);
+    button_ = board.strip().AddButton(
+        Strip::Group::Teacher,
+        {.name = "strip_numbers",
+         .text = QStringLiteral("Numbers and arrows"),
+         .key = Qt::Key_N,
+         .picture = Picture(),
+         .checkable = true,
+         .keyWorks = StripKeyWorks::Always},
+        [this] { Choices::Instance().Choose(kShown, button_->isChecked()); });
     board.sheet().AddLayerAbove(layer_);
     connect(&board.pen(), &BoardPen::Changed, this, [this] { FollowPen(); });
     connect(&Choices::Instance(), &Choices::Changed, this, [this] { FollowChoices(); });

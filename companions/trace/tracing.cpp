@@ -82,7 +82,7 @@ void Tracing::MakeButtons() {
   trace_ = strip.AddButton(kGroup,
                            {.name = "strip_trace",
                             .text = QStringLiteral("Trace"),
-                            .key = QStringLiteral("T"),
+                            .key = Qt::Key_T,
                             .picture = TracePicture(),
                             .checkable = true},
                            [this] { SwitchOn(trace_->isChecked()); });
@@ -112,9 +112,6 @@ void Tracing::MakeButtons() {
                             .checkable = true},
                            [this] { Choices::Instance().Choose(kGiven, given_->isChecked()); });
   for (StripButton* option : {hand_, clicks_, given_}) option->hide();
-  auto* key = new QShortcut(Qt::Key_T, &board_);
-  key->setAutoRepeat(false);
-  connect(key, &QShortcut::activated, this, [this] { SwitchOn(!on_); });
 }
 
 void Tracing::SwitchOn(bool on) {

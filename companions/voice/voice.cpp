@@ -1,7 +1,5 @@
 #include "companions/voice/voice.h"
 
-#include <QShortcut>
-
 #include "board/board.h"
 #include "board/strip.h"
 #include "board/strip_pictures.h"
@@ -25,41 +23,22 @@ QIcon VoicePicture() {
   });
 }
 
-/// One a board.
-class OwnVoice : public QObject {
- public:
-  explicit OwnVoice(Board& board) : QObject(&board), board_(board) {
-    button_ = board.strip().AddButton(Strip::Group::Teacher,
-                                      {.name = "strip_voice",
-                                       .text = QStringLiteral("Own voice"),
-                                       .key = QStringLiteral("V"),
-                                       .picture = VoicePicture()},
-                                      [this] { Trap(kTag, [this](ErrInfo&) { Show(); }); });
-    auto* key = new QShortcut(Qt::Key_V, &board);
-    key->setAutoRepeat(false);
-    connect(key, &QShortcut::activated, button_, &StripButton::click);
-    connect(&board.pen(), &BoardPen::Changed, this, [this] { FollowPen(); });
-    FollowPen();
-  }
-
- private:
-  /// Input for a window would wait for the letter's end.
-  void FollowPen() { button_->setEnabled(!board_.pen().IsWriting()); }
-
-  void Show() {
-    auto* window = new VoiceWindow(board_);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->open();
-  }
-
-  Board& board_;
-  StripButton* button_;
-};
+void Show(Board& board) {
+  auto* window = new VoiceWindow(board);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  window->open();
+}
 
 }  // namespace
 
 void AddOwnVoice(Board& board) {
-  new OwnVoice(board);
+  board.strip().AddButton(Strip::Group::Teacher,
+                          {.name = "strip_voice",
+                           .text = QStringLiteral("Own voice"),
+                           .key = Qt::Key_V,
+                           .picture = VoicePicture(),
+                           .restsWhileWriting = true},
+                          [&board] { Trap(kTag, [&board](ErrInfo&) { Show(board); }); });
 }
 
 }  // namespace bramlee

@@ -1,6 +1,5 @@
 #include "companions/watch/watch.h"
 
-#include <QShortcut>
 #include <QSlider>
 #include <cmath>
 
@@ -63,26 +62,34 @@ class Watching : public QObject {
  public:
   explicit Watching(Board& board) : QObject(&board), board_(board) {
     Strip& strip = board.strip();
-    const auto add = [&](const char* name, const char* text, const QString& key, QIcon picture,
-                         void (Watching::*press)()) {
-      return strip.AddButton(Strip::Group::Watch,
-                             {name, QString::fromLatin1(text), key, std::move(picture)},
-                             [this, press] { Do(press); });
+    const auto add = [&](const StripItem& item, void (Watching::*press)()) {
+      return strip.AddButton(Strip::Group::Watch, item, [this, press] { Do(press); });
     };
-    back_ =
-        add("strip_back", "Stroke back", QStringLiteral("Left"), BackPicture(), &Watching::Back);
-    pause_ =
-        add("strip_pause", "Pause", QStringLiteral("Space"), pausePicture_, &Watching::PauseOrGoOn);
-    on_ = add("strip_on", "Stroke on", QStringLiteral("Right"), OnPicture(), &Watching::On);
-    again_ = add("strip_again", "Again", QStringLiteral("R"), AgainPicture(), &Watching::Again);
+    back_ = add({.name = "strip_back",
+                 .text = QStringLiteral("Stroke back"),
+                 .key = Qt::Key_Left,
+                 .picture = BackPicture(),
+                 .keyWorks = StripKeyWorks::WhileWriting},
+                &Watching::Back);
+    pause_ = add({.name = "strip_pause",
+                  .text = QStringLiteral("Pause"),
+                  .key = Qt::Key_Space,
+                  .picture = pausePicture_,
+                  .keyWorks = StripKeyWorks::WhileWriting},
+                 &Watching::PauseOrGoOn);
+    on_ = add({.name = "strip_on",
+               .text = QStringLiteral("Stroke on"),
+               .key = Qt::Key_Right,
+               .picture = OnPicture(),
+               .keyWorks = StripKeyWorks::WhileWriting},
+              &Watching::On);
+    again_ = add({.name = "strip_again",
+                  .text = QStringLiteral("Again"),
+                  .key = Qt::Key_R,
+                  .picture = AgainPicture(),
+                  .keyWorks = StripKeyWorks::Always},
+                 &Watching::Again);
     strip.AddControl(Strip::Group::Watch, MakeSlider());
-    strip.OnKey(Qt::Key_Left, [this] { Do(&Watching::Back); });
-    strip.OnKey(Qt::Key_Space, [this] { Do(&Watching::PauseOrGoOn); });
-    strip.OnKey(Qt::Key_Right, [this] { Do(&Watching::On); });
-    strip.OnKey(Qt::Key_R, [this] { Do(&Watching::Again); });
-    auto* whenIdle = new QShortcut(Qt::Key_R, &board);
-    whenIdle->setAutoRepeat(false);
-    connect(whenIdle, &QShortcut::activated, this, [this] { Do(&Watching::Again); });
     connect(&board.pen(), &BoardPen::Changed, this, [this] { Follow(); });
     connect(&Choices::Instance(), &Choices::Changed, this, [this] { FollowSpeed(); });
     FollowSpeed();

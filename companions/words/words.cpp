@@ -1,6 +1,5 @@
 #include "companions/words/words.h"
 
-#include <QShortcut>
 #include <algorithm>
 #include <utility>
 
@@ -76,13 +75,10 @@ class WordWriting : public QObject {
     board.strip().AddButton(Strip::Group::Teacher,
                             {.name = "strip_words",
                              .text = QStringLiteral("Words"),
-                             .key = QStringLiteral("W"),
-                             .picture = WordsPicture()},
+                             .key = Qt::Key_W,
+                             .picture = WordsPicture(),
+                             .keyWorks = StripKeyWorks::Always},
                             open);
-    board.strip().OnKey(Qt::Key_W, open);
-    auto* whenIdle = new QShortcut(Qt::Key_W, &board);
-    whenIdle->setAutoRepeat(false);
-    connect(whenIdle, &QShortcut::activated, this, open);
     connect(&board.pen(), &BoardPen::Changed, this,
             [this] { panel_->SetWriting(board_.pen().IsWriting()); });
   }

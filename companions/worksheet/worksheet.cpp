@@ -1,7 +1,6 @@
 #include "companions/worksheet/worksheet.h"
 
 #include <QPointer>
-#include <QShortcut>
 
 #include "board/board.h"
 #include "board/strip.h"
@@ -28,15 +27,12 @@ QIcon WorksheetPicture() {
 class Worksheets : public QObject {
  public:
   explicit Worksheets(Board& board) : QObject(&board), board_(board) {
-    StripButton* button = board.strip().AddButton(Strip::Group::Teacher,
-                                                  {.name = "strip_sheets",
-                                                   .text = QStringLiteral("Worksheet"),
-                                                   .key = QStringLiteral("Ctrl+P"),
-                                                   .picture = WorksheetPicture()},
-                                                  [this] { OpenWhenFree(); });
-    auto* key = new QShortcut(QKeySequence::Print, &board);
-    key->setAutoRepeat(false);
-    connect(key, &QShortcut::activated, button, &StripButton::click);
+    board.strip().AddButton(Strip::Group::Teacher,
+                            {.name = "strip_sheets",
+                             .text = QStringLiteral("Worksheet"),
+                             .key = QKeySequence::Print,
+                             .picture = WorksheetPicture()},
+                            [this] { OpenWhenFree(); });
   }
 
  private:
