@@ -17,8 +17,6 @@ function(bramlee_folder name)
     endif()
   else()
     target_link_libraries(bramlee_${name} PRIVATE bramlee_options)
-    # Compiled in a moment, and sources of letters name their routines alike.
-    set_target_properties(bramlee_${name} PROPERTIES UNITY_BUILD OFF)
     target_include_directories(bramlee_${name} PUBLIC ${PROJECT_SOURCE_DIR})
   endif()
 endfunction()

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "strokes/code_table.h"
 #include "strokes/hindi_anchors.h"
 #include "strokes/hindi_text.h"
 #include "strokes/word.h"
@@ -99,13 +100,6 @@ const Letter& SignLetter(int tile, bool book = true) {
 
 const Letter& ConsonantLetter(int tile) {
   return LetterOf({.set = "hinc", .tile = tile, .form = {.book = true}});
-}
-
-template <class Table>
-auto Find(const Table& table, char32_t code) -> decltype(&table[0]) {
-  const auto found =
-      std::ranges::find_if(table, [code](const auto& each) { return each.code == code; });
-  return found == std::end(table) ? nullptr : &*found;
 }
 
 /// The runs of a letter that are its head line.
@@ -231,7 +225,7 @@ class Layout {
                                                  : kDotAtRound;
       AddDotBelow({foot_.x + dot.x, foot_.y + dot.y});
     }
-    if (consonant.join == HindiJoin::Mark) Hang(*Find(kBelow, hindi::kMark), foot_);
+    if (consonant.join == HindiJoin::Mark) Hang(*RecordOfCode(kBelow, hindi::kMark), foot_);
     x_ = end + right;
   }
 
@@ -247,7 +241,8 @@ class Layout {
   }
 
   void AddDotBelow(Point middle) {
-    Add(SignLetter(Find(kAbove, hindi::kDotAbove)->tile), middle.x - kDot.x, middle.y - kDot.y);
+    Add(SignLetter(RecordOfCode(kAbove, hindi::kDotAbove)->tile), middle.x - kDot.x,
+        middle.y - kDot.y);
   }
 
   void LeaveRoomForI() {
@@ -274,7 +269,7 @@ class Layout {
   }
 
   void LayBehind() {
-    const SignBehind* sign = Find(kBehind, syllable_.sign);
+    const SignBehind* sign = RecordOfCode(kBehind, syllable_.sign);
     if (sign == nullptr) return;
     const double right = x_ - sign->left;
     Add(SignLetter(sign->tile), right, 0, sign->firstRun);
@@ -286,7 +281,7 @@ class Layout {
 
   /// A sign of the table, if the syllable has one, at that place.
   void LayHanging(std::span<const HangingSign> signs, Point at) {
-    const HangingSign* sign = Find(signs, syllable_.sign);
+    const HangingSign* sign = RecordOfCode(signs, syllable_.sign);
     if (sign == nullptr) return;
     Hang(*sign, at);
   }
@@ -314,8 +309,8 @@ class Layout {
     double aside = 0;
     LayHanging(kAbove, {head_, kWordHead});
     if (syllable_.moon) {
-      Add(SignLetter(Find(kAbove, hindi::kMoon)->tile, false),
-          head_ - Find(kAbove, hindi::kMoon)->at.x);
+      Add(SignLetter(RecordOfCode(kAbove, hindi::kMoon)->tile, false),
+          head_ - RecordOfCode(kAbove, hindi::kMoon)->at.x);
     }
     if (syllable_.reph) {
       Add(ConsonantLetter(kReph.tile), head_ - kReph.at.x);
@@ -324,7 +319,7 @@ class Layout {
       aside = kAsideOfSign;
     }
     if (syllable_.above == 0) return;
-    Hang(*Find(kAbove, syllable_.above),
+    Hang(*RecordOfCode(kAbove, syllable_.above),
          {head_ + aside, kWordHead - (syllable_.moon ? 25.0 : 0.0)});
   }
 
@@ -334,9 +329,9 @@ class Layout {
   }
 
   bool VowelReachesUp() const {
-    static constexpr char32_t kVowels[] = {0x908, 0x910, 0x913, 0x914};  // ई ऐ ओ औ
+    static constexpr char32_t kReaching[] = {0x908, 0x910, 0x913, 0x914};  // ई ऐ ओ औ
     return syllable_.vowel != nullptr &&
-           std::ranges::find(kVowels, syllable_.vowel->code) != std::end(kVowels);
+           std::ranges::find(kReaching, syllable_.vowel->code) != std::end(kReaching);
   }
 
   void LayDotsBeside() {

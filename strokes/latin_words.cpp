@@ -14,7 +14,7 @@ namespace {
 // alike. Print has the same order; the figures are those at which names look evenly set.
 constexpr double kStraight = 17;
 constexpr double kRound = 11;
-constexpr double kOpen = 8;
+constexpr double kOpenSide = 8;
 constexpr double kSlanted = 4;
 
 struct LatinLetter {
@@ -30,16 +30,16 @@ constexpr LatinLetter kLetters[] = {
     // code, set, tile, left, right
     {U'A',  "engc",  1, kSlanted,  kSlanted},
     {U'B',  "engc",  2, kStraight, kRound},
-    {U'C',  "engc",  3, kRound,    kOpen},
+    {U'C',  "engc",  3, kRound,    kOpenSide},
     {U'D',  "engc",  4, kStraight, kRound},
-    {U'E',  "engc",  5, kStraight, kOpen},
-    {U'F',  "engc",  6, kStraight, kOpen},
+    {U'E',  "engc",  5, kStraight, kOpenSide},
+    {U'F',  "engc",  6, kStraight, kOpenSide},
     {U'G',  "engc",  7, kRound,    kStraight},
     {U'H',  "engc",  8, kStraight, kStraight},
     {U'I',  "engc",  9, kStraight, kStraight},
-    {U'J',  "engc", 10, kOpen,     kStraight},
+    {U'J',  "engc", 10, kOpenSide,     kStraight},
     {U'K',  "engc", 11, kStraight, kSlanted},
-    {U'L',  "engc", 12, kStraight, kOpen},
+    {U'L',  "engc", 12, kStraight, kOpenSide},
     {U'M',  "engc", 13, kStraight, kStraight},
     {U'N',  "engc", 14, kStraight, kStraight},
     {U'O',  "engc", 15, kRound,    kRound},
@@ -53,17 +53,17 @@ constexpr LatinLetter kLetters[] = {
     {U'W',  "engc", 23, kSlanted,  kSlanted},
     {U'X',  "engc", 24, kSlanted,  kSlanted},
     {U'Y',  "engc", 25, kSlanted,  kSlanted},
-    {U'Z',  "engc", 26, kOpen,     kOpen},
+    {U'Z',  "engc", 26, kOpenSide,     kOpenSide},
     {U'a',  "engs",  1, kRound,    kStraight},
     {U'b',  "engs",  2, kStraight, kRound},
-    {U'c',  "engs",  3, kRound,    kOpen},
+    {U'c',  "engs",  3, kRound,    kOpenSide},
     {U'd',  "engs",  4, kRound,    kStraight},
-    {U'e',  "engs",  5, kRound,    kOpen},
-    {U'f',  "engs",  6, kOpen,     kSlanted},
+    {U'e',  "engs",  5, kRound,    kOpenSide},
+    {U'f',  "engs",  6, kOpenSide,     kSlanted},
     {U'g',  "engs",  7, kRound,    kStraight},
     {U'h',  "engs",  8, kStraight, kStraight},
     {U'i',  "engs",  9, kStraight, kStraight},
-    {U'j',  "engs", 10, kOpen,     kStraight},
+    {U'j',  "engs", 10, kOpenSide,     kStraight},
     {U'k',  "engs", 11, kStraight, kSlanted},
     {U'l',  "engs", 12, kStraight, kStraight},
     {U'm',  "engs", 13, kStraight, kStraight},
@@ -73,30 +73,30 @@ constexpr LatinLetter kLetters[] = {
     {U'q',  "engs", 17, kRound,    kStraight},
     {U'r',  "engs", 18, kStraight, kSlanted},
     {U's',  "engs", 19, kRound,    kRound},
-    {U't',  "engs", 20, kOpen,     kOpen},
+    {U't',  "engs", 20, kOpenSide,     kOpenSide},
     {U'u',  "engs", 21, kStraight, kStraight},
     {U'v',  "engs", 22, kSlanted,  kSlanted},
     {U'w',  "engs", 23, kSlanted,  kSlanted},
     {U'x',  "engs", 24, kSlanted,  kSlanted},
     {U'y',  "engs", 25, kSlanted,  kSlanted},
-    {U'z',  "engs", 26, kOpen,     kOpen},
+    {U'z',  "engs", 26, kOpenSide,     kOpenSide},
     {U'1',  "mat",  1, kStraight, kStraight},
-    {U'2',  "mat",  2, kRound,    kOpen},
-    {U'3',  "mat",  3, kOpen,     kRound},
+    {U'2',  "mat",  2, kRound,    kOpenSide},
+    {U'3',  "mat",  3, kOpenSide,     kRound},
     {U'4',  "mat",  4, kSlanted,  kStraight},
-    {U'5',  "mat",  5, kOpen,     kRound},
+    {U'5',  "mat",  5, kOpenSide,     kRound},
     {U'6',  "mat",  6, kRound,    kRound},
-    {U'7',  "mat",  7, kOpen,     kSlanted},
+    {U'7',  "mat",  7, kOpenSide,     kSlanted},
     {U'8',  "mat",  8, kRound,    kRound},
     {U'9',  "mat",  9, kRound,    kStraight},
     {U'0',  "mat", 10, kRound,    kRound},
-    {U'+',  "mat", 11, kOpen,     kOpen},
-    {U'-',  "mat", 12, kOpen,     kOpen},
-    {0xD7,  "mat", 13, kOpen,     kOpen},  // ×
-    {0xF7,  "mat", 14, kOpen,     kOpen},  // ÷
+    {U'+',  "mat", 11, kOpenSide,     kOpenSide},
+    {U'-',  "mat", 12, kOpenSide,     kOpenSide},
+    {0xD7,  "mat", 13, kOpenSide,     kOpenSide},  // ×
+    {0xF7,  "mat", 14, kOpenSide,     kOpenSide},  // ÷
     {U'%',  "mat", 15, kRound,    kRound},
-    {U'=',  "mat", 16, kOpen,     kOpen},
-    {U'?',  "mat", 17, kOpen,     kOpen},
+    {U'=',  "mat", 16, kOpenSide,     kOpenSide},
+    {U'?',  "mat", 17, kOpenSide,     kOpenSide},
 };
 // clang-format on
 

@@ -81,6 +81,10 @@ double DistanceBetween(const Point& a, const Point& b) {
   return std::hypot(b.x - a.x, b.y - a.y);
 }
 
+Point Moved(const Point& point, const Point& by, double times) {
+  return {point.x + by.x * times, point.y + by.y * times};
+}
+
 std::optional<Box> BoundsOf(std::span<const Run> runs, double step) {
   constexpr double kFar = 1e9;
   double left = kFar, top = kFar, right = -kFar, bottom = -kFar;

@@ -24,6 +24,9 @@ inline Point AsPlotted(double x, double y) {
 
 double DistanceBetween(const Point& a, const Point& b);
 
+/// The point so many times `by` away.
+Point Moved(const Point& point, const Point& by, double times);
+
 /// A rectangle on the sheet; all zeros for one around nothing.
 struct Box {
   double x = 0;

@@ -20,10 +20,6 @@ Point RightOf(const Point& from, const Point& to) {
   return {(from.y - to.y) / length, (to.x - from.x) / length};
 }
 
-Point Moved(const Point& point, const Point& by, double times) {
-  return {point.x + by.x * times, point.y + by.y * times};
-}
-
 /// The arrow's line; none where the path is shorter or turns a corner.
 std::vector<Point> LineOf(const StrokePath& path, const ArrowRule& rule) {
   const std::vector<Point>& points = path.points;

@@ -52,11 +52,7 @@ constexpr double kHeadInLineOnInk = 0.93;
 /// A disc is nearer to its own beginning by so much, in sheet pixels.
 constexpr double kNearer = 0.5;
 /// The sine up to which a disc stands behind its stroke rather than beside it.
-constexpr double kBehind = 0.2;
-
-Point Moved(const Point& point, const Point& by, double times) {
-  return {point.x + by.x * times, point.y + by.y * times};
-}
+constexpr double kStraightBehind = 0.2;
 
 double Dot(const Point& a, const Point& b) {
   return a.x * b.x + a.y * b.y;
@@ -271,7 +267,7 @@ double Placer::SideOf(std::size_t stroke) const {
   const Point right{-begin.way.y, begin.way.x};
   const Point out = Towards(begin.place, numbers_[stroke].centre);
   const double side = Dot(right, out);
-  if (std::abs(side) > kBehind) return side > 0 ? 1 : -1;
+  if (std::abs(side) > kStraightBehind) return side > 0 ? 1 : -1;
   return Dot(right, hand_) < 0 ? 1 : -1;
 }
 

@@ -13,7 +13,7 @@ constexpr TeluguForm kHooked = TeluguForm::Hooked;
 constexpr TeluguForm kHa = TeluguForm::Ha;
 
 // clang-format off
-constexpr TeluguAnchors kLetters[] = {
+constexpr TeluguAnchors kAnchors[] = {
     // code, tile, below, head, side, loop, foot, form
     {0x0C15,  1, 18, {225.5, 315}, 225.5, 225.5, {187.5, 262.5}},  // క
     {0x0C16,  2, 19, {495, 325}, 495, 495, {362.6, 562}},  // ఖ, by hand
@@ -59,7 +59,7 @@ constexpr TeluguAnchors kLetters[] = {
 }  // namespace
 
 std::span<const TeluguAnchors> TeluguLetters() {
-  return kLetters;
+  return kAnchors;
 }
 
 }  // namespace bramlee

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "strokes/code_table.h"
 #include "strokes/telugu_anchors.h"
 #include "strokes/telugu_signs.h"
 #include "strokes/word.h"
@@ -89,7 +90,7 @@ struct Vowel {
   char32_t code;
   int tile;
 };
-constexpr Vowel kVowels[] = {
+constexpr Vowel kVowelTiles[] = {
     {0xC05, 1 },
     {0xC06, 2 },
     {0xC07, 3 },
@@ -123,13 +124,6 @@ constexpr double kBarOfHook = 70;
 /// Forms below that begin higher than this stand at the right foot, the others under the letter.
 constexpr double kFootLine = 470;
 constexpr double kOverFoot = 8;  ///< how far they reach into the room of the letter
-
-template <class Table>
-auto Find(const Table& table, char32_t code) -> decltype(&table[0]) {
-  const auto found =
-      std::ranges::find_if(table, [code](const auto& each) { return each.code == code; });
-  return found == std::end(table) || code == 0 ? nullptr : &*found;
-}
 
 const Letter& VowelTile(int tile) {
   return LetterOf({.set = "telv", .tile = tile, .form = {.book = true}});
@@ -167,11 +161,11 @@ class Syllable {
   explicit Syllable(std::span<const TextCharacter> text) : text_(text) {}
 
   Cluster Read() {
-    if (const Vowel* vowel = Find(kVowels, Code())) {
+    if (const Vowel* vowel = RecordOfCode(kVowelTiles, Code())) {
       Add(VowelTile(vowel->tile), {});
       hasLetter_ = true;
       ++at_;
-    } else if (Find(TeluguLetters(), Code()) != nullptr) {
+    } else if (RecordOfCode(TeluguLetters(), Code()) != nullptr) {
       ReadConsonants();
       hasLetter_ = true;
     }
@@ -194,11 +188,11 @@ class Syllable {
   }
 
   void ReadConsonants() {
-    letters_.push_back(Find(TeluguLetters(), Code()));
+    letters_.push_back(RecordOfCode(TeluguLetters(), Code()));
     ++at_;
     while (Code() == kVirama) {
       const std::size_t joiner = Code(1) == kJoiner ? 1 : 0;
-      const TeluguAnchors* next = Find(TeluguLetters(), Code(1 + joiner));
+      const TeluguAnchors* next = RecordOfCode(TeluguLetters(), Code(1 + joiner));
       if (next == nullptr || next->below == 0) return;
       if (letters_.size() == 1 && letters_[0]->code == kKa && next->code == kSsa) {
         letters_[0] = &TeluguLetters().back();
@@ -214,8 +208,8 @@ class Syllable {
       const char32_t code = Code();
       if (IsJoiner(code) && at_ > 0) continue;
       const bool isVowelSign =
-          Find(kHeadSigns, code) != nullptr || Find(kFootSigns, code) != nullptr;
-      const EndSign* end = Find(kEndSigns, code);
+          RecordOfCode(kHeadSigns, code) != nullptr || RecordOfCode(kFootSigns, code) != nullptr;
+      const EndSign* end = RecordOfCode(kEndSigns, code);
       if (!isVowelSign && end == nullptr) return;
       const bool hasRoom = isVowelSign
                                ? sign_ == 0 && ends_.empty() && (!hasLetter_ || !letters_.empty())
@@ -232,7 +226,7 @@ class Syllable {
 
   void LayConsonants() {
     if (!letters_.empty() && letters_.front()->form == TeluguForm::Hooked) return LayHooked();
-    LayConsonants(Find(kHeadSigns, sign_), Find(kFootSigns, sign_));
+    LayConsonants(RecordOfCode(kHeadSigns, sign_), RecordOfCode(kFootSigns, sign_));
   }
 
   /// A letter whose last hook carries aa and au keeps its tick with them; o is e and a further
@@ -240,9 +234,10 @@ class Syllable {
   void LayHooked() {
     const bool isYa = letters_.front()->code == kYa;
     const bool isHookCut = sign_ == kAa || sign_ == kOo || (isYa && sign_ == kIi);
-    if (sign_ == kO) return LayConsonants(Find(kHeadSigns, kE), Find(kFootSigns, kU));
+    if (sign_ == kO)
+      return LayConsonants(RecordOfCode(kHeadSigns, kE), RecordOfCode(kFootSigns, kU));
     if (!isHookCut && !(isYa && sign_ == kI)) {
-      return LayConsonants(Find(kHeadSigns, sign_), Find(kFootSigns, sign_));
+      return LayConsonants(RecordOfCode(kHeadSigns, sign_), RecordOfCode(kFootSigns, sign_));
     }
     const TeluguAnchors& anchors = *letters_.front();
     const Letter& letter = ConsonantTile(anchors.tile);
@@ -251,7 +246,7 @@ class Syllable {
     if (isHookCut) hook = CutHook(letter, without);
     Add(letter, {}, without);
     cluster_.ink.AddStroke(hook);
-    if (sign_ == kOo) LayHead(*Find(kHeadSigns, kE), anchors);
+    if (sign_ == kOo) LayHead(*RecordOfCode(kHeadSigns, kE), anchors);
     LayAllBelow(anchors, letter);
   }
 

@@ -15,7 +15,7 @@ constexpr int kMostMisses = static_cast<int>(TraceHelp::Written);
 
 /// How much further than half the corridor's width from its place the pen may come down: a small
 /// child hits a point less well than it follows a line.
-constexpr double kWiderAtStart = 1.3;
+constexpr double kFurtherAtStart = 1.3;
 
 /// On a short stroke the corridor narrows to this share of the stroke, but not below this share of
 /// itself: a corridor as wide as the stroke is long would let anything pass.
@@ -111,7 +111,7 @@ TraceRule Tracer::Rule() const {
       std::min(usual, std::max(kRadiusOfItself * usual, kRadiusOfStroke * path_.Length()));
   const double wider = misses_ >= kMissesToWiden ? kWider : 1;
   return {.radius = wider * std::max(forStroke, least),
-          .reach = wider * kWiderAtStart * std::max(usual, least)};
+          .reach = wider * kFurtherAtStart * std::max(usual, least)};
 }
 
 void Tracer::Down(const Point& place) {
