@@ -44,12 +44,12 @@ QString BoardNames() {
 
 QString LetterArguments::Read(const QCommandLineParser& parser, LetterRequest& request) const {
   const QStringList arguments = parser.positionalArguments();
-  for (const auto part : {&ReadBoard, &ReadTile}) {
-    QString error = part(arguments, request);
-    if (!error.isEmpty()) return error;
-  }
-  const QString error = ReadForm(parser, request);
-  return error.isEmpty() ? ReadPlace(parser, request) : error;
+  QString error = ReadBoard(arguments, request);
+  if (request.set == nullptr) return error;
+  error = ReadTile(arguments, request);
+  if (error.isEmpty()) error = ReadForm(parser, request);
+  if (error.isEmpty()) error = ReadPlace(parser, request);
+  return error;
 }
 
 QString LetterArguments::ReadForm(const QCommandLineParser& parser, LetterRequest& request) const {

@@ -162,7 +162,7 @@ class Reader {
   QString ReadLetters() {
     LetterRequest letters;
     QString error = letters_.Read(parser_, letters);
-    if (!error.isEmpty()) return error;
+    if (letters.set == nullptr || !error.isEmpty()) return error;
     letters.form.book = !given_;
     std::vector<Practice> practices;
     for (int tile = letters.firstTile; tile <= letters.lastTile; ++tile) {
