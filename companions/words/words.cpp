@@ -9,6 +9,7 @@
 #include "card/card_file.h"
 #include "companions/words/word_lines.h"
 #include "companions/words/words_panel.h"
+#include "companions/worksheet/worksheet.h"
 #include "files/trap.h"
 #include "strokes/writing_lines.h"
 #include "ui/choices.h"
@@ -67,11 +68,12 @@ WordRoom RoomOn(Board& board) {
 class WordWriting : public QObject {
  public:
   explicit WordWriting(Board& board) : QObject(&board), board_(board) {
-    panel_ = new WordsPanel(
-        &board, [this] { Do(&WordWriting::Write); }, [this] { Do(&WordWriting::WriteMyName); });
+    panel_ = new WordsPanel(&board, {.write = [this] { Do(&WordWriting::Write); },
+                                     .writeMy = [this] { Do(&WordWriting::WriteMyName); },
+                                     .print = [this] { Do(&WordWriting::Print); }});
     // Where it leaves the sheet free: over the tiles of a board whose sheet lies below them.
     const bool above = board.record().ruleExtent.top > kLeastTiles;
-    const auto open = [this, above] { panel_->Present(above); };
+    const auto open = [this, above] { panel_->Present(above, HasWorksheets(board_)); };
     board.strip().AddButton(Strip::Group::Teacher,
                             {.name = "strip_words",
                              .text = QStringLiteral("Words"),
@@ -88,16 +90,29 @@ class WordWriting : public QObject {
     Trap(kTag, [this, act](ErrInfo&) { (this->*act)(); });
   }
 
-  void WriteMyName() {
+  /// Puts the card's name in the line; otherwise says why not.
+  bool TakeMyName() {
     const QString name = HolderOfCard().name;
-    if (name.isEmpty()) return panel_->Say(QStringLiteral("The card has no name on it yet."));
     // The card holds "?" for each letter that its code page lacks.
     const auto isLetter = [](QChar character) { return character.isLetter(); };
-    if (name.contains(u'?') && std::ranges::none_of(name, isLetter)) {
-      return panel_->Say(QStringLiteral("The card cannot hold the letters of the name: type it."));
+    if (name.isEmpty()) {
+      panel_->Say(QStringLiteral("The card has no name on it yet."));
+    } else if (name.contains(u'?') && std::ranges::none_of(name, isLetter)) {
+      panel_->Say(QStringLiteral("The card cannot hold the letters of the name: type it."));
+    } else {
+      panel_->SetText(name);
+      return true;
     }
-    panel_->SetText(name);
-    Write();
+    return false;
+  }
+
+  void WriteMyName() {
+    if (TakeMyName()) Write();
+  }
+
+  void Print() {
+    const bool typed = !panel_->Text().trimmed().isEmpty();
+    if (typed || TakeMyName()) PrintWords(board_, panel_->Text());
   }
 
   void Write() {

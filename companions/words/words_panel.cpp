@@ -38,11 +38,12 @@ QCheckBox* PerLetterBox(QWidget* panel) {
 
 }  // namespace
 
-WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::function<void()> writeMy)
+WordsPanel::WordsPanel(QWidget* board, WordsActs acts)
     : QWidget(board, Qt::Tool),
       text_(new QLineEdit(this)),
       write_(new QPushButton(QStringLiteral("&Write"), this)),
       myName_(new QPushButton(QStringLiteral("&My name"), this)),
+      print_(new QPushButton(this)),
       said_(new QLabel(this)) {
   setObjectName(QStringLiteral("words_panel"));
   setWindowTitle(QStringLiteral("Words"));
@@ -57,25 +58,30 @@ WordsPanel::WordsPanel(QWidget* board, std::function<void()> write, std::functio
   write_->setObjectName(QStringLiteral("words_write"));
   myName_->setObjectName(QStringLiteral("words_my_name"));
   myName_->setToolTip(QStringLiteral("The name on the biodata card"));
+  print_->setObjectName(QStringLiteral("words_print"));
+  print_->setToolTip(QStringLiteral("On a worksheet, with the rows chosen there last"));
   said_->setObjectName(QStringLiteral("words_said"));
   said_->setTextFormat(Qt::PlainText);
   said_->setWordWrap(true);
   auto* layout = new QGridLayout(this);
-  layout->addWidget(text_, 0, 0, 1, 3);
+  layout->addWidget(text_, 0, 0, 1, 4);
   layout->addWidget(PerLetterBox(this), 1, 0);
-  layout->addWidget(myName_, 1, 1);
-  layout->addWidget(write_, 1, 2);
-  layout->addWidget(said_, 2, 0, 1, 3);
+  layout->addWidget(print_, 1, 1);
+  layout->addWidget(myName_, 1, 2);
+  layout->addWidget(write_, 1, 3);
+  layout->addWidget(said_, 2, 0, 1, 4);
   layout->setColumnStretch(0, 1);
   connect(text_, &QLineEdit::textChanged, this, [this] { FollowText(); });
   connect(text_, &QLineEdit::returnPressed, write_, &QPushButton::click);
-  connect(write_, &QPushButton::clicked, this, std::move(write));
-  connect(myName_, &QPushButton::clicked, this, std::move(writeMy));
+  connect(write_, &QPushButton::clicked, this, std::move(acts.write));
+  connect(myName_, &QPushButton::clicked, this, std::move(acts.writeMy));
+  connect(print_, &QPushButton::clicked, this, std::move(acts.print));
   HoldInput::Admit(this);
   FollowText();
 }
 
-void WordsPanel::Present(bool above) {
+void WordsPanel::Present(bool above, bool prints) {
+  print_->setVisible(prints);
   resize(std::min(kWidth, parentWidget()->width()), sizeHint().height());
   const QRect board(parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size());
   move(board.center().x() - width() / 2,
@@ -98,8 +104,11 @@ void WordsPanel::keyPressEvent(QKeyEvent* event) {
 }
 
 void WordsPanel::FollowText() {
-  write_->setEnabled(!writing_ && !text_->text().trimmed().isEmpty());
+  const bool empty = text_->text().trimmed().isEmpty();
+  write_->setEnabled(!writing_ && !empty);
   myName_->setEnabled(!writing_);
+  print_->setEnabled(!writing_);
+  print_->setText(empty ? QStringLiteral("&Print my name...") : QStringLiteral("&Print..."));
 }
 
 QString NamesOf(std::span<const LeftOut> leftOut) {

@@ -12,16 +12,23 @@
 
 namespace bramlee {
 
+/// What the buttons of the window do.
+struct WordsActs {
+  std::function<void()> write;    ///< Write, or Return in the line
+  std::function<void()> writeMy;  ///< My name
+  std::function<void()> print;    ///< Print
+};
+
 /// A line to type in, "words_text", with what belongs to it. Its input is never held (see
 /// ui/held_input.h): one can type the next word while a letter is written. Esc hides it.
 class WordsPanel : public QWidget {
  public:
-  /// A window of `board`, hidden at first. `write` is called when Write was pressed, or Return in
-  /// the line, `writeMy` when My name was.
-  WordsPanel(QWidget* board, std::function<void()> write, std::function<void()> writeMy);
+  /// A window of `board`, hidden at first.
+  WordsPanel(QWidget* board, WordsActs acts);
 
   /// Comes into view ready to type in, over the upper part of its board or just above the strip.
-  void Present(bool above);
+  /// Print is there if there is a way to print.
+  void Present(bool above, bool prints);
 
   QString Text() const { return text_->text(); }
   void SetText(const QString& text) { text_->setText(text); }
@@ -40,6 +47,7 @@ class WordsPanel : public QWidget {
   QLineEdit* text_;
   QPushButton* write_;
   QPushButton* myName_;
+  QPushButton* print_;
   QLabel* said_;
   bool writing_ = false;
 };

@@ -32,27 +32,30 @@ class Worksheets : public QObject {
                              .text = QStringLiteral("Worksheet"),
                              .key = QKeySequence::Print,
                              .picture = WorksheetPicture()},
-                            [this] { OpenWhenFree(); });
+                            [this] { OpenWhenFree({}); });
   }
 
- private:
+  /// Prints these words, if there are any.
+  ///
   /// A dialog in the middle of what is written could not be answered: its message boxes would wait
   /// for the letter's end, and the letter for them. So the letter comes to its end first, also one
   /// that pauses.
-  void OpenWhenFree() {
+  void OpenWhenFree(const QString& words) {
     if (awaited_) return;
     awaited_ = true;
     if (board_.pen().IsWriting()) board_.pen().GoOn();
-    WhenFree(this, [this] {
+    WhenFree(this, [this, words] {
       awaited_ = false;
-      Trap(QStringLiteral("wks:01"), [this](ErrInfo&) { Open(); });
+      Trap(QStringLiteral("wks:01"), [&](ErrInfo&) { Open(words); });
     });
   }
 
-  void Open() {
+ private:
+  void Open(const QString& words) {
     if (dialog_ != nullptr) return dialog_->raise();
     dialog_ = new WorksheetDialog(board_);
     dialog_->show();
+    if (!words.isEmpty()) dialog_->PrintWords(words);
   }
 
   Board& board_;
@@ -60,10 +63,25 @@ class Worksheets : public QObject {
   bool awaited_ = false;
 };
 
+Worksheets* WorksheetsOf(const Board& board) {
+  for (QObject* child : board.children()) {
+    if (auto* worksheets = dynamic_cast<Worksheets*>(child)) return worksheets;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 void AddWorksheets(Board& board) {
   new Worksheets(board);
+}
+
+bool HasWorksheets(const Board& board) {
+  return WorksheetsOf(board) != nullptr;
+}
+
+void PrintWords(Board& board, const QString& words) {
+  if (Worksheets* worksheets = WorksheetsOf(board)) worksheets->OpenWhenFree(words);
 }
 
 }  // namespace bramlee

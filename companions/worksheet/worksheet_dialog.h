@@ -32,6 +32,10 @@ class WorksheetDialog : public QDialog {
   /// For that board, which is its parent.
   explicit WorksheetDialog(Board& board);
 
+  /// Takes these words, with commas between, as if they had been typed, and prints them as if that
+  /// had been pressed.
+  void PrintWords(const QString& words);
+
   /// Esc and the window's close button: ends long work that goes on, else the dialog.
   void reject() override;
 

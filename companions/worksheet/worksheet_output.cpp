@@ -10,6 +10,7 @@
 
 #include "companions/worksheet/heading_pane.h"
 #include "companions/worksheet/long_work.h"
+#include "companions/worksheet/matter_pane.h"
 #include "companions/worksheet/page_preview.h"
 #include "companions/worksheet/worksheet_desk.h"
 #include "companions/worksheet/worksheet_dialog.h"
@@ -80,6 +81,15 @@ PaperError WorksheetDialog::RunLong(
   FollowPreview();
   if (focus != nullptr) focus->setFocus();
   return error;
+}
+
+void WorksheetDialog::PrintWords(const QString& words) {
+  WorksheetRecord record = Record();
+  record.matter = WorksheetMatter::TypedWords;
+  record.words = words;
+  matter_->Show(record);
+  Refresh();
+  if (print_->isEnabled()) Print();
 }
 
 void WorksheetDialog::Print() {

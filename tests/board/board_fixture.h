@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "board/board.h"
+#include "board/companions.h"
 #include "tests/files/temp_drives.h"
 
 namespace bramlee {
@@ -56,6 +57,19 @@ class BoardTest : public TempDrives {
 
  private:
   std::vector<BoardRecord> records_;
+};
+
+/// From now on all boards have this companion: added once, whichever suites ask for it.
+template <Companion companion>
+void AddOnce() {
+  [[maybe_unused]] static const bool added = (AddCompanion(companion), true);
+}
+
+/// Tests of boards that have these companions.
+template <Companion... companions>
+class BoardWith : public BoardTest {
+ protected:
+  static void SetUpTestSuite() { (AddOnce<companions>(), ...); }
 };
 
 }  // namespace bramlee

@@ -19,11 +19,7 @@ class BookSwitch : public TracedBoard {
  protected:
   static void SetUpTestSuite() {
     TracedBoard::SetUpTestSuite();
-    static const bool added = [] {
-      AddCompanion(AddBookSwitch);
-      return true;
-    }();
-    ASSERT_TRUE(added);
+    AddOnce<AddBookSwitch>();
   }
   void TearDown() override {
     Choices::Instance().Choose(Q("book/on"), false);

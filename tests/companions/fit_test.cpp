@@ -4,7 +4,6 @@
 #include <QScrollArea>
 #include <QTest>
 
-#include "board/companions.h"
 #include "board/strip.h"
 #include "companions/watch/watch.h"
 #include "tests/board/board_fixture.h"
@@ -13,17 +12,8 @@
 namespace bramlee {
 namespace {
 
-class Fitting : public BoardTest {
+class Fitting : public BoardWith<AddWatching, AddFitting> {
  protected:
-  static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddWatching);
-      AddCompanion(AddFitting);
-      return true;
-    }();
-    ASSERT_TRUE(added);
-  }
-
   Board& OpenShown(const char* form) {
     Board& board = Open(form);
     board.show();

@@ -4,7 +4,6 @@
 #include <QTest>
 #include <vector>
 
-#include "board/companions.h"
 #include "board/strip.h"
 #include "companions/trace/trace.h"
 #include "companions/watch/watch.h"
@@ -13,17 +12,8 @@
 
 namespace bramlee {
 
-class TracedBoard : public BoardTest {
+class TracedBoard : public BoardWith<AddWatching, AddTracing> {
  protected:
-  static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddWatching);
-      AddCompanion(AddTracing);
-      return true;
-    }();
-    ASSERT_TRUE(added);
-  }
-
   /// A board that is shown, with tracing on.
   template <class Which>
   Board& OpenTracing(const Which& which) {

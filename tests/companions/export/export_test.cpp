@@ -15,7 +15,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include "board/companions.h"
 #include "board/strip.h"
 #include "companions/export/export_choices.h"
 #include "strokes/word.h"
@@ -24,16 +23,8 @@
 namespace bramlee {
 namespace {
 
-class Exports : public BoardTest {
+class Exports : public BoardWith<AddExport> {
  protected:
-  static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddExport);
-      return true;
-    }();
-    ASSERT_TRUE(added);
-  }
-
   Board& OpenWith(const char* form, std::initializer_list<int> tiles) {
     Board& board = Open(form);
     board.show();

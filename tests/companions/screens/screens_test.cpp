@@ -12,7 +12,6 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "board/companions.h"
 #include "companions/fit/fit.h"
 #include "companions/watch/watch.h"
 #include "tests/board/board_fixture.h"
@@ -27,10 +26,8 @@ constexpr char kTwoScreens[] = R"({"screens": [
 
 class TwoScreens : public BoardTest {
  protected:
-  static void SetUpTestSuite() {
-    AddCompanion(AddWatching);
-    AddCompanion(AddFitting);
-  }
+  static void SetUpTestSuite() { AddOnce<AddWatching>();
+    AddOnce<AddFitting>(); }
   void TearDown() override {
     Choices::Instance().Choose(Q("fit/window"), false);
     BoardTest::TearDown();

@@ -8,7 +8,6 @@
 #include <QTest>
 #include <set>
 
-#include "board/companions.h"
 #include "board/cues.h"
 #include "board/strip.h"
 #include "companions/voice/board_sounds.h"
@@ -23,15 +22,8 @@
 namespace bramlee {
 namespace {
 
-class OwnVoices : public BoardTest {
+class OwnVoices : public BoardWith<AddOwnVoice> {
  protected:
-  static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddOwnVoice);
-      return true;
-    }();
-    ASSERT_TRUE(added);
-  }
   void SetUp() override {
     BoardTest::SetUp();
     RegisterMaths();

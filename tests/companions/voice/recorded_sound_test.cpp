@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "board/companions.h"
 #include "board/strip.h"
 #include "companions/voice/sound_list.h"
 #include "companions/voice/take_light.h"
@@ -23,11 +22,7 @@ constexpr int kHangMs = 30000;
 class RecordedSound : public BoardTest {
  protected:
   static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddOwnVoice);
-      return true;
-    }();
-    ASSERT_TRUE(added);
+    AddOnce<AddOwnVoice>();
     if (!SoundServer::IsPossible()) return;
     server_ = std::make_unique<SoundServer>();
     room_ = std::make_unique<RoomWithMicrophone>();

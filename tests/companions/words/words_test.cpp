@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "board/companions.h"
 #include "board/strip.h"
 #include "card/card_file.h"
 #include "companions/watch/watch.h"
@@ -14,22 +13,14 @@
 #include "files/data_files.h"
 #include "strokes/word.h"
 #include "tests/board/board_fixture.h"
+#include "tests/card/named_card.h"
 #include "ui/choices.h"
 
 namespace bramlee {
 namespace {
 
-class WordsTest : public BoardTest {
+class WordsTest : public BoardWith<AddWatching, AddWords> {
  protected:
-  static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddWatching);
-      AddCompanion(AddWords);
-      return true;
-    }();
-    ASSERT_TRUE(added);
-  }
-
   static void Type(const Board& board, const QString& text) {
     board.Named<QLineEdit>(Q("words_text"))->setText(text);
   }
@@ -53,12 +44,7 @@ class WordsTest : public BoardTest {
   }
   void NameCard(const char* name) {
     MakeDataFolder();
-    StudentRec rec;
-    rec.StudentName.Set(QString::fromUtf8(name));
-    const FileSlot slot = TakeSlot(kCardSlot);
-    FileSave save(slot.SlotPath);
-    RecordFile(slot, save).Put(1, EncodeStudent(rec));
-    save.Commit();
+    WriteNamedCard(QString::fromUtf8(name));
   }
 };
 
@@ -170,6 +156,13 @@ TEST_F(WordsTest, WritesTheNameOnTheCard) {
   Press(board, "words_my_name");
   EXPECT_EQ(board.Named<QLineEdit>(Q("words_text"))->text(), Q("Kavya"));
   EXPECT_EQ(LettersOn(board), 1U);
+}
+
+TEST_F(WordsTest, OffersNoPrintOnABoardWithoutWorksheets) {
+  Board& board = Open("fbrmhinc01");
+  board.Named<StripButton>(Q("strip_words"))->click();
+  EXPECT_TRUE(board.Named<QPushButton>(Q("words_print"))->isHidden());
+  EXPECT_FALSE(board.Named<QPushButton>(Q("words_write"))->isHidden());
 }
 
 TEST_F(WordsTest, SaysWhenTheCardHasNoName) {

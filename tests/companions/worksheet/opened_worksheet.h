@@ -8,7 +8,6 @@
 #include <QPrinter>
 #include <QTest>
 
-#include "board/companions.h"
 #include "board/strip.h"
 #include "companions/watch/watch.h"
 #include "companions/worksheet/page_preview.h"
@@ -26,16 +25,8 @@ enum Matter { kLetters, kWords, kNumbers, kSums, kBook };
 
 /// A desk with one printer that prints to the file `printed`; a user who names `file` and looks at
 /// `folders`.
-class OpenedWorksheet : public BoardTest {
+class OpenedWorksheet : public BoardWith<AddWatching, AddWorksheets> {
  protected:
-  static void SetUpTestSuite() {
-    static const bool added = [] {
-      AddCompanion(AddWatching);
-      AddCompanion(AddWorksheets);
-      return true;
-    }();
-    ASSERT_TRUE(added);
-  }
   OpenedWorksheet() : file(On("c/sheet.pdf")), printed(On("c/printed.pdf")), desk_(TheDesk()) {
     TheDesk().printers = [this] { return printers; };
     TheDesk().askPrinter = [this](QPrinter& printer, QWidget*) {
