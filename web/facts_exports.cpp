@@ -73,8 +73,6 @@ std::string TileAsJson(const SetLook& look, const LetterSet& set, int tile) {
   object.AddText("bookPrinted", PrintedLetter(look.set, tile, true));
   object.AddText("bookName", LetterName(look.set, tile, true));
   object.AddText("lettering", ShowsLettering(look.set, tile) ? kHindiLettering : "");
-  const LetterId id{.set = look.set, .tile = tile, .form = {}};
-  object.AddFlag("writes", !LetterOf(id).Runs().empty());
   object.AddFlag("alternative", HasSecondForm(set, tile));
   object.AddFlag("book", HasBookForm(set, tile));
   object.AddFlag("startsGroup",

@@ -31,6 +31,17 @@ function small(kind, { text, file }) {
   return execFileSync('esbuild', [...source, ...target], { cwd: kPage, input: text, encoding: 'utf8' });
 }
 
+/** The page with its styles inside, which it would have to wait for. */
+function withStyle(page, style) {
+  return replaced(page, '<link rel="stylesheet" href="page.css">', `<style>\n${style}</style>`);
+}
+
+/** The page without the script in its head, which asks the server for the code. */
+function withoutFetch(page) {
+  const first = page.indexOf('<script>');
+  return page.slice(0, first) + page.slice(page.indexOf('</script>', first) + '</script>\n'.length);
+}
+
 /** Text within a script: it must not end that. */
 function withinScript(text) {
   return text.replaceAll('</script', '<\\/script');
@@ -77,12 +88,12 @@ function plainFiles() {
 function serverFiles(parts) {
   const files = plainFiles();
   const text = (name) => files.get(name).toString();
-  const script = replaced(parts.script, '/*WASM_INTEGRITY*/', hashOf(parts.code));
-  files.set('page.js', Buffer.from(script));
+  files.set('page.js', Buffer.from(parts.script));
   files.set('page.css', Buffer.from(parts.style));
   files.set(kCode, parts.code);
   files.set('pictures.html', Buffer.from(stillPage(parts.pictures)));
-  const index = replaced(text('index.html'), '/*SOUNDFOLDERS*/', foldersOf(parts.sounds));
+  const withSounds = replaced(text('index.html'), '/*SOUNDFOLDERS*/', foldersOf(parts.sounds));
+  const index = withStyle(replaced(withSounds, '/*WASM_INTEGRITY*/', hashOf(parts.code)), parts.style);
   files.set('index.html', Buffer.from(replaced(index, '<!-- letters:pictures -->\n', '')));
   const version = createHash('sha256');
   for (const [name, bytes] of files) version.update(`${name} ${hashOf(bytes)}\n`);
@@ -102,12 +113,11 @@ function serverFiles(parts) {
 /** The page with everything inside, that opens from a stick or a mail. It has no sounds. */
 function singleFile(parts) {
   const script = replaced(parts.script, '/*VERSION*/', 'inside');
-  let page = fs.readFileSync(path.join(kPage, 'index.html'), 'utf8');
+  let page = withoutFetch(fs.readFileSync(path.join(kPage, 'index.html'), 'utf8'));
   const icon = fs.readFileSync(path.join(kPage, 'icon.svg')).toString('base64');
   page = replaced(page, 'href="icon.svg"', `href="data:image/svg+xml;base64,${icon}"`);
   page = replaced(page, '<link rel="manifest" href="manifest.webmanifest">\n', '');
-  const link = '<link rel="stylesheet" href="page.css">';
-  page = replaced(page, link, `<style>\n${parts.style}</style>`);
+  page = withStyle(page, parts.style);
   page = replaced(page, '/*VERSION*/', 'inside');
   page = replaced(page, '/*SOUNDFOLDERS*/', '');
   const pictures = `<template id="letters-pictures">${parts.pictures}</template>`;

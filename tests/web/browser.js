@@ -189,7 +189,7 @@ export async function onScreen(page, [x, y]) {
   return page.evaluate(
     (sheetX, sheetY) => {
       const { dataset } = document.querySelector('.sheet');
-      const canvas = document.querySelector('canvas.above');
+      const canvas = document.querySelector('canvas.ink');
       const rect = canvas.getBoundingClientRect();
       const css = rect.width / canvas.width;
       return {

@@ -1,8 +1,10 @@
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
+import { loadLetters } from '../../web/page/letters.js';
 import { pathBox } from '../../web/page/path_box.js';
 import {
-  button, comparedWithProgram, kFourLetters, kPhone, kTablet, kWallBoard, openPage, said, shot, tile,
+  button, comparedWithProgram, framesLater, kFourLetters, kPhone, kTablet, kWallBoard, kWeb, openPage, said, shot, tile,
 } from './browser.js';
 
 const kSizes = { phone: kPhone, tablet: kTablet, 'wall-board': kWallBoard };
@@ -64,6 +66,37 @@ test('a word is written, and what cannot be is named', async () => {
   assert.equal(await page.$eval('.words p', (line) => line.textContent), 'Left out: €');
   await shot(page, 'word');
   await page.closeTrial();
+});
+
+test('an empty layer of the sheet is hidden', async () => {
+  const page = await openPage({ address: '#engc', calm: true });
+  const shown = () =>
+    page.$$eval('.sheet canvas', (all) => all.filter((it) => !it.hidden).map((it) => it.className).join(' '));
+  await page.click(tile(2));
+  await framesLater(page);
+  assert.equal(await shown(), 'ink');
+  await page.click(button('numbers'));
+  await framesLater(page);
+  assert.equal(await shown(), 'ink above');
+  await page.click(button('numbers'));
+  await framesLater(page);
+  assert.equal(await shown(), 'ink');
+  await page.click(button('trace'));
+  await framesLater(page);
+  assert.equal(await shown(), 'beneath ink above');
+  await page.closeTrial();
+});
+
+test('a tile shows lettering if its letter has no strokes', async () => {
+  const letters = await loadLetters(readFileSync(`${kWeb}/letters.wasm.gz`));
+  const silent = [];
+  for (const set of letters.sets) {
+    for (const { number, writes, lettering } of set.tiles) {
+      assert.equal(writes, !letters.letter(set.name, number).isEmpty, `${set.name} ${number}`);
+      if (!writes) silent.push(`${set.name} ${number} ${lettering}`);
+    }
+  }
+  assert.deepEqual(silent, ['hinv 14 का कि की कु कू के']);
 });
 
 test('the room of a path holds the arcs between its places', () => {

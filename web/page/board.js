@@ -20,9 +20,9 @@ const kLeastWhole = 0.85;
 const kBeside = 32;
 
 /// One subject's board, in `element` until close(). `announce(text)` says something to a screen
-/// reader.
+/// reader. `first`, if there is one, is the tile to begin with: its letter comes before all pictures.
 export class Board {
-  constructor(letters, set, element, announce) {
+  constructor(letters, set, element, announce, first) {
     this.letters = letters;
     this.set = set;
     this.element = element;
@@ -38,8 +38,9 @@ export class Board {
     this.tracing = new Tracing(this, this.holder);
     this.tracing.setLevel(keptLevel(letters.levels));
     this.view.measure();
-    this.showTiles();
-    this.showSheet();
+    this.showTiles(first !== undefined);
+    if (!first?.writes) this.showSheet();
+    if (first) this.choose(first);
     this.followPen();
     this.keys = (event) => this.onKey(event);
     document.addEventListener('keydown', this.keys, true);
@@ -83,7 +84,7 @@ export class Board {
     return this.tracing.on;
   }
 
-  showTiles() {
+  showTiles(picturesLater = false) {
     const { set, hindiSet } = this;
     const inSet = this.letters.hindiSetTiles;
     const shown = set.tiles.filter(
@@ -91,7 +92,7 @@ export class Board {
         (set.name !== 'hinc' || Math.ceil(tile.number / inSet) === hindiSet) &&
         (!this.alternative || tile.alternative),
     );
-    this.tiles.show(shown, { book: this.book, alternative: this.alternative });
+    this.tiles.show(shown, { book: this.book, alternative: this.alternative, picturesLater });
   }
 
   useHindiSet(number) {
@@ -186,7 +187,7 @@ export class Board {
   /// that is on.
   showSheet() {
     const { sheet, lines } = this.set;
-    const inked = this.page.items.filter((item) => item.letter.strokeCount > 0);
+    const inked = this.page.items.filter((item) => !item.letter.isEmpty);
     const present = (this.tracing.on && this.tracing.item) || inked.at(-1);
     if (!present || (!this.tracing.on && this.view.holds(sheet, kWideShape, kLeastWhole))) {
       this.view.show(grown(boxAround([sheet, ...inked.map(inkBox)]), 10));
@@ -201,6 +202,7 @@ export class Board {
     if (this.lettering) paintLettering(context, this.lettering);
     if (this.numbersShown) this.paintNumbers(context);
     this.tracing.paintAbove(context);
+    return this.lettering !== '' || this.numbersShown || this.tracing.hasSigns;
   }
 
   /// While a letter is written the numbers of the strokes to come; else those of all letters.

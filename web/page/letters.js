@@ -6,13 +6,12 @@ import { Sheet } from './letter_sheet.js';
 import { Tracer } from './letter_tracer.js';
 import { WasmCalls, WasmReader, wasmColour } from './wasm_calls.js';
 
-/** Loads the letters from beside the page, or from within it. Rejects with an Error when that
- * fails or the browser has no WebAssembly. */
+/** Loads the letters that the page has within it, in base64, or has asked its server for. Rejects
+ * with an Error when that fails or the browser has no WebAssembly. */
 export async function openLetters() {
-  const inside = globalThis.bramleeCode;
-  if (inside) return loadLetters(Uint8Array.from(atob(inside), (c) => c.charCodeAt(0)));
-  const integrity = '/*WASM_INTEGRITY*/';
-  const answer = await fetch('letters.wasm.gz', integrity.startsWith('sha') ? { integrity } : {});
+  const code = globalThis.bramleeCode;
+  if (typeof code === 'string') return loadLetters(Uint8Array.from(atob(code), (c) => c.charCodeAt(0)));
+  const answer = await code;
   if (!answer.ok) throw new Error(`letters.wasm.gz: ${answer.status} ${answer.statusText}`);
   return loadLetters(new Uint8Array(await answer.arrayBuffer()));
 }
@@ -164,7 +163,11 @@ class WasmSet {
   get tiles() {
     if (this.tiles_ === undefined) {
       this.calls_.exports.tilesOfSet(this.index);
-      this.tiles_ = this.calls_.object().map((tile, i) => ({ number: i + 1, ...tile }));
+      this.tiles_ = this.calls_.object().map((tile, i) => ({
+        number: i + 1,
+        writes: tile.lettering === '', // the other ones show that and write nothing
+        ...tile,
+      }));
     }
     return this.tiles_;
   }
@@ -193,8 +196,16 @@ class Letter {
   }
   /** The same to half a pixel, without all that else is worked out of a shape. */
   get roughBounds() {
-    this.calls_.exports.roughBoundsOf(this.handle);
-    return new WasmReader(this.calls_.numbers()).box();
+    if (this.rough_ === undefined) {
+      this.calls_.exports.roughBoundsOf(this.handle);
+      this.rough_ = new WasmReader(this.calls_.numbers()).box();
+    }
+    return this.rough_;
+  }
+  /** Whether it has no strokes. */
+  get isEmpty() {
+    const { width, height } = this.roughBounds;
+    return width === 0 && height === 0;
   }
   get length() {
     return this.shape_.length;

@@ -21,7 +21,8 @@ function followAddress(letters) {
   const [name, number] = location.hash.slice(1).split('/');
   const set = letters.set(name);
   const from = board?.set.name;
-  if (board && board.set === set) return chooseTile(set, number);
+  const tile = set?.tiles[Number(number) - 1];
+  if (board && board.set === set) return tile && board.choose(tile);
   board?.close();
   board = null;
   root.dataset.shows = set ? 'board' : 'home';
@@ -31,14 +32,8 @@ function followAddress(letters) {
     if (from) app.querySelector(`a[href="#${from}"]`)?.focus();
     return;
   }
-  board = new Board(letters, set, app, announce);
+  board = new Board(letters, set, app, announce, tile);
   board.tiles.element.querySelector('button')?.focus({ preventScroll: true });
-  chooseTile(set, number);
-}
-
-function chooseTile(set, number) {
-  const tile = set.tiles[Number(number) - 1];
-  if (tile) board.choose(tile);
 }
 
 /// A line in place of the page, and the letters as still pictures.

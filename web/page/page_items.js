@@ -9,7 +9,7 @@ function partCovered(box, by) {
 
 /// Around the ink of a placed letter, with the pen's width.
 export function inkBox({ letter, scale, right, down }) {
-  const { x, y, width, height } = letter.bounds;
+  const { x, y, width, height } = letter.roughBounds;
   return {
     x: x * scale + right - 5,
     y: y * scale + down - 5,
@@ -100,10 +100,10 @@ export class PageItems {
 
   /// Whether a letter would be written across another one.
   wouldCover(letter) {
-    if (letter.strokeCount === 0) return false;
+    if (letter.isEmpty) return false;
     const box = inkBox({ letter, scale: 1, right: 0, down: 0 });
     return this.items.some(
-      (item) => item.letter.strokeCount > 0 &&
+      (item) => !item.letter.isEmpty &&
         Math.max(partCovered(inkBox(item), box), partCovered(box, inkBox(item))) > 0.25,
     );
   }

@@ -96,7 +96,7 @@ function rowsOf(letter, lines, share) {
 
 /// The letters on the sheet, with many rows each; with none there, a row of each tile's letter.
 export function paperHtml(letters, set, items, { tiles, book, alternative }) {
-  const chosen = items.filter((item) => item.letter.strokeCount > 0);
+  const chosen = items.filter((item) => !item.letter.isEmpty);
   const letterOf = (tile) => letters.letter(set.name, tile.number, { book, alternative });
   const rows = chosen.length > 0
     ? chosen.flatMap(({ letter }) => rowsOf(letter, set.lines, 1 / chosen.length))

@@ -8,6 +8,9 @@ const kLeastTile = 3.4;
 const kLargestTile = 9;
 const kGap = 0.35;
 
+/// Pictures that come later take so many milliseconds of a frame.
+const kPicturesMs = 2;
+
 /// `choose(tile)` comes when a tile is pressed.
 export class Tiles {
   constructor(letters, set, choose) {
@@ -25,12 +28,15 @@ export class Tiles {
     });
     this.element.addEventListener('keydown', (event) => this.onKey(event));
     this.shape = set.name === 'engc' ? 164 / 324 : 220 / 240; // height by width
+    this.missing = []; // tiles whose pictures come later
+    this.frame = 0;
     this.observer = new ResizeObserver(() => this.fit());
     this.observer.observe(this.element);
   }
 
   close() {
     this.observer.disconnect();
+    cancelAnimationFrame(this.frame);
   }
 
   /// Makes the tiles as large as all of them are seen at once; where they would be too small they
@@ -50,18 +56,35 @@ export class Tiles {
     this.element.style.setProperty('--columns', columns);
   }
 
-  /// Shows those tiles; the book's forms of them where that is wanted.
-  show(tiles, { book, alternative }) {
+  /// Shows those tiles; the book's forms of them where that is wanted. Where something else is more
+  /// urgent the pictures come later, some a frame.
+  show(tiles, { book, alternative, picturesLater }) {
     this.shown = { tiles, book, alternative };
-    this.element.innerHTML = tiles.map((tile) => this.tileHtml(tile)).join('');
+    this.missing = picturesLater ? [...tiles] : [];
+    cancelAnimationFrame(this.frame);
+    const html = tiles.map((tile) => this.tileHtml(tile, picturesLater ? '' : this.pictureOf(tile)));
+    this.element.innerHTML = html.join('');
     this.element.querySelector('button')?.setAttribute('tabindex', '0');
     this.fit();
+    if (picturesLater) this.frame = requestAnimationFrame(() => this.addPictures());
   }
 
-  tileHtml(tile) {
+  addPictures() {
+    const end = performance.now() + kPicturesMs;
+    while (this.missing.length > 0 && performance.now() < end) {
+      const tile = this.missing.shift();
+      this.buttonOf(tile).insertAdjacentHTML('afterbegin', this.pictureOf(tile));
+    }
+    if (this.missing.length > 0) this.frame = requestAnimationFrame(() => this.addPictures());
+  }
+
+  pictureOf(tile) {
     const { book, alternative } = this.shown;
+    return tilePicture(this.letters, this.set, tile, { book, alternative });
+  }
+
+  tileHtml(tile, picture) {
     const star = starOf(this.set.name, tile.number);
-    const picture = tilePicture(this.letters, this.set, tile, { book, alternative });
     return (
       `<button type="button" tabindex="-1" data-tile="${tile.number}"` +
       ` aria-label="${this.nameOf(tile, star)}" style="background:${this.set.tileGround}">` +

@@ -232,9 +232,15 @@ export class Tracing {
   }
 
   paintBeneath(context) {
-    if (!this.on || this.item === null || this.tracer.finished || this.written !== null) return;
+    if (!this.on || this.item === null || this.tracer.finished || this.written !== null) return false;
     const pale = paleColour(this.item.colour, this.board.set.ground);
     paintGuide(context, this.item, this.tracer.stroke, pale);
+    return true;
+  }
+
+  /// Whether paintAbove() paints anything.
+  get hasSigns() {
+    return this.on || this.touches.length > 0 || this.star !== null;
   }
 
   paintAbove(context) {

@@ -17,7 +17,7 @@ function deviceLength(length, exact) {
 
 /// Shows a part of a sheet as large as its holder allows, one canvas pixel to a device pixel. What
 /// beneath() and above() paint, in sheet pixels, is painted anew before the next frame after
-/// touch(). resized() comes when the holder has another size; whoever it calls shows the sheet.
+/// touch(); they return whether there is anything. resized() comes when the holder has another size; whoever it calls shows the sheet.
 export class SheetView {
   constructor(holder, sheet, ground, { beneath, above, resized }) {
     this.holder = holder;
@@ -34,6 +34,7 @@ export class SheetView {
     this.room = { width: 0, height: 0 }; // device pixels
     this.seeThrough = false;
     this.touched = 0;
+    this.fitted = ''; // what fit() has seen to
     this.observer = new ResizeObserver((entries) => this.fitInto(entries[0]));
     this.observer.observe(holder);
   }
@@ -87,6 +88,16 @@ export class SheetView {
     const { width, height } = this.room;
     if (width < 1 || height < 1) return;
     const { box } = this;
+    const wanted = [width, height, box.x, box.y, box.width, box.height, this.seeThrough].join();
+    if (wanted !== this.fitted) this.cover();
+    this.fitted = wanted;
+    this.paint();
+    this.paintLayers();
+  }
+
+  cover() {
+    const { box } = this;
+    const { width, height } = this.room;
     this.ratio = Math.min(width / box.width, height / box.height);
     // The sheet's pixels begin at a device pixel, so that a letter looks the same wherever it is.
     const whole = (place) => Math.round(place * this.ratio) / this.ratio;
@@ -110,8 +121,6 @@ export class SheetView {
       canvas.style.width = `${size.width / devicePixelRatio}px`;
       canvas.style.height = `${size.height / devicePixelRatio}px`;
     }
-    this.paint();
-    this.paintLayers();
   }
 
   /// Shows what is new of the ink.
@@ -124,18 +133,20 @@ export class SheetView {
     this.touched = requestAnimationFrame(() => this.paintLayers());
   }
 
+  /// An empty layer is hidden: on a large screen each takes its time, seen or not.
   paintLayers() {
     cancelAnimationFrame(this.touched);
     this.touched = 0;
     for (const name of ['beneath', 'above']) {
       const context = this[name];
+      const { canvas } = context;
       context.setTransform(1, 0, 0, 1, 0, 0);
-      context.clearRect(0, 0, context.canvas.width, context.canvas.height);
+      if (!canvas.hidden) context.clearRect(0, 0, canvas.width, canvas.height);
       const { ratio, area } = this;
       context.setTransform(ratio, 0, 0, ratio, -area.x * ratio, -area.y * ratio);
       context.lineCap = 'round';
       context.lineJoin = 'round';
-      this.painters[name](context);
+      canvas.hidden = !this.painters[name](context);
     }
   }
 
@@ -146,7 +157,7 @@ export class SheetView {
 
   /// The place on the sheet of a pointer's place in the window.
   toSheet(clientX, clientY) {
-    const rect = this.above.canvas.getBoundingClientRect();
+    const rect = this.ink.canvas.getBoundingClientRect();
     return {
       x: this.area.x + (clientX - rect.left) / this.cssRatio,
       y: this.area.y + (clientY - rect.top) / this.cssRatio,
