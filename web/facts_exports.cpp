@@ -7,7 +7,6 @@
 
 #include "letters/letter_names.h"
 #include "letters/letter_sets.h"
-#include "strokes/letter.h"
 #include "strokes/set_looks.h"
 #include "strokes/writing_lines.h"
 #include "web/exports.h"

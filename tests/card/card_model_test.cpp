@@ -63,9 +63,15 @@ struct Model {
   }
 };
 
-class CardModel : public CardTest, public ::testing::WithParamInterface<unsigned> {
+/// What a user does at random.
+struct RandomUse {
+  unsigned seed;
+  int steps;
+};
+
+class CardModel : public CardTest, public ::testing::WithParamInterface<RandomUse> {
  protected:
-  CardModel() : random_(GetParam()) {}
+  CardModel() : random_(GetParam().seed) {}
 
   int Any(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
 
@@ -147,7 +153,7 @@ TEST_P(CardModel, AgreesWithTheCard) {
   model.records.emplace_back();
   Put(model.Bytes());
   Open();
-  for (int step = 0; step < 1000 && !HasFailure(); ++step) {
+  for (int step = 0; step < GetParam().steps && !HasFailure(); ++step) {
     SCOPED_TRACE(step);
     boxes.clear();
     Step(model);
@@ -166,8 +172,8 @@ TEST_P(CardModel, AgreesWithTheCard) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(FirstSeed, CardModel, ::testing::Values(1U));
-INSTANTIATE_TEST_SUITE_P(SweepOfMoreSeeds, CardModel, ::testing::Values(2U, 3U));
+INSTANTIATE_TEST_SUITE_P(ForAWhile, CardModel, ::testing::Values(RandomUse{1, 200}));
+INSTANTIATE_TEST_SUITE_P(SweepOfLongUse, CardModel, ::testing::Values(RandomUse{2, 1000}));
 
 }  // namespace
 }  // namespace bramlee

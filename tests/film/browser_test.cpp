@@ -38,7 +38,7 @@ QImage InBrowser(const LetterFilm& film, double second, int times = 1) {
   return QImage(shot);
 }
 
-TEST(MovingSvgInBrowser, ShowsWhatTheSheetShows) {
+TEST(MovingSvgInBrowser, SweepOfMomentsShowsWhatTheSheetShows) {
   if (!IsInstalled("chromium")) GTEST_SKIP() << "needs chromium";
   for (const auto& [set, tile] : {
            std::pair("engs", 7), {"hinc", 17},

@@ -6,7 +6,7 @@
 namespace bramlee {
 namespace {
 
-TEST_F(SoundsMaker, CanSayEverythingInItsOwnLanguage) {
+TEST_F(SoundsMaker, SweepOfEverythingIsSaidInItsOwnLanguage) {
   const auto phonemes = Phonemes("engc,engs,hinv,hinc,telv,telc,mat");
   EXPECT_EQ(phonemes.size(), 26U + 26 + 29 + 111 + 36 + 75 + 17);
   for (const auto& [file, said] : phonemes) {
