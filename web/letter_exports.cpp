@@ -152,7 +152,7 @@ void SetTextOn(int set, int bytes, int headPerLetter, double step) {
   Result& result = NewResult();
   if (look == nullptr) return;
   const WritingLines lines = WritingLinesOf(look->set);
-  const WordRoom room{.around = look->ruleExtent, .head = lines.bodyTop, .base = lines.base};
+  const WordRoom room{.around = look->gridExtent, .head = lines.bodyTop, .base = lines.base};
   SetText text = SetWords(TextOf(bytes), OptionsOf(headPerLetter, step), room, kPenColour);
   result.text = LeftOutAsJson(text.leftOut);
   if (!text.letter) return;

@@ -14,7 +14,7 @@ namespace bramlee {
 
 /// The room for words on a sheet, in sheet pixels.
 struct WordRoom {
-  SheetExtent around;  ///< what the board's rules take up
+  SheetExtent around;  ///< where the board's letters stand
   double head = 0;     ///< where capitals end and head lines run
   double base = 0;     ///< where letters stand
 };

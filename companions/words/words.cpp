@@ -40,9 +40,10 @@ constexpr double kLeastRoom = 300;
 /// A board has its tiles above its sheet where that begins so far down, in sheet pixels.
 constexpr double kLeastTiles = 200;
 
-/// The rules' part of the sheet as far as the window shows it, once the beginning is in view.
+/// The grid's part of the sheet, where the letters stand; rules may run elsewhere. As far as the
+/// window shows it, once the beginning is in view.
 SheetExtent SeenRoom(Board& board) {
-  SheetExtent room = board.record().ruleExtent;
+  SheetExtent room = board.record().gridExtent;
   const Sheet& sheet = board.sheet();
   if (!sheet.isVisible()) return room;
   board.BringIntoView(
@@ -72,7 +73,7 @@ class WordWriting : public QObject {
                                      .writeMy = [this] { Do(&WordWriting::WriteMyName); },
                                      .print = [this] { Do(&WordWriting::Print); }});
     // Where it leaves the sheet free: over the tiles of a board whose sheet lies below them.
-    const bool above = board.record().ruleExtent.top > kLeastTiles;
+    const bool above = board.record().gridExtent.top > kLeastTiles;
     const auto open = [this, above] { panel_->Present(above, HasWorksheets(board_)); };
     board.strip().AddButton(Strip::Group::Teacher,
                             {.name = "strip_words",

@@ -94,6 +94,29 @@ TEST_F(WordsTest, BreaksALongTextIntoLines) {
   EXPECT_EQ(text.letter.PenStrokes().size(), 200 * LayWord("m").letter.PenStrokes().size());
 }
 
+TEST_F(WordsTest, KeepsALongTextBelowTheTilesThatStandAboveTheSheet) {
+  for (const char* form : {"fbrmhinv01", "fbrmtelv01"}) {
+    Board& board = Open(form);
+    Write(board, QString(200, QLatin1Char('m')).toUtf8().constData());
+    ASSERT_EQ(LettersOn(board), 1U);
+    const PlacedLetter& text = board.pen().Letters().Letters()[0];
+    const double top = text.letter.Bounds().y * text.placing.scale + text.placing.down;
+    EXPECT_GE(top, board.record().gridExtent.top) << form;
+  }
+}
+
+TEST_F(WordsTest, OpensItsWindowOverTheTilesOfABoardWithTheSheetBelow) {
+  for (const char* form : {"fbrmengc02", "fbrmhinv01", "fbrmtelv01"}) {
+    Board& board = Open(form);
+    board.show();
+    board.resize(1024, 700);
+    board.Named<StripButton>(Q("strip_words"))->click();
+    const auto* panel = board.findChild<QWidget*>(Q("words_panel"));
+    const bool upper = panel->geometry().center().y() < board.geometry().center().y();
+    EXPECT_EQ(upper, form != std::string("fbrmengc02")) << form;
+  }
+}
+
 TEST_F(WordsTest, GoesBackAndBeginsAgainThroughAllLines) {
   Board& board = Open("fbrmtelv01");
   Write(board, QString(60, QLatin1Char('m')).toUtf8().constData());
