@@ -42,7 +42,8 @@ WordsPanel::WordsPanel(QWidget* board, WordsActs acts)
     : QWidget(board, Qt::Tool),
       text_(new QLineEdit(this)),
       write_(new QPushButton(QStringLiteral("&Write"), this)),
-      myName_(new QPushButton(QStringLiteral("&My name"), this)),
+      // Not Alt+M: keys of the board's menus work here too, and one board has Maths among them.
+      myName_(new QPushButton(QStringLiteral("My &name"), this)),
       print_(new QPushButton(this)),
       said_(new QLabel(this)) {
   setObjectName(QStringLiteral("words_panel"));

@@ -1,5 +1,6 @@
 // A word or a name from the board's line to type in to the printer.
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 
 #include "companions/words/words.h"
@@ -72,6 +73,20 @@ TEST_F(PrintedWords, WhoWantsNoPrinterHasTheWorksheetBeforeHim) {
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_EQ(Pages(), 1);
   EXPECT_FALSE(QFileInfo::exists(printed));
+}
+
+TEST_F(PrintedWords, TheWindowHasKeysThatNoMenuOfABoardHas) {
+  board = &Open(kMathsForm);
+  QStringList keys;
+  for (const QAction* menu : board->menuBar()->actions())
+    keys.append(QKeySequence::mnemonic(menu->text()).toString());
+  ASSERT_TRUE(keys.contains(Q("Alt+M")));
+  const auto* panel = board->findChild<QWidget*>(Q("words_panel"));
+  for (const QAbstractButton* button : panel->findChildren<QAbstractButton*>()) {
+    const QString key = QKeySequence::mnemonic(button->text()).toString();
+    EXPECT_FALSE(key.isEmpty()) << button->objectName().toStdString();
+    EXPECT_FALSE(keys.contains(key)) << key.toStdString();
+  }
 }
 
 TEST_F(PrintedWords, AWordWithoutAnyStrokeIsNotPrinted) {
