@@ -1,5 +1,6 @@
 #include "companions/worksheet/worksheet.h"
 
+#include <QApplication>
 #include <QPointer>
 
 #include "board/board.h"
@@ -53,7 +54,12 @@ class Worksheets : public QObject {
  private:
   void Open(const QString& words) {
     if (dialog_ != nullptr) return dialog_->raise();
+    // A desktop would bring the board to the front afterwards, whichever window has asked.
+    const QPointer<QWidget> asker = QApplication::activeWindow();
     dialog_ = new WorksheetDialog(board_);
+    connect(dialog_, &QDialog::finished, this, [asker] {
+      if (asker != nullptr) asker->activateWindow();
+    });
     dialog_->show();
     if (!words.isEmpty()) dialog_->PrintWords(words);
   }

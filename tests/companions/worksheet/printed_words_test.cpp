@@ -10,6 +10,8 @@
 namespace bramlee {
 namespace {
 
+constexpr int kHangMs = 30000;
+
 class PrintedWords : public OpenedWorksheet {
  protected:
   static void SetUpTestSuite() {
@@ -73,6 +75,18 @@ TEST_F(PrintedWords, WhoWantsNoPrinterHasTheWorksheetBeforeHim) {
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_EQ(Pages(), 1);
   EXPECT_FALSE(QFileInfo::exists(printed));
+}
+
+TEST_F(PrintedWords, TheWordsAreInFrontAgainOnceTheWorksheetIsClosed) {
+  OpenWords();
+  auto* words = board->findChild<QWidget*>(Q("words_panel"));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(words, kHangMs));
+  board->Named<QLineEdit>(Q("words_text"))->setText(Q("cat"));
+  PressPrint();
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog, kHangMs));
+  QTest::keyClick(dialog, Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(words, kHangMs));
 }
 
 TEST_F(PrintedWords, TheWindowHasKeysThatNoMenuOfABoardHas) {
