@@ -1,7 +1,9 @@
 // A voice on its way from the microphone to the board, with a sound server of the tests' own.
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QDialog>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 
@@ -39,9 +41,16 @@ class RecordedSound : public BoardTest {
       GTEST_SKIP() << "needs ffmpeg, espeak-ng";
     QDir().mkpath(On("c/bramlee/aud/engc"));
     WriteBytes(On("c/bramlee/aud/engc/eng-a.wma"), "maker");
-    Board& board = Open(kCapitalsForm);
-    board.Named<StripButton>(Q("strip_voice"))->click();
-    dialog_ = board.findChild<QDialog*>(Q("voice"));
+    board_ = &Open(kCapitalsForm);
+    OpenWindow();
+  }
+
+  void OpenWindow() {
+    ASSERT_TRUE(Await([this] { return dialog_ == nullptr; }))
+        << "the last one goes when it is closed";
+    board_->Named<StripButton>(Q("strip_voice"))->click();
+    dialog_ = board_->findChild<QDialog*>(Q("voice"));
+    ASSERT_NE(dialog_, nullptr);
     ASSERT_TRUE(Await([this] { return Button("voice_record").isEnabled(); }));
   }
 
@@ -56,7 +65,8 @@ class RecordedSound : public BoardTest {
 
   static inline std::unique_ptr<SoundServer> server_;
   static inline std::unique_ptr<RoomWithMicrophone> room_;
-  QDialog* dialog_ = nullptr;
+  Board* board_ = nullptr;
+  QPointer<QDialog> dialog_;
 };
 
 TEST_F(RecordedSound, IsKeptInAllFormatsAndLeadsToTheNext) {
@@ -89,6 +99,21 @@ TEST_F(RecordedSound, EndsWhenAHeldButtonIsLetGo) {
   ASSERT_TRUE(Await([this] { return !IsLit(); }));
   EXPECT_FALSE(Said().isEmpty());
   EXPECT_FALSE(Button("voice_keep").isEnabled());
+}
+
+TEST_F(RecordedSound, FindsTheChosenMicrophoneInTheNextWindowToo) {
+  const auto microphones = [this] { return dialog_->findChild<QComboBox*>(Q("voice_microphone")); };
+  const int row = microphones()->findText(Q("Microphone"));
+  ASSERT_GT(row, 0);
+  EXPECT_EQ(microphones()->currentIndex(), 0) << "the usual one, until another one is chosen";
+  microphones()->setFocus();
+  QTest::keyClick(microphones(), Qt::Key_M);
+  ASSERT_EQ(microphones()->currentIndex(), row);
+  const QByteArray id = microphones()->currentData().toByteArray();
+  EXPECT_EQ(id, "mic");
+  QTest::keyClick(dialog_, Qt::Key_Escape);
+  OpenWindow();
+  EXPECT_EQ(microphones()->currentData().toByteArray(), id);
 }
 
 TEST_F(RecordedSound, IsCalledOffByEscape) {
