@@ -26,8 +26,10 @@ constexpr char kTwoScreens[] = R"({"screens": [
 
 class TwoScreens : public BoardTest {
  protected:
-  static void SetUpTestSuite() { AddOnce<AddWatching>();
-    AddOnce<AddFitting>(); }
+  static void SetUpTestSuite() {
+    AddOnce<AddWatching>();
+    AddOnce<AddFitting>();
+  }
   void TearDown() override {
     Choices::Instance().Choose(Q("fit/window"), false);
     BoardTest::TearDown();
