@@ -27,18 +27,12 @@
 #include "paper/pdf_file.h"
 #include "paper/usual_paper.h"
 #include "ui/message_box.h"
+#include "ui/named.h"
 
 namespace bramlee {
 namespace {
 
 constexpr int kSaidPixels = 420;  ///< width of the line below, which breaks there
-
-template <class Widget>
-Widget* Named(Widget* widget, const char* name, const char* accessible) {
-  widget->setObjectName(QString::fromLatin1(name));
-  widget->setAccessibleName(QString::fromLatin1(accessible));
-  return widget;
-}
 
 QComboBox* ListOf(std::initializer_list<const char*> texts) {
   auto* list = new QComboBox;

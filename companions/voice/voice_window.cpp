@@ -1,6 +1,5 @@
 #include "companions/voice/voice_window.h"
 
-#include <QComboBox>
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
@@ -15,30 +14,22 @@
 #include <utility>
 
 #include "board/board.h"
+#include "companions/voice/microphone_list.h"
 #include "companions/voice/stick_place.h"
 #include "companions/voice/take_lines.h"
 #include "files/platform.h"
 #include "media/sound_engine.h"
-#include "ui/choices.h"
+#include "ui/named.h"
 #include "voice/sound_formats.h"
 
 namespace bramlee {
 namespace {
-
-const QString kMicrophone = QStringLiteral("voice/microphone");
 
 constexpr int kLeastPixels = 44;  ///< of what is clicked
 constexpr int kSidePixels = 270;
 constexpr int kFootPixels = 110;
 constexpr QSize kWindow(900, 640);
 constexpr int kLowestLevel = -60;  ///< decibels that the meter shows
-
-template <class Widget>
-Widget* Named(Widget* widget, const char* name, const char* accessible) {
-  widget->setObjectName(QString::fromLatin1(name));
-  widget->setAccessibleName(QString::fromLatin1(accessible));
-  return widget;
-}
 
 QPushButton* Button(const char* text, const char* name, const char* accessible) {
   auto* button = Named(new QPushButton(QString::fromLatin1(text)), name, accessible);
@@ -76,7 +67,7 @@ VoiceWindow::VoiceWindow(Board& board)
       again_(Button("&Again", "voice_again", "Record again")),
       giveBack_(Button("&Give back", "voice_giveback", "Give back the maker's voice")),
       number_(Named(new QSpinBox, "voice_number", "Another number")),
-      microphones_(Named(new QComboBox, "voice_microphone", "Microphone")),
+      microphones_(new MicrophoneList),
       toStick_(Button("To a &stick", "voice_tostick", "Copy all recordings to a stick")),
       fromStick_(Button("&From a stick", "voice_fromstick", "Take recordings from a stick")),
       progress_(Named(new QProgressBar, "voice_progress", "Progress")),
@@ -145,8 +136,6 @@ QHBoxLayout* VoiceWindow::MakeFoot() {
   auto* label = new QLabel(QStringLiteral("&Microphone"));
   label->setBuddy(microphones_);
   microphones_->setMinimumHeight(kLeastPixels);
-  microphones_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  microphones_->setMinimumContentsLength(18);
   foot->addWidget(label);
   foot->addWidget(microphones_, 1);
   for (QPushButton* button : {toStick_, fromStick_, close_}) {
@@ -163,7 +152,7 @@ void VoiceWindow::Connect() {
   connect(hear_, &QPushButton::clicked, this, &VoiceWindow::Hear);
   connect(record_, &QPushButton::pressed, this, [this] {
     Forget();
-    taking_.Press(MicrophoneId());
+    taking_.Press(microphones_->Id());
   });
   connect(record_, &QPushButton::released, &taking_, &Taking::Release);
   connect(keep_, &QPushButton::clicked, this, &VoiceWindow::Keep);
@@ -172,8 +161,6 @@ void VoiceWindow::Connect() {
   connect(toStick_, &QPushButton::clicked, this, &VoiceWindow::ToStick);
   connect(fromStick_, &QPushButton::clicked, this, &VoiceWindow::FromStick);
   connect(close_, &QPushButton::clicked, this, &VoiceWindow::reject);
-  connect(microphones_, &QComboBox::activated, this,
-          [this] { Choices::Instance().Choose(kMicrophone, QString::fromUtf8(MicrophoneId())); });
   connect(&taking_, &Taking::Changed, this, &VoiceWindow::FollowTake);
   connect(&taking_, &Taking::Level, this, &VoiceWindow::ShowLevel);
   connect(&taking_, &Taking::Microphones, this, &VoiceWindow::ShowMicrophones);
@@ -201,25 +188,17 @@ void VoiceWindow::Say(const QString& line) {
   said_->setText(line);
 }
 
-/// The system's usual microphone, until another one is chosen.
 void VoiceWindow::ShowMicrophones(const QList<Microphone>& there) {
-  const bool first = !hasMicrophone_ && !there.isEmpty();
-  hasMicrophone_ = !there.isEmpty();
-  microphones_->clear();
-  if (hasMicrophone_) microphones_->addItem(QStringLiteral("The usual one"), QByteArray());
-  for (const Microphone& each : there) microphones_->addItem(each.name, each.id);
-  const QByteArray chosen = Choices::Instance().Of(kMicrophone, QString()).toString().toUtf8();
-  microphones_->setCurrentIndex(std::max(0, microphones_->findData(chosen)));
-  microphones_->setEnabled(hasMicrophone_);
+  const bool first = microphones_->IsEmpty() && !there.isEmpty();
+  microphones_->Show(there);
   const QString none = QStringLiteral("There is no microphone: plug one in.");
-  if (!hasMicrophone_) Say(none);
-  if (hasMicrophone_ && said_->text() == none) Say({});
+  if (there.isEmpty()) {
+    Say(none);
+  } else if (said_->text() == none) {
+    Say({});
+  }
   Follow();
   if (first) record_->setFocus();
-}
-
-QByteArray VoiceWindow::MicrophoneId() const {
-  return microphones_->currentData().toByteArray();
 }
 
 /// What can be done now.
@@ -229,13 +208,14 @@ void VoiceWindow::Follow() {
   const bool idle = !working && !taking;
   const bool taken = !take_.samples.empty();
   const VoiceOf voice = list_->ChosenVoice();
+  const bool hasMicrophone = !microphones_->IsEmpty();
   list_->setEnabled(idle);
-  record_->setEnabled(taking || (!working && hasMicrophone_ && driveIsThere_));
+  record_->setEnabled(taking || (!working && hasMicrophone && driveIsThere_));
   hear_->setEnabled(idle && (taken || voice != VoiceOf::Nobody));
   keep_->setEnabled(idle && taken);
-  again_->setEnabled(idle && taken && hasMicrophone_);
+  again_->setEnabled(idle && taken && hasMicrophone);
   giveBack_->setEnabled(idle && voice == VoiceOf::Own);
-  microphones_->setEnabled(idle && hasMicrophone_);
+  microphones_->setEnabled(idle && hasMicrophone);
   toStick_->setEnabled(idle && driveIsThere_);
   fromStick_->setEnabled(idle && driveIsThere_);
   progress_->setVisible(working);
@@ -324,7 +304,7 @@ void VoiceWindow::TakeOver(const Recording& recording) {
 void VoiceWindow::Again() {
   Forget();
   record_->setFocus();
-  taking_.Press(MicrophoneId());
+  taking_.Press(microphones_->Id());
   taking_.Release();
 }
 

@@ -11,7 +11,6 @@
 #include "companions/voice/taking.h"
 #include "voice/own_sounds.h"
 
-class QComboBox;
 class QHBoxLayout;
 class QLabel;
 class QProgressBar;
@@ -22,6 +21,7 @@ class QVBoxLayout;
 namespace bramlee {
 
 class Board;
+class MicrophoneList;
 
 /// Lists the board's sounds; each is heard, recorded, kept or recorded again, and given back to the
 /// sounds' maker. A sound that is kept leads to the next one. Escape calls off what is recorded or
@@ -45,7 +45,6 @@ class VoiceWindow : public QDialog {
   void Begin();
 
   void ShowMicrophones(const QList<Microphone>& there);
-  QByteArray MicrophoneId() const;
   void Follow();
   void FollowTake();
   void Choose();
@@ -67,7 +66,6 @@ class VoiceWindow : public QDialog {
   Board& board_;
   OwnSounds own_;
   bool driveIsThere_;
-  bool hasMicrophone_ = false;
   SpeechWave take_;  ///< recorded and not yet kept; empty for none
   QTemporaryDir takes_;
   std::function<void(const Copied&)> then_;
@@ -83,7 +81,7 @@ class VoiceWindow : public QDialog {
   QPushButton* again_;
   QPushButton* giveBack_;
   QSpinBox* number_;
-  QComboBox* microphones_;
+  MicrophoneList* microphones_;
   QPushButton* toStick_;
   QPushButton* fromStick_;
   QProgressBar* progress_;

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QPixmap>
 
+#include "board/strip.h"
 #include "home/home.h"
 #include "ui/forms.h"
 
@@ -50,6 +51,16 @@ std::string PlaceText(const Form& form, const QString& control) {
       .arg(place.width)
       .arg(place.height)
       .toStdString();
+}
+
+bool RestsWhileALetterIsWritten(Board& board, const char* button) {
+  const auto* found = board.Named<StripButton>(Q(button));
+  bool enabledMeanwhile = true;
+  board.pen().SetFrameCall([&] { enabledMeanwhile = found->isEnabled(); });
+  const bool enabledBefore = found->isEnabled();
+  board.pic_Click(1);
+  board.pen().SetFrameCall(nullptr);
+  return enabledBefore && !enabledMeanwhile && found->isEnabled();
 }
 
 void BoardTest::SetUp() {

@@ -43,6 +43,9 @@ bool IsBlank(const Board& board, int x, int y);
 /// A control's place in twips, as text: "1450 560 900 825".
 std::string PlaceText(const Form& form, const QString& control);
 
+/// Whether that button of the strip is disabled while a letter is written, and only then.
+bool RestsWhileALetterIsWritten(Board& board, const char* button);
+
 class BoardTest : public TempDrives {
  protected:
   void SetUp() override;
