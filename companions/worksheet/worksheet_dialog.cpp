@@ -222,7 +222,15 @@ WorksheetRecord WorksheetDialog::Record() const {
 
 void WorksheetDialog::hideEvent(QHideEvent* event) {
   QDialog::hideEvent(event);
-  if (!event->spontaneous()) KeepWorksheet(source_.set, Record());
+  if (event->spontaneous()) return;
+  WorksheetRecord record = Record();
+  const bool wordsAreOfElsewhere =
+      beforeWords_ && record.words == printedWords_ && record.matter == WorksheetMatter::TypedWords;
+  if (wordsAreOfElsewhere) {
+    record.matter = beforeWords_->matter;
+    record.words = beforeWords_->words;
+  }
+  KeepWorksheet(source_.set, record);
 }
 
 LaidOut WorksheetDialog::MakePages(const WorksheetRecord& record) {

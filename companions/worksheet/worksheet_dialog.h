@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <optional>
 
 #include "companions/worksheet/worksheet_pages.h"
 #include "paper/pdf_file.h"
@@ -33,7 +34,7 @@ class WorksheetDialog : public QDialog {
   explicit WorksheetDialog(Board& board);
 
   /// Takes these words, with commas between, as if they had been typed, and prints them as if that
-  /// had been pressed.
+  /// had been pressed. The next time the choice is the one before again.
   void PrintWords(const QString& words);
 
   /// Esc and the window's close button: ends long work that goes on, else the dialog.
@@ -85,6 +86,8 @@ class WorksheetDialog : public QDialog {
   QPushButton* close_ = nullptr;
   QTimer refresh_{this};
   LaidOut made_;
+  std::optional<WorksheetRecord> beforeWords_;  ///< what was chosen when PrintWords came
+  QString printedWords_;
   QString savedFile_;  ///< the last one of this dialog
 };
 

@@ -85,6 +85,8 @@ PaperError WorksheetDialog::RunLong(
 
 void WorksheetDialog::PrintWords(const QString& words) {
   WorksheetRecord record = Record();
+  beforeWords_ = record;
+  printedWords_ = words;
   record.matter = WorksheetMatter::TypedWords;
   record.words = words;
   matter_->Show(record);

@@ -89,6 +89,23 @@ TEST_F(PrintedWords, TheWordsAreInFrontAgainOnceTheWorksheetIsClosed) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(words, kHangMs));
 }
 
+TEST_F(PrintedWords, TheNextWorksheetIsTheOneBefore) {
+  OpenWords();
+  board->Named<QLineEdit>(Q("words_text"))->setText(Q("cat"));
+  PressPrint();
+  CloseDialog();
+  OpenDialog();
+  EXPECT_EQ(The<QComboBox>("matter")->currentIndex(), kLetters);
+  EXPECT_EQ(The<QLineEdit>("words")->text(), QString());
+  CloseDialog();
+  PressPrint();
+  The<QLineEdit>("words")->setText(Q("cat, dog"));
+  CloseDialog();
+  OpenDialog();
+  EXPECT_EQ(The<QComboBox>("matter")->currentIndex(), kWords) << "which was chosen there by hand";
+  EXPECT_EQ(The<QLineEdit>("words")->text(), Q("cat, dog"));
+}
+
 TEST_F(PrintedWords, TheWindowHasKeysThatNoMenuOfABoardHas) {
   board = &Open(kMathsForm);
   QStringList keys;
