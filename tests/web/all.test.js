@@ -6,3 +6,4 @@ import './trace.js';
 import './bad_cases.js';
 import './access.js';
 import './paper.js';
+import './sounds.js';
