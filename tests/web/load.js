@@ -1,4 +1,5 @@
 import assert from 'node:assert/strict';
+import { statSync } from 'node:fs';
 import { test } from 'node:test';
 import {
   comparedWithProgram, kFourLetters, kPhone, kWeb, openPage, reload, said, server, shot,
@@ -17,6 +18,12 @@ test('the page loads from a server and asks for nothing from elsewhere', async (
   assert.equal(await page.evaluate(() => localStorage.length), 0);
   await shot(page, 'home-tablet');
   await page.closeTrial();
+});
+
+test('the page with its code is small', () => {
+  const parts = ['index.html', 'page.js', 'letters.wasm.gz'].map((name) => statSync(`${kWeb}/${name}`).size);
+  const size = parts.reduce((sum, part) => sum + part, 0);
+  assert.ok(size <= 150_000, `${size} bytes`);
 });
 
 test('the single file opens without any server and writes', async () => {

@@ -52,6 +52,26 @@ test('strokes go back and come again', async () => {
   await page.closeTrial();
 });
 
+test('the way from one stroke to the next is not painted', async () => {
+  const page = await openPage({ address: '#engc', prepare: withClock });
+  await page.evaluate(() => {
+    globalThis.heights_ = [];
+    const { putImageData } = CanvasRenderingContext2D.prototype;
+    CanvasRenderingContext2D.prototype.putImageData = function (...all) {
+      globalThis.heights_.push(all[6] / this.canvas.height);
+      return putImageData.apply(this, all);
+    };
+  });
+  await page.click(tile(13)); // M, whose second stroke begins at the top again
+  await page.evaluate(() => (globalThis.heights_.length = 0)); // the empty sheet
+  await frames(page, 1000, 16);
+  await said(page, 'capital M is written');
+  const heights = await page.evaluate(() => globalThis.heights_);
+  assert.ok(heights.length > 20, `${heights.length} parts were painted`);
+  assert.ok(Math.max(...heights) < 0.2, `the highest has ${Math.max(...heights)} of the canvas`);
+  await page.closeTrial();
+});
+
 test('a faster pen writes more dots in a frame', async () => {
   const inked = async (doublings) => {
     const page = await openPage({ address: '#engc', prepare: withClock });

@@ -45,7 +45,6 @@ export class Pen {
       // The first dots stand in the frame of the tap.
       this.last = performance.now();
       this.advance(kFrame);
-      this.view.paint();
       performance.mark('bramlee-first-dots');
       if (this.isDone()) return this.stop();
       this.frame = requestAnimationFrame((now) => this.onFrame(now));
@@ -56,19 +55,21 @@ export class Pen {
   onFrame(now) {
     this.advance(Math.min(Math.max(now - this.last, 0) / 1000, kLongDelay));
     this.last = now;
-    this.view.paint();
     if (this.isDone()) return this.stop();
     this.frame = requestAnimationFrame((next) => this.onFrame(next));
     if (this.sheet.strokesWritten !== this.strokes) this.sayChanged();
   }
 
+  /// Shows stroke by stroke: the room between the end of one and the beginning of the next is large,
+  /// and nothing in it is new.
   advance(seconds) {
-    const dots = this.sheet.due(seconds);
-    if (this.toStrokeEnd) {
-      this.sheet.writeStroke(dots);
-    } else {
-      this.sheet.write(dots);
-    }
+    let dots = this.sheet.due(seconds);
+    let written = 0;
+    do {
+      written = this.sheet.writeStroke(dots);
+      this.view.paint();
+      dots -= written;
+    } while (!this.toStrokeEnd && written > 0 && dots > 0);
   }
 
   isDone() {
