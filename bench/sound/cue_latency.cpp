@@ -47,11 +47,14 @@ int MeasureFirst(const QString& file, bool warm) {
   return 0;
 }
 
+/// -1 when the process ends without a figure.
 double FirstInAProcess(const QString& how, const QString& file) {
   QProcess process;
   process.start(QCoreApplication::applicationFilePath(), {how, file});
   process.waitForFinished(-1);
-  return process.readAllStandardOutput().toDouble();
+  bool isFigure = false;
+  const double ms = process.readAllStandardOutput().toDouble(&isFigure);
+  return isFigure ? ms : -1;
 }
 
 QStringList MakeTones(const QDir& folder) {
