@@ -17,7 +17,8 @@ function deviceLength(length, exact) {
 
 /// Shows a part of a sheet as large as its holder allows, one canvas pixel to a device pixel. What
 /// beneath() and above() paint, in sheet pixels, is painted anew before the next frame after
-/// touch(); they return whether there is anything. resized() comes when the holder has another size; whoever it calls shows the sheet.
+/// touch(); they return whether there is anything. resized() comes when the holder has another size;
+/// whoever it calls shows the sheet.
 export class SheetView {
   constructor(holder, sheet, ground, { beneath, above, resized }) {
     this.holder = holder;
@@ -88,7 +89,8 @@ export class SheetView {
     const { width, height } = this.room;
     if (width < 1 || height < 1) return;
     const { box } = this;
-    const wanted = [width, height, box.x, box.y, box.width, box.height, this.seeThrough].join();
+    const { x, y, width: across, height: down } = box;
+    const wanted = [width, height, devicePixelRatio, x, y, across, down, this.seeThrough].join();
     if (wanted !== this.fitted) this.cover();
     this.fitted = wanted;
     this.paint();
