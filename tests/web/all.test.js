@@ -3,6 +3,7 @@ import './load.js';
 import './letters.js';
 import './pen.js';
 import './trace.js';
+import './recorded_pens.js';
 import './bad_cases.js';
 import './access.js';
 import './paper.js';

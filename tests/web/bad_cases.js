@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import {
-  button, kPhone, kStrokesOfB, kWeb, openPage, onScreen, reload, said, server, shot, tile,
+  allOnScreen, button, kPhone, kStrokesOfB, kWeb, openPage, reload, said, server, shot, tile,
 } from './browser.js';
 import { serve } from './server.js';
 
@@ -207,8 +207,8 @@ test('a lost mouse release lifts the pen at the next move', async () => {
     document.addEventListener('pointerup', (event) => event.stopImmediatePropagation(), true);
     document.addEventListener('lostpointercapture', (event) => event.stopImmediatePropagation(), true);
   });
-  const places = await Promise.all(
-    stroke.filter((_, i) => i % 8 === 0 || i === stroke.length - 1).map((at) => onScreen(page, at)));
+  const places = await allOnScreen(
+    page, stroke.filter((_, i) => i % 8 === 0 || i === stroke.length - 1));
   await page.mouse.move(places[0].x, places[0].y);
   await page.mouse.down();
   for (const place of places) await page.mouse.move(place.x, place.y);

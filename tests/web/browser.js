@@ -1,6 +1,6 @@
 // What the tests share: one browser, pages in it, and what they look at.
 import { execFile } from 'node:child_process';
-import { existsSync, mkdirSync, readdirSync } from 'node:fs';
+import { existsSync, mkdirSync, readdirSync, statSync } from 'node:fs';
 import { readFile, rm } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -104,13 +104,16 @@ export function shot(page, name) {
 export const button = (name) => `[data-name="${name}"]`;
 export const tile = (number) => `[data-tile="${number}"]`;
 
-/// Whatever is there already: of the presets the one that was built.
-function strokesTool() {
+/// A tool of the program: in BRAMLEE_TOOLS, a folder, or else that of the preset built last.
+function programsTool(name) {
   const builds = join(kRoot, 'build');
-  const found = readdirSync(builds)
-    .map((preset) => join(builds, preset, 'tools/bramlee-strokes'))
-    .find((path) => existsSync(path));
-  assert.ok(found, 'bramlee-strokes is built');
+  const { BRAMLEE_TOOLS: chosen } = process.env;
+  const folders = chosen ? [chosen] : readdirSync(builds).map((preset) => join(builds, preset, 'tools'));
+  const [found] = folders
+    .map((folder) => join(folder, name))
+    .filter((path) => existsSync(path))
+    .sort((a, b) => statSync(b).mtimeMs - statSync(a).mtimeMs);
+  assert.ok(found, `${name} is not built: it is in none of ${folders.join(', ')}`);
   return found;
 }
 
@@ -118,10 +121,20 @@ const run = promisify(execFile);
 
 /// A letter's pen strokes as lists of [x, y], in sheet pixels, in the form of the book.
 export async function penStrokes({ set, tile }) {
-  const { stdout } = await run(strokesTool(), [set, String(tile), '--book', '--pen-strokes'], {
+  const { stdout } = await run(programsTool('bramlee-strokes'), [set, String(tile), '--book', '--pen-strokes'], {
     maxBuffer: 1 << 24,
   });
   return JSON.parse(stdout).strokes.map((stroke) => stroke.points);
+}
+
+/// What the program says of a pen that traces a letter in the form of the book: an object for each
+/// touch, and one at the end. `events` are {down: [x, y]}, {move: [x, y]} and {up: true}.
+export async function programsVerdicts({ set, tile }, level, events) {
+  const judged = run(
+    programsTool('bramlee-trace'), [set, String(tile), '--book', '--level', level]);
+  judged.child.stdin.end(events.map((event) => `${JSON.stringify(event)}\n`).join(''));
+  const { stdout } = await judged;
+  return stdout.trim().split('\n').map((line) => JSON.parse(line));
 }
 
 let pictures = 0;
@@ -129,7 +142,7 @@ let pictures = 0;
 /// The program's own picture of a letter, as a PNG in base64.
 async function programsPicture({ set, tile }, scale) {
   const path = join(tmpdir(), `bramlee-web-${process.pid}-${pictures++}.png`);
-  await run(strokesTool(), [set, String(tile), '--png', path, '--scale', String(scale)]);
+  await run(programsTool('bramlee-strokes'), [set, String(tile), '--png', path, '--scale', String(scale)]);
   const bytes = await readFile(path);
   await rm(path);
   return bytes.toString('base64');
@@ -184,22 +197,32 @@ export function framesLater(page) {
   );
 }
 
-/// The place in the window of a place on the sheet.
-export async function onScreen(page, [x, y]) {
-  return page.evaluate(
-    (sheetX, sheetY) => {
-      const { dataset } = document.querySelector('.sheet');
-      const canvas = document.querySelector('canvas.ink');
-      const rect = canvas.getBoundingClientRect();
-      const css = rect.width / canvas.width;
-      return {
-        x: rect.left + (sheetX * dataset.ratio - dataset.left) * css,
-        y: rect.top + (sheetY * dataset.ratio - dataset.top) * css,
-      };
-    },
-    x,
-    y,
-  );
+/// The places in the window of places [x, y] on the sheet.
+export function allOnScreen(page, points) {
+  return page.evaluate((all) => {
+    const { dataset } = document.querySelector('.sheet');
+    const canvas = document.querySelector('canvas.ink');
+    const rect = canvas.getBoundingClientRect();
+    const css = rect.width / canvas.width;
+    return all.map(([x, y]) => ({
+      x: rect.left + (x * dataset.ratio - dataset.left) * css,
+      y: rect.top + (y * dataset.ratio - dataset.top) * css,
+    }));
+  }, points);
+}
+
+/// The fingers of a hand at those places in the window.
+export function touch(session, type, places) {
+  const touchPoints = places.map(({ x, y }, id) => ({ x, y, id }));
+  return session.send('Input.dispatchTouchEvent', { type, touchPoints });
+}
+
+/// A stylus or a mouse that is pressed, moves or is released at that place in the window. A move
+/// without its button would end a mouse's capture, which no real one does.
+export function pointer(session, pointerType, type, { x, y }) {
+  return session.send('Input.dispatchMouseEvent', {
+    type, x, y, pointerType, button: 'left', clickCount: 1, buttons: type === 'mouseReleased' ? 0 : 1,
+  });
 }
 
 /// Frames come only when the test asks for them by frameAfter(ms); for openPage's `prepare`.

@@ -1,8 +1,8 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import {
-  button, comparedWithProgram, framesLater, inkOf, kFourLetters, kPhone, kStrokesOfB, kTablet, onScreen,
-  openPage, reload, said, shot, tile,
+  allOnScreen, button, comparedWithProgram, framesLater, inkOf, kFourLetters, kPhone, kStrokesOfB,
+  kTablet, openPage, pointer, reload, said, shot, tile, touch,
 } from './browser.js';
 
 const [B] = kFourLetters;
@@ -20,9 +20,8 @@ async function openTracing(options = {}) {
 }
 
 /// Every few points of a stroke, in the window.
-async function placesOf(page, stroke) {
-  const some = stroke.filter((_, i) => i % 8 === 0 || i === stroke.length - 1);
-  return Promise.all(some.map((point) => onScreen(page, point)));
+function placesOf(page, stroke) {
+  return allOnScreen(page, stroke.filter((_, i) => i % 8 === 0 || i === stroke.length - 1));
 }
 
 async function traceByMouse(page, places) {
@@ -30,11 +29,6 @@ async function traceByMouse(page, places) {
   await page.mouse.down();
   for (const place of places.slice(1)) await page.mouse.move(place.x, place.y);
   await page.mouse.up();
-}
-
-async function touch(session, type, places) {
-  const touchPoints = places.map(({ x, y }, id) => ({ x, y, id }));
-  await session.send('Input.dispatchTouchEvent', { type, touchPoints });
 }
 
 const stars = (page) => page.evaluate(() => localStorage.getItem('bramlee-stars'));
@@ -76,10 +70,7 @@ test('a second finger changes nothing', async () => {
 test('a stylus traces, and the hand that rests beside it changes nothing', async () => {
   const page = await openTracing({ size: kPhone });
   const session = await page.createCDPSession();
-  const stylus = (type, { x, y }) => session.send('Input.dispatchMouseEvent', {
-    type, x, y, pointerType: 'pen', button: type === 'mouseMoved' ? 'none' : 'left', clickCount: 1,
-    buttons: type === 'mouseReleased' ? 0 : 1,
-  });
+  const stylus = (type, place) => pointer(session, 'pen', type, place);
   const places = await placesOf(page, kStrokes[0]);
   const resting = { x: places[0].x + 60, y: places[0].y + 20 };
   await touch(session, 'touchStart', [resting]);
@@ -133,7 +124,7 @@ test('a stroke can be traced across a resize of the window', async () => {
 
 test('after four misses the pen writes the stroke, with help at each', async () => {
   const page = await openTracing();
-  const far = await onScreen(page, [700, 200]);
+  const [far] = await allOnScreen(page, [[700, 200]]);
   const miss = async () => {
     await page.mouse.move(far.x, far.y);
     await page.mouse.down();
