@@ -22,6 +22,8 @@ namespace {
 
 const QString kA = QStringLiteral("engc/eng-a");
 const QString kB = QStringLiteral("engc/eng-b");
+const QString kAtWork =
+    QStringLiteral("The sounds' maker is at work: try again when it has ended.");
 
 SpeechWave Cue(int samples = 9000) {
   SpeechWave cue{.rate = 48000, .samples = {}};
@@ -180,8 +182,7 @@ TEST_F(OwnSoundsTest, AFolderInAFilesPlaceChangesNothing) {
 TEST_F(OwnSoundsTest, WaitWhileTheMakerIsAtWork) {
   const SoundsLock maker(On("c/bramlee/aud"));
   ASSERT_TRUE(maker.Holds());
-  EXPECT_EQ(Own().Keep(kA, Cue()).toStdString(),
-            "The sounds' maker is at work: try again when it has ended.");
+  EXPECT_EQ(Own().Keep(kA, Cue()), kAtWork);
   EXPECT_TRUE(IsMakers());
 }
 
@@ -190,8 +191,11 @@ TEST_F(OwnSoundsTest, OfTwoWindowsAreKeptOneAfterTheOther) {
   {
     std::vector<std::jthread> windows;
     for (std::size_t i = 0; i < said.size(); ++i) {
-      windows.emplace_back(
-          [&, i] { said[i] = Own().Keep(i % 2 == 0 ? kA : kB, Cue(8000 + static_cast<int>(i))); });
+      windows.emplace_back([&, i] {
+        do {  // on a busy machine another one's turn may take longer than a window waits
+          said[i] = Own().Keep(i % 2 == 0 ? kA : kB, Cue(8000 + static_cast<int>(i)));
+        } while (said[i] == kAtWork);
+      });
     }
   }
   for (const QString& each : said) EXPECT_EQ(each.toStdString(), "");
