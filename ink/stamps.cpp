@@ -39,11 +39,10 @@ Stamps::Stamps(double ratio)
 
 /// Goes level by level of samples: a disc holds those of a level from one pixel to another. Flips
 /// their bit where they begin and behind where they end, then carries it from pixel to pixel.
-void Stamps::Make(int phaseX, int phaseY) {
-  const double centreX = reach_ + static_cast<double>(phaseX) / kPhases;
+void Stamps::MakeRow(int phaseY) {
   const double centreY = reach_ + static_cast<double>(phaseY) / kPhases;
-  std::uint64_t* words = words_.get() + (phaseY * kPhases + phaseX) * wordsPerStamp_;
-  for (int row = 0; row < rows_; ++row, words += columns_) {
+  std::uint64_t* const stamps = words_.get() + phaseY * kPhases * wordsPerStamp_;
+  for (int row = 0; row < rows_; ++row) {
     for (int i = 0; i < kSamples; ++i) {
       const double sampleX = (i + 0.5) / kSamples;
       const double sampleY = (kSampleRow[i] + 0.5) / kSamples;
@@ -51,12 +50,25 @@ void Stamps::Make(int phaseX, int phaseY) {
       const double square = radius_ * radius_ - offCentre * offCentre;
       if (square < 0) continue;
       const double half = std::sqrt(square);
-      const auto first = static_cast<int>(std::ceil(centreX - half - sampleX));
-      const auto behind = static_cast<int>(std::floor(centreX + half - sampleX)) + 1;
-      words[first] ^= std::uint64_t{1} << i;
-      words[behind] ^= std::uint64_t{1} << i;
+      FlipBehind(reach_ - half - sampleX, i, stamps + row * columns_);
+      FlipBehind(reach_ + half - sampleX, i, stamps + row * columns_);
     }
+  }
+  for (int row = 0; row < kPhases * rows_; ++row) {
+    std::uint64_t* const words = stamps + row * columns_;
     for (int column = 1; column < columns_; ++column) words[column] ^= words[column - 1];
+  }
+}
+
+/// Flips the bit `sample` of the first pixel behind `place` in each stamp of a row, the first of
+/// which begins at `words`; from stamp to stamp the place lies one phase further right, so that the
+/// pixel becomes the next one once.
+void Stamps::FlipBehind(double place, int sample, std::uint64_t* words) const {
+  const double pixel = std::floor(place) + 1;
+  const auto nextFrom = static_cast<int>(std::ceil((pixel - place) * kPhases));
+  words += static_cast<int>(pixel);
+  for (int phaseX = 0; phaseX < kPhases; ++phaseX, words += wordsPerStamp_) {
+    words[phaseX < nextFrom ? 0 : 1] ^= std::uint64_t{1} << sample;
   }
 }
 

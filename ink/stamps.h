@@ -18,7 +18,8 @@ using Words = std::unique_ptr<std::uint64_t[], FreeWords>;
 Words ZeroWords(std::size_t count);
 
 /// The discs for one pixel ratio. A word holds the 64 samples of one device pixel, a set bit a
-/// sample within the disc. Each disc is made when it is first asked for.
+/// sample within the disc. Discs are made when the first of those beside each other within a pixel
+/// is asked for: together they take a third of the time.
 class Stamps {
  public:
   /// A disc's centre stands on one of kPhases by kPhases places within its pixel.
@@ -41,12 +42,13 @@ class Stamps {
     const int phase = phaseY * kPhases + phaseX;
     const std::uint64_t* stamp = words_.get() + phase * wordsPerStamp_;
     // The pixel of its centre is always full in a stamp that is made.
-    if (stamp[reach_ * columns_ + reach_] == 0) Make(phaseX, phaseY);
+    if (stamp[reach_ * columns_ + reach_] == 0) MakeRow(phaseY);
     return stamp;
   }
 
  private:
-  void Make(int phaseX, int phaseY);
+  void MakeRow(int phaseY);
+  void FlipBehind(double place, int sample, std::uint64_t* words) const;
 
   double ratio_;
   double radius_;
