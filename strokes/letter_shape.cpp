@@ -75,6 +75,33 @@ StrokePath PathOf(std::span<const Run> runs) {
   return path;
 }
 
+/// Calls `take(double x, double y)` for dots of a run, the outermost ones among them: its ends and,
+/// of an arc, those about where it turns back, which is at each quarter turn. In between it goes
+/// one way. Every dot of a letter takes some forty times as long.
+template <class Take>
+void TakeOutermostDots(const Run& run, double step, Take take) {
+  constexpr double kQuarter = 90;
+  const std::int64_t dots = DotCount(run, step);
+  RunCursor cursor(run, step);
+  std::int64_t next = 0;
+  const auto takeFrom = [&](std::int64_t first, std::int64_t behind) {
+    next += cursor.Skip(first - next);
+    next += cursor.Advance(behind - next, take);
+  };
+  takeFrom(0, 1);
+  if (run.primitive == Primitive::ArcStroke) {
+    const auto [sweepDir, startAngle, endAngle, centreX, centreY, radius] = run.values;
+    const double turn = sweepDir > 0 ? kQuarter : -kQuarter;
+    const auto about = static_cast<std::int64_t>(1 / step) + 1;  // a degree, and a dot at least
+    for (double angle = std::ceil(startAngle / turn) * turn; (endAngle - angle) / turn >= 0;
+         angle += turn) {
+      const std::int64_t dot = std::llround((angle - startAngle) / (sweepDir * step));
+      takeFrom(dot - about, dot + about + 1);
+    }
+  }
+  takeFrom(dots - 1, dots);
+}
+
 }  // namespace
 
 double DistanceBetween(const Point& a, const Point& b) {
@@ -89,7 +116,7 @@ std::optional<Box> BoundsOf(std::span<const Run> runs, double step) {
   constexpr double kFar = 1e9;
   double left = kFar, top = kFar, right = -kFar, bottom = -kFar;
   for (const Run& run : runs) {
-    RunCursor(run, step).Advance(RunCursor::kAll, [&](double x, double y) {
+    TakeOutermostDots(run, step, [&](double x, double y) {
       const Point dot = AsPlotted(x, y);
       left = std::min(left, dot.x), right = std::max(right, dot.x);
       top = std::min(top, dot.y), bottom = std::max(bottom, dot.y);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "strokes/letter.h"
@@ -93,19 +94,42 @@ TEST(LetterShapeTest, IsBoundByItsOutermostDots) {
   EXPECT_NEAR(bounds.y + bounds.height, 200, 0.02);
 }
 
+/// How far those of the runs' dots go that go furthest, found by looking at each.
+std::optional<Box> BoundsOfDots(std::span<const Run> runs, double step) {
+  Recorder sheet(step);
+  for (const Run& run : runs) RunCursor(run, step).Plot(sheet);
+  if (sheet.dots.empty()) return std::nullopt;
+  const auto [left, right] = std::ranges::minmax(sheet.dots, {}, &Dot::x);
+  const auto [top, bottom] = std::ranges::minmax(sheet.dots, {}, &Dot::y);
+  const Point from = AsPoint({left.x, top.y});
+  const Point to = AsPoint({right.x, bottom.y});
+  return Box{.x = from.x, .y = from.y, .width = to.x - from.x, .height = to.y - from.y};
+}
+
+void ExpectBoundByItsDots(const LetterId& id, double step) {
+  const Letter letter = RecordTile(id, step);
+  EXPECT_EQ(BoundsOf(letter.Runs(), step), BoundsOfDots(letter.Runs(), step)) << NameOf(id);
+}
+
 TEST(LetterShapeTest, OfEveryLetterIsBoundByTheDotsAsPlotted) {
-  for (const LetterId& id : EveryLetter()) {
-    Recorder sheet(1);
-    const Letter letter = RecordTile(id, 1);
-    for (const auto& run : letter.Runs()) RunCursor(run, 1).Plot(sheet);
-    const std::optional<Box> box = BoundsOf(letter.Runs(), 1);
-    ASSERT_EQ(box.has_value(), !sheet.dots.empty()) << NameOf(id);
-    if (!box) continue;
-    const auto [left, right] = std::ranges::minmax(sheet.dots, {}, &Dot::x);
-    const auto [top, bottom] = std::ranges::minmax(sheet.dots, {}, &Dot::y);
-    EXPECT_EQ(AsPoint({left.x, top.y}), (Point{box->x, box->y})) << NameOf(id);
-    EXPECT_EQ(AsPoint({right.x, bottom.y}), (Point{box->x + box->width, box->y + box->height}))
-        << NameOf(id);
+  for (const LetterId& id : EveryLetter()) ExpectBoundByItsDots(id, 1);
+}
+
+TEST(LetterShapeTest, SweepOfTheBoundsOfEveryLetterAtTheUsualStep) {
+  for (const LetterId& id : EveryLetter()) ExpectBoundByItsDots(id, kUsualStep);
+}
+
+TEST(LetterShapeTest, OfArcsIsBoundByTheirDotsWhereverTheyBeginAndEnd) {
+  for (const double from : {-400.0, -90.0, -0.3, 0.0, 17.25, 89.7, 90.0, 90.4, 271.0}) {
+    for (const double sweep : {0.0, 0.6, 44.0, 90.0, 181.0, 360.0, 500.0}) {
+      for (const double to : {from + sweep, from - sweep}) {
+        const std::vector arc{Arc(from, to, 73)};
+        for (const double step : {kUsualStep, 0.2, 1.0, 7.0}) {
+          EXPECT_EQ(BoundsOf(arc, step), BoundsOfDots(arc, step))
+              << from << " to " << to << " at " << step;
+        }
+      }
+    }
   }
 }
 
