@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QProcess>
 #include <QStandardPaths>
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -18,6 +19,7 @@
 #include "strokes/letter.h"
 #include "strokes/set_looks.h"
 #include "tests/writing/hands.h"
+#include "tests/writing/recorded_pens.h"
 #include "writing/page.h"
 #include "writing/player.h"
 #include "writing/tracer.h"
@@ -187,6 +189,13 @@ std::vector<Way> WaysOf(const Tracer& tracer, double unit) {
   return ways;
 }
 
+Question QuestionOf(const LetterId& id, const Tracer& tracer, const Traced& traced) {
+  std::ostringstream text;
+  text << "trace " << id.set << ' ' << id.tile << ' ' << NameOf(tracer.Level()) << traced.touches;
+  return {text.str(),
+          traced.said + std::to_string(tracer.Stroke()) + ' ' + std::to_string(tracer.Helped())};
+}
+
 /// A child of five traces the letter: each stroke first wrongly, in one way or another, then as
 /// children do.
 Question TracedBy(std::uint32_t seed, const LetterId& id, TraceLevel level) {
@@ -201,10 +210,7 @@ Question TracedBy(std::uint32_t seed, const LetterId& id, TraceLevel level) {
     if (drawn && !drawn->empty()) Touch(tracer, AsPrinted(*drawn, unit), traced);
     Touch(tracer, AsPrinted(DrawnBy(kFive, ways[stroke], chance), unit), traced);
   }
-  std::ostringstream text;
-  text << "trace " << id.set << ' ' << id.tile << ' ' << NameOf(level) << traced.touches;
-  return {text.str(),
-          traced.said + std::to_string(tracer.Stroke()) + ' ' + std::to_string(tracer.Helped())};
+  return QuestionOf(id, tracer, traced);
 }
 
 TEST(SameLetters, VerdictsOnChildrensPens) {
@@ -216,6 +222,28 @@ TEST(SameLetters, VerdictsOnChildrensPens) {
       ++seed;
       questions.push_back(TracedBy(seed, id, kTraceLevels[seed % std::size(kTraceLevels)]));
     }
+  }
+  ExpectSame(questions);
+}
+
+/// Somebody's pen, laid over the letter.
+Question TracedBy(const RecordedLetter& letter, TraceLevel level) {
+  Tracer tracer(GuideOf(LetterOf(letter.id)), level);
+  Traced traced;
+  for (const Way& touch : letter.touches) Touch(tracer, AsPrinted(touch, 1), traced);
+  return QuestionOf(letter.id, tracer, traced);
+}
+
+TEST(SameLetters, VerdictsOnRecordedPens) {
+  std::vector<Question> questions;
+  for (const RecordedLetter& letter :
+       RecordedLetters(BRAMLEE_TEST_DATA "/../writing/recorded_pens.txt")) {
+    for (const TraceLevel level : kTraceLevels) questions.push_back(TracedBy(letter, level));
+  }
+  for (const char* said : {"done", "resume", "astray", "elsewhere", "scribble"}) {
+    EXPECT_TRUE(std::ranges::any_of(questions, [said](const Question& question) {
+      return question.answer.find(said) != std::string::npos;
+    })) << said;
   }
   ExpectSame(questions);
 }
