@@ -66,6 +66,8 @@ class WorksheetDialog : public QDialog {
   void SayPrinted(const PaperError& error, const QPrinter& printer);
   void SaveAsPdf();
   void SaveTo(const QString& file);
+  /// Says where the file is, and offers its folder.
+  void SaySaved(const QString& file);
   void ShowFolder();
 
   const WorksheetSource source_;

@@ -22,8 +22,9 @@ namespace {
 
 const QString kPage = QStringLiteral("Page");
 const QString kFolder = QStringLiteral("worksheet/folder");
+const QString kNothingSaved = QStringLiteral("Cancelled. Nothing was saved.");
 
-/// The folder that a worksheet went to last, as long as it is there.
+/// The folder that a worksheet was saved in last, as long as it is there.
 QString UsualFolder() {
   QString kept = Choices::Instance().Of(kFolder, QString()).toString();
   if (!kept.isEmpty() && QDir(kept).exists()) return kept;
@@ -117,15 +118,20 @@ void WorksheetDialog::Print() {
 }
 
 void WorksheetDialog::SayPrinted(const PaperError& error, const QPrinter& printer) {
+  const bool toFile = PrintsToFile(printer);
   if (error.kind == PaperError::Kind::Cancelled) {
-    if (PrintsToFile(printer)) QFile::remove(printer.outputFileName());
-    return Say(QStringLiteral("Cancelled. Pages that the printer had by then may still come."));
+    if (!toFile) {
+      return Say(QStringLiteral("Cancelled. Pages that the printer had by then may still come."));
+    }
+    QFile::remove(printer.outputFileName());
+    return Say(kNothingSaved);
   }
   if (!error.IsNone() || IsGone(printer)) {
     const QString text = error.IsNone() ? QStringLiteral("The printer is gone.") : error.text;
     Say(text);
     return MsgBox(text + QStringLiteral("\nNothing is lost: print once more, or save as PDF."));
   }
+  if (toFile) return SaySaved(printer.outputFileName());
   Say(QStringLiteral("Sent to the printer."));
 }
 
@@ -147,14 +153,18 @@ void WorksheetDialog::SaveTo(const QString& file) {
   const PaperError error = RunLong(
       kPage, [&](const PageProgress& progress) { return WritePdf(*pages, info, file, progress); });
   if (error.kind == PaperError::Kind::Cancelled) {
-    return Say(QStringLiteral("Cancelled. Nothing was saved."));
+    return Say(kNothingSaved);
   }
   if (!error.IsNone()) {
     Say(error.text);
     return MsgBox(error.text);
   }
-  savedFile_ = file;
   Choices::Instance().Choose(kFolder, QFileInfo(file).absolutePath());
+  SaySaved(file);
+}
+
+void WorksheetDialog::SaySaved(const QString& file) {
+  savedFile_ = file;
   folder_->show();
   Say(QStringLiteral("Saved: ") + QDir::toNativeSeparators(file));
 }

@@ -45,7 +45,7 @@ TEST_F(PrintedWords, TheNameOnTheCardIsAtThePrinterAfterTwoClicks) {
   ASSERT_NE(dialog, nullptr);
   EXPECT_EQ(The<QComboBox>("matter")->currentIndex(), kWords);
   EXPECT_EQ(The<QLineEdit>("words")->text(), Q("Kavya"));
-  EXPECT_EQ(Said(), Q("Sent to the printer."));
+  EXPECT_EQ(Said(), Q("Saved: ") + printed);
 }
 
 TEST_F(PrintedWords, WhatTheLineSaysGoesBeforeTheCard) {
