@@ -2,7 +2,6 @@
 
 #include <QFileDialog>
 #include <QStorageInfo>
-#include <QStringList>
 
 #include "ui/choices.h"
 
@@ -10,9 +9,10 @@ namespace bramlee {
 namespace {
 
 const QString kStick = QStringLiteral("voice/stick");
+const QString kUsual = QStringLiteral("/media");
 
 /// What desktops put into place by themselves when it is plugged in.
-QStringList Sticks() {
+QStringList PluggedIn() {
   QStringList sticks;
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
     const QString place = volume.rootPath();
@@ -23,15 +23,32 @@ QStringList Sticks() {
   return sticks;
 }
 
+QString PickFolder(QWidget* window, const QString& title, const QString& first) {
+  return QFileDialog::getExistingDirectory(window, title, first);
+}
+
+QString LastPlace() {
+  return Choices::Instance().Of(kStick, kUsual).toString();
+}
+
 }  // namespace
 
+StickSearch& TheStickSearch() {
+  static StickSearch search{.sticks = PluggedIn, .pick = PickFolder};
+  return search;
+}
+
 QString StickPlace(QWidget* window, const QString& title) {
-  const QStringList sticks = Sticks();
+  const QStringList sticks = TheStickSearch().sticks();
   if (sticks.size() == 1) return sticks.constFirst();
-  const QString last = Choices::Instance().Of(kStick, QStringLiteral("/media")).toString();
-  QString picked = QFileDialog::getExistingDirectory(window, title, last);
-  if (!picked.isEmpty()) Choices::Instance().Choose(kStick, picked);
-  return picked;
+  return TheStickSearch().pick(window, title, LastPlace());
+}
+
+void NoteCopy(const QString& place, const Copied& copied) {
+  if (TheStickSearch().sticks() == QStringList(place)) return;  // the one stick is found again
+  const bool failed = !copied.error.isEmpty();
+  if (!failed && copied.sounds > 0) Choices::Instance().Choose(kStick, place);
+  if (failed && place == LastPlace()) Choices::Instance().Choose(kStick, kUsual);
 }
 
 }  // namespace bramlee

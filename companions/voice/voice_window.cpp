@@ -358,6 +358,7 @@ void VoiceWindow::ToStick() {
         return CopyToStick(own, stick, progress, stop);
       },
       [this, stick](const Copied& copied) {
+        NoteCopy(stick, copied);
         if (!copied.error.isEmpty()) return;
         Say(QStringLiteral("%1 copied to %2.").arg(SoundsText(copied.sounds), stick));
       });
@@ -371,6 +372,7 @@ void VoiceWindow::FromStick() {
         return TakeFromStick(own, stick, progress, stop);
       },
       [this, stick](const Copied& copied) {
+        NoteCopy(stick, copied);
         if (!copied.error.isEmpty()) return;
         Say(QStringLiteral("%1 taken from %2.").arg(SoundsText(copied.sounds), stick));
       });

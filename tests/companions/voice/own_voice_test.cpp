@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -12,12 +13,15 @@
 #include "board/strip.h"
 #include "companions/voice/board_sounds.h"
 #include "companions/voice/sound_list.h"
+#include "companions/voice/stick_place.h"
 #include "companions/voice/take_lines.h"
 #include "companions/voice/voice.h"
 #include "files/sound_sets.h"
 #include "maths/maths.h"
 #include "tests/board/board_fixture.h"
+#include "ui/choices.h"
 #include "ui/form_ids.h"
+#include "voice/speech_wave.h"
 
 namespace bramlee {
 namespace {
@@ -183,6 +187,98 @@ TEST_F(OwnVoices, HaveLargeTargetsWithNames) {
     EXPECT_GE(button->minimumHeight(), 44) << button->objectName().toStdString();
     EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
   }
+}
+
+/// A desk without a single stick, whose user picks the folder `picks`.
+class OwnVoicesOnSticks : public OwnVoices {
+ protected:
+  OwnVoicesOnSticks() : search_(TheStickSearch()) {
+    TheStickSearch() = {.sticks = [this] { return sticks; },
+                        .pick =
+                            [this](QWidget*, const QString&, const QString& first) {
+                              offered.append(first);
+                              return picks;
+                            }};
+    Choices::Instance().Choose(Q("voice/stick"), usual);
+  }
+  ~OwnVoicesOnSticks() override { TheStickSearch() = search_; }
+  void SetUp() override {
+    OwnVoices::SetUp();
+    QDir().mkpath(On("c/bramlee/aud/own/voice/engc"));
+    for (const char* file : {"engc/eng-a.wav", "own/voice/engc/eng-a.wav"})
+      WriteBytes(On("c/bramlee/aud/") + Q(file), WriteWave(kWave));
+  }
+
+  /// The window once it has looked for microphones, of which there are none: what it says of that
+  /// is said.
+  QDialog& AskAndAwait() {
+    QDialog& dialog = Ask(Open(kCapitalsForm));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Said(dialog).empty(); }, 30000));
+    return dialog;
+  }
+  /// Copies in the window and waits for the end of that. Returns what is said of it.
+  static std::string Copy(const QDialog& dialog, const char* button) {
+    In<QPushButton>(dialog, button).click();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return !In<QProgressBar>(dialog, "voice_progress").isVisible(); }, 30000));
+    return Said(dialog);
+  }
+
+  const QString usual = Q("/media");
+  const SpeechWave kWave{.rate = 48000, .samples = std::vector<std::int16_t>(4800, 1000)};
+  QTemporaryDir folder;
+  QStringList sticks;
+  QString picks = folder.path();
+  QStringList offered;
+
+ private:
+  StickSearch search_;
+};
+
+TEST_F(OwnVoicesOnSticks, AreOfferedTheFolderOfTheLastCopyThatSucceeded) {
+  const QDialog& dialog = AskAndAwait();
+  EXPECT_EQ(Copy(dialog, "voice_tostick"), "1 recording copied to " + picks.toStdString() + ".");
+  EXPECT_EQ(Copy(dialog, "voice_fromstick"), "1 recording taken from " + picks.toStdString() + ".");
+  Copy(dialog, "voice_tostick");
+  EXPECT_EQ(offered, QStringList({usual, picks, picks}));
+  Choices::Instance().Choose(Q("voice/stick"), usual);
+  Copy(dialog, "voice_fromstick");
+  Copy(dialog, "voice_fromstick");
+  EXPECT_EQ(offered.mid(3), QStringList({usual, picks}));
+}
+
+TEST_F(OwnVoicesOnSticks, AreNotOfferedAFolderThatFailedOrHeldNone) {
+  const QDialog& dialog = AskAndAwait();
+  const QString good = picks;
+  Copy(dialog, "voice_tostick");
+  picks = folder.filePath(Q("missing"));
+  EXPECT_EQ(Copy(dialog, "voice_tostick"), "There is no such folder.");
+  EXPECT_EQ(Copy(dialog, "voice_fromstick"), "There are no recordings in that folder.");
+  QDir().mkpath(picks + Q("/engc"));
+  WriteBytes(picks + Q("/engc/eng-a.wav"), "no wave");
+  EXPECT_EQ(Copy(dialog, "voice_fromstick"),
+            "0 recordings taken from " + picks.toStdString() + ".");
+  Copy(dialog, "voice_fromstick");
+  EXPECT_EQ(offered, QStringList({usual, good, good, good, good}));
+}
+
+TEST_F(OwnVoicesOnSticks, AreOfferedAFolderNoMoreOnceItFails) {
+  const QDialog& dialog = AskAndAwait();
+  Copy(dialog, "voice_tostick");
+  QDir(picks).removeRecursively();
+  Copy(dialog, "voice_tostick");
+  Copy(dialog, "voice_tostick");
+  EXPECT_EQ(offered, QStringList({usual, picks, usual}));
+}
+
+TEST_F(OwnVoicesOnSticks, TakeTheOneStickThatIsThereAndOfferTheOldFolderAfterwards) {
+  const QDialog& dialog = AskAndAwait();
+  sticks = QStringList(folder.path());
+  Copy(dialog, "voice_tostick");
+  EXPECT_EQ(offered, QStringList());
+  sticks.clear();
+  Copy(dialog, "voice_tostick");
+  EXPECT_EQ(offered, QStringList(usual));
 }
 
 TEST(TakeLines, SayForEachFaultWhatItIs) {
