@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/return_key.h"
+
 namespace bramlee {
 
 QString Indexed(const char* array, int index) {
@@ -105,14 +107,6 @@ Combo::Combo(QWidget* parent) : QComboBox(parent) {
   lineEdit()->disconnect(SIGNAL(returnPressed()), this);
   connect(this, &QComboBox::activated, this, &Combo::Picked);
 }
-
-namespace {
-
-bool IsReturn(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-}  // namespace
 
 void Combo::showPopup() {
   view()->installEventFilter(this);  // before any that the open list has

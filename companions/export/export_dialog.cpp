@@ -28,6 +28,7 @@
 #include "paper/usual_paper.h"
 #include "ui/message_box.h"
 #include "ui/named.h"
+#include "ui/return_key.h"
 
 namespace bramlee {
 namespace {
@@ -95,6 +96,7 @@ ExportDialog::ExportDialog(Board& board)
   connect(numbers_, &QCheckBox::clicked, this, [this](bool on) { numbersChosen_ = on; });
   connect(&work_, &ExportWork::Progress, this, &ExportDialog::ShowProgress);
   connect(&work_, &ExportWork::Ended, this, &ExportDialog::Finish);
+  PressByReturn(*this);
   ShowChoices(LastExportChoices());
   FollowKind();
   FollowWork();

@@ -20,6 +20,7 @@
 #include "files/platform.h"
 #include "media/sound_engine.h"
 #include "ui/named.h"
+#include "ui/return_key.h"
 #include "voice/sound_formats.h"
 
 namespace bramlee {
@@ -87,6 +88,7 @@ VoiceWindow::VoiceWindow(Board& board)
   said_->setMinimumHeight(2 * said_->fontMetrics().lineSpacing());
   resize(kWindow);
   for (const BoardSound& sound : SoundsOf(board_)) list_->Offer(sound);
+  PressByReturn(*this);
   Connect();
   Begin();
 }

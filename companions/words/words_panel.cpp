@@ -10,6 +10,7 @@
 #include "companions/words/words.h"
 #include "ui/choices.h"
 #include "ui/held_input.h"
+#include "ui/return_key.h"
 
 namespace bramlee {
 namespace {
@@ -78,6 +79,7 @@ WordsPanel::WordsPanel(QWidget* board, WordsActs acts)
   connect(myName_, &QPushButton::clicked, this, std::move(acts.writeMy));
   connect(print_, &QPushButton::clicked, this, std::move(acts.print));
   HoldInput::Admit(this);
+  PressByReturn(*this);
   FollowText();
 }
 

@@ -20,6 +20,7 @@
 #include "companions/worksheet/panes.h"
 #include "companions/worksheet/paper_pane.h"
 #include "companions/worksheet/rows_editor.h"
+#include "ui/return_key.h"
 
 namespace bramlee {
 namespace {
@@ -124,6 +125,7 @@ WorksheetDialog::WorksheetDialog(Board& board)
   grid->addWidget(MakeActions(), 1, 0, 1, 2);
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(0, 1);
+  PressByReturn(*this);
   refresh_.setObjectName(QStringLiteral("worksheet_refresh"));
   refresh_.setSingleShot(true);
   connect(&refresh_, &QTimer::timeout, this, &WorksheetDialog::Refresh);

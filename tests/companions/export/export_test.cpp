@@ -19,6 +19,7 @@
 #include "companions/export/export_choices.h"
 #include "strokes/word.h"
 #include "tests/board/board_fixture.h"
+#include "tests/ui/pressed_by_return.h"
 
 namespace bramlee {
 namespace {
@@ -68,6 +69,10 @@ TEST_F(Exports, HaveAButtonOnTheStripThatRestsWhileALetterIsWritten) {
   EXPECT_EQ(board.Named<StripButton>(Q("strip_export"))->toolTip(),
             Q("Export letters to files (E)"));
   EXPECT_TRUE(RestsWhileALetterIsWritten(board, "strip_export"));
+}
+
+TEST_F(Exports, HaveButtonsThatReturnPresses) {
+  EXPECT_EQ(DeafToReturn(Ask(OpenWith("fbrmengc02", {1}))), QStringList());
 }
 
 TEST_F(Exports, WriteTheLastLetter) {

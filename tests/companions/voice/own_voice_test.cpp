@@ -19,6 +19,7 @@
 #include "files/sound_sets.h"
 #include "maths/maths.h"
 #include "tests/board/board_fixture.h"
+#include "tests/ui/pressed_by_return.h"
 #include "ui/choices.h"
 #include "ui/form_ids.h"
 #include "voice/speech_wave.h"
@@ -187,6 +188,10 @@ TEST_F(OwnVoices, HaveLargeTargetsWithNames) {
     EXPECT_GE(button->minimumHeight(), 44) << button->objectName().toStdString();
     EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
   }
+}
+
+TEST_F(OwnVoices, HaveButtonsThatReturnPresses) {
+  EXPECT_EQ(DeafToReturn(Ask(Open(kMathsForm))), QStringList());
 }
 
 /// A desk without a single stick, whose user picks the folder `picks`.

@@ -14,6 +14,7 @@
 #include "strokes/word.h"
 #include "tests/board/board_fixture.h"
 #include "tests/card/named_card.h"
+#include "tests/ui/pressed_by_return.h"
 #include "ui/choices.h"
 
 namespace bramlee {
@@ -59,6 +60,11 @@ TEST_F(WordsTest, HasAButtonThatOpensAWindowToTypeIn) {
   EXPECT_FALSE(panel->isHidden());
   QTest::keyClick(panel, Qt::Key_Escape);
   EXPECT_TRUE(panel->isHidden());
+}
+
+TEST_F(WordsTest, HasButtonsThatReturnPresses) {
+  const Board& board = Open("fbrmengc02");
+  EXPECT_EQ(DeafToReturn(*board.findChild<QWidget*>(Q("words_panel"))), QStringList());
 }
 
 TEST_F(WordsTest, WritesAWordOfEachScriptOnEveryBoard) {

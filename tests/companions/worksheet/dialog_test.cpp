@@ -7,6 +7,7 @@
 #include <QTabWidget>
 
 #include "tests/companions/worksheet/opened_worksheet.h"
+#include "tests/ui/pressed_by_return.h"
 #include "ui/choices.h"
 
 namespace bramlee {
@@ -47,6 +48,10 @@ TEST_F(WorksheetDialogTest, OpensByCtrlPAndOnceOnly) {
   EXPECT_EQ(board->findChildren<WorksheetDialog*>().size(), 1);
   board->Named<StripButton>(Q("strip_sheets"))->click();
   EXPECT_EQ(board->findChildren<WorksheetDialog*>().size(), 1);
+}
+
+TEST_F(WorksheetDialogTest, HasButtonsThatReturnPresses) {
+  EXPECT_EQ(DeafToReturn(OpenOn(kCapitalsForm)), QStringList());
 }
 
 TEST_F(WorksheetDialogTest, WaitsUntilALetterThatIsWrittenStands) {
