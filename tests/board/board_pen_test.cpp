@@ -1,63 +1,17 @@
 // The pen of a board on a sheet alone: what a hand asks of it between its frames.
 #include "board/board_pen.h"
 
-#include <QImage>
-#include <functional>
 #include <new>
 #include <stdexcept>
 #include <utility>
 #include <vector>
 
-#include "tests/board/board_fixture.h"
+#include "tests/board/pen_fixture.h"
 #include "tests/board/scarce_memory.h"
-#include "tests/board/sheet_colours.h"
 #include "tests/ui/failing_event.h"
 
 namespace bramlee {
 namespace {
-
-constexpr ColourWord kRedWord = 0x0000FF;
-constexpr double kStep = 0.01;
-
-/// A letter of two pen strokes, either of 20,000 dots: a dozen frames at 60 a second.
-Letter TwoStrokes(double y = 100) {
-  return {
-      {                                         },
-      kStep, { {Primitive::LineRight, {50, y, 250}}, {Primitive::LineRight, {50, y + 50, 250}}}
-  };
-}
-
-class BoardPenTest : public ::testing::Test {
- protected:
-  BoardPenTest() {
-    sheet.resize(400, 400);
-    QObject::connect(&pen, &BoardPen::Changed, &pen, [this] { ++changes; });
-  }
-
-  using Act = std::function<void()>;
-  /// Has these happen at the pen's next frames, one a frame.
-  void AtFrames(std::vector<Act> acts) {
-    pen.SetFrameCall([acts = std::move(acts), next = std::size_t{0}]() mutable {
-      if (next < acts.size()) acts[next++]();
-    });
-  }
-  void Write(Letter letter, ColourWord colour = kRedWord) {
-    pen.Write({.letter = std::move(letter), .colour = colour, .placing = {}}, [this] { ++spoken; });
-  }
-  QImage Picture() const { return sheet.Dots().Picture(QRect(0, 0, 400, 400), 1, Qt::white); }
-  /// The page as it is written with no hand on the pen.
-  QImage Plain() const {
-    Ink ink;
-    Player(pen.Letters(), ink).RunToEnd();
-    return ink.Picture(QRect(0, 0, 400, 400), 1, Qt::white);
-  }
-  std::size_t Dots() const { return sheet.Dots().KeptDots(); }
-
-  Sheet sheet;
-  BoardPen pen{sheet};
-  int changes = 0;
-  int spoken = 0;
-};
 
 TEST_F(BoardPenTest, WritesAtOnceWhereThereIsNoDisplay) {
   Write(TwoStrokes());
@@ -271,76 +225,6 @@ TEST_F(BoardPenTest, TakesARateOverWhileItRuns) {
   ASSERT_GT(dots.size(), 6U);
   const double before = static_cast<double>(dots[2] - dots[1]);
   EXPECT_NEAR(static_cast<double>(dots[5] - dots[4]) / before, 0.25, 0.1);
-}
-
-TEST_F(BoardPenTest, LeavesTheChosenColourToTheNextDots) {
-  Write(TwoStrokes(), kRedWord);
-  sheet.SetForeColor(kBlueWord);
-  pen.StrokeBack();
-  EXPECT_EQ(sheet.ForeColor(), kBlueWord);
-  EXPECT_EQ(sheet.Dots().Colour(), kBlueWord);
-  pen.GoOn();
-  EXPECT_EQ(sheet.Dots().Colour(), kBlueWord);
-  EXPECT_EQ(Picture(), Plain());  // the letter keeps its own
-  EXPECT_EQ(Picture().pixelColor(100, 150), kRed);
-}
-
-TEST_F(BoardPenTest, KeepsALettersColourThroughAPauseInItsMiddle) {
-  Write(TwoStrokes(), kRedWord);
-  pen.StrokeBack();
-  AtFrames({[] {}, [&] { pen.Pause(); }});
-  pen.GoOn();
-  ASSERT_TRUE(pen.IsPaused());
-  ASSERT_TRUE(pen.Stands().begun);
-  sheet.SetForeColor(kBlueWord);
-  pen.GoOn();
-  for (const int x : {60, 150, 240}) EXPECT_EQ(Picture().pixelColor(x, 150), kRed) << x;
-}
-
-TEST_F(BoardPenTest, KeepsARulingsColourThoughNoStrokeCanGoBack) {
-  const Letter lines(
-      {
-  },
-      kStep, {{Primitive::LineRight, {50, 30, 350}}});
-  Write(TwoStrokes());
-  pen.ForgetPage();
-  std::size_t dots = 0;
-  AtFrames({[] {},
-            [&] {
-              dots = Dots();
-              EXPECT_FALSE(pen.StrokeBack());
-              EXPECT_EQ(Dots(), dots);
-              pen.GoOn();
-            }});
-  pen.WriteRuling(lines, kBlueWord);
-  EXPECT_GT(Dots(), dots);
-  for (const int x : {60, 200, 340}) EXPECT_EQ(Picture().pixelColor(x, 30), kBlue) << x;
-}
-
-TEST_F(BoardPenTest, LeavesARulingWhereALettersStrokeGoes) {
-  const Letter line(
-      {
-  },
-      kStep, {{Primitive::LineDown, {150, 20, 380}}});
-  Write(TwoStrokes());
-  pen.WriteRuling(line, kBlueWord);
-  EXPECT_TRUE(pen.StrokeBack());
-  EXPECT_EQ(Picture().pixelColor(150, 150), kBlue);
-  EXPECT_EQ(Picture().pixelColor(100, 150), kWhite);
-  EXPECT_EQ(Picture().pixelColor(100, 100), kRed);
-  pen.GoOn();
-  EXPECT_EQ(Picture(), Plain());
-  EXPECT_EQ(pen.LastLetter(), 0U);
-}
-
-TEST_F(BoardPenTest, LaysARulingOverALetterThatStandsHalfWay) {
-  Write(TwoStrokes());
-  pen.StrokeBack();
-  pen.WriteRuling({{}, kStep, {{Primitive::LineDown, {150, 20, 380}}}}, kBlueWord);
-  EXPECT_EQ(Picture().pixelColor(150, 250), kBlue);
-  EXPECT_TRUE(pen.IsPaused());
-  pen.GoOn();
-  EXPECT_EQ(Picture(), Plain());
 }
 
 TEST_F(BoardPenTest, LeavesALetterToWhoTakesIt) {

@@ -1,108 +1,13 @@
-// Boards that fit their window: all in view, clicks and dots as ever, everything back afterwards.
-#include <QPainter>
-#include <QScrollArea>
+// Boards that fit their window: all in view, and everything back afterwards.
 #include <QScrollBar>
-#include <QTest>
 #include <cmath>
 
 #include "board/reach.h"
-#include "letters/letter_sets.h"
-#include "tests/board/board_fixture.h"
-#include "ui/forms.h"
+#include "tests/board/fit_fixture.h"
 #include "ui/scale.h"
 
 namespace bramlee {
 namespace {
-
-constexpr QSize kWindows[] = {
-    {1024, 768 },
-    {1366, 768 },
-    {1920, 1080},
-    {3840, 2160},
-    {800,  1200}
-};
-
-std::string Text(const char* form, QSize window) {
-  return std::string(form) + " in " + std::to_string(window.width()) + "x" +
-         std::to_string(window.height());
-}
-
-/// What stands otherwise in the second list, line by line; empty for nothing.
-std::string Changes(const QStringList& before, const QStringList& after) {
-  QStringList changes;
-  if (before.size() != after.size()) changes.append(QStringLiteral("another number of controls"));
-  for (qsizetype i = 0; i < std::min(before.size(), after.size()); ++i) {
-    if (before[i] != after[i]) changes.append(before[i] + QStringLiteral(" -> ") + after[i]);
-  }
-  return changes.join(u'\n').toStdString();
-}
-
-class Fit : public BoardTest {
- protected:
-  /// That board in a window of that size.
-  Board& OpenIn(const char* form, QSize window) {
-    Board& board = Open(form);
-    board.Named<QTimer>(Q("Timer1"))->stop();  // a title that blinks stands otherwise each time
-    board.show();
-    Resize(board, window);
-    return board;
-  }
-  Board& OpenFitted(const char* form, QSize window) {
-    Board& board = OpenIn(form, window);
-    board.SetFitsWindow(true);
-    QCoreApplication::processEvents();
-    return board;
-  }
-  static void Resize(Board& board, QSize window) {
-    board.resize(window);
-    QCoreApplication::processEvents();
-  }
-  /// At once, with the large pictures that it keeps.
-  static void Close(Board& board) {
-    UnloadForm(&board);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-  static QScrollArea* Scroller(const Board& board) { return board.findChild<QScrollArea*>(); }
-
-  static std::vector<QWidget*> Controls(const Board& board) {
-    std::vector<QWidget*> controls;
-    for (QObject* child : board.sheet().children()) {
-      if (auto* control = qobject_cast<QWidget*>(child)) controls.push_back(control);
-    }
-    return controls;
-  }
-
-  /// Where each control stands, seen or not, and in which letters.
-  static QStringList Standing(const Board& board) {
-    QStringList standing;
-    for (const QWidget* control : Controls(board)) {
-      const QRect place = control->geometry();
-      standing.append(QStringLiteral("%1 %2 %3 %4 %5 %6 %7")
-                          .arg(control->objectName())
-                          .arg(place.x())
-                          .arg(place.y())
-                          .arg(place.width())
-                          .arg(place.height())
-                          .arg(control->isHidden())
-                          .arg(control->font().toString()));
-    }
-    standing.append(board.sheet().font().toString());
-    const QSize least = board.sheet().minimumSize();
-    standing.append(QStringLiteral("%1 %2").arg(least.width()).arg(least.height()));
-    return standing;
-  }
-
-  /// Clicks in the window where that tile's picture can be seen.
-  static void ClickTile(Board& board, int tile) {
-    const QWidget* picture = board.Tile(tile);
-    QTest::mouseClick(board.windowHandle(), Qt::LeftButton, {},
-                      picture->mapTo(&board, picture->rect().center()));
-  }
-
-  static QImage Dots(const Board& board) {
-    return board.sheet().Dots().Picture(QRectF(0, 0, 1300, 700), 1, Qt::white);
-  }
-};
 
 TEST_F(Fit, IsOffAtFirst) {
   for (const char* form : kAllBoards) {
@@ -250,41 +155,6 @@ TEST_F(Fit, TheTitleHoldsItsText) {
   }
 }
 
-TEST_F(Fit, AClickOnATileWritesTheSameDotsAtEverySize) {
-  constexpr int kTiles[] = {2, 8, 22};
-  for (const char* form : kAllBoards) {
-    Board& designed = Open(form);
-    std::vector<QImage> expected;
-    for (const int tile : kTiles) {
-      designed.pic_Click(tile);
-      expected.push_back(Dots(designed));
-    }
-    Close(designed);
-    for (const QSize window : kWindows) {
-      Board& board = OpenFitted(form, window);
-      std::size_t next = 0;
-      for (const int tile : kTiles) {
-        ClickTile(board, tile);
-        EXPECT_EQ(Dots(board), expected[next++]) << Text(form, window) << " " << tile;
-      }
-      Close(board);
-    }
-  }
-}
-
-TEST_F(Fit, DotsAreStampedInTheSizeInWhichTheyAreSeen) {
-  Board& board = OpenFitted("fbrmengc02", kWindows[2]);
-  board.pic_Click(1);
-  const Sheet& sheet = board.sheet();
-  const QRect letter = sheet.FromSheet().mapRect(QRectF(420, 140, 160, 220)).toAlignedRect();
-  const QImage seen = board.sheet().grab(letter).toImage().convertToFormat(QImage::Format_RGB32);
-  const QRectF area = sheet.FromSheet().inverted().mapRect(QRectF(sheet.rect()));
-  const QImage dots =
-      sheet.Dots().Picture(area, sheet.FromSheet().m11(), ColourOf(board.record().backColor));
-  EXPECT_EQ(seen, dots.copy(letter));
-  EXPECT_NE(seen.pixelColor(0, 0), seen.pixelColor(letter.width() / 2, letter.height() / 2));
-}
-
 TEST_F(Fit, EverythingIsBackOnceItIsOff) {
   for (const char* form : kAllBoards) {
     for (const QSize window : kWindows) {
@@ -340,67 +210,6 @@ TEST_F(Fit, TheLineOfLetteringLiesOnItsCell) {
   EXPECT_NEAR(line.left(), expected.left(), 1);
   EXPECT_NEAR(line.top(), expected.top(), 1);
   EXPECT_GT(line.width(), 238 * 1.4);
-}
-
-TEST_F(Fit, SwitchedAndResizedAsALetterIsWrittenItLeavesTheSameDots) {
-  Board& board = OpenIn("fbrmengc02", kWindows[1]);
-  board.SetText(Q("txtspd"), Q("0.03"));  // many frames; the dots that are kept are the same
-  int frames = 0;
-  board.pen().SetFrameCall([&] {
-    board.SetFitsWindow(frames % 3 != 2);
-    board.resize(kWindows[frames % static_cast<int>(std::size(kWindows))]);
-    ++frames;
-  });
-  board.pic_Click(2);
-  board.pen().SetFrameCall(nullptr);
-  QCoreApplication::processEvents();
-  EXPECT_GT(frames, 6);
-  const QImage written = Dots(board);
-  Ink plain(0.03);
-  StrokeRec rec = FillStrokeRec(SheetKind::Capitals, 2);
-  WriteCapital(rec, plain);
-  EXPECT_EQ(written, plain.Picture(QRectF(0, 0, 1300, 700), 1, Qt::white));
-  board.SetFitsWindow(true);
-  const QTransform fromSheet = board.sheet().FromSheet();
-  const QImage seen = board.sheet().grab().toImage();
-  const QImage dots =
-      board.sheet().Dots().Picture(fromSheet.inverted().mapRect(QRectF(board.sheet().rect())),
-                                   fromSheet.m11(), ColourOf(board.record().backColor));
-  const QRect letter = fromSheet.mapRect(QRectF(600, 140, 200, 220)).toAlignedRect();
-  EXPECT_EQ(seen.copy(letter).convertToFormat(QImage::Format_RGB32), dots.copy(letter));
-}
-
-/// A cross that a layer paints over the sheet's place 700, 100.
-class Cross : public SheetLayer {
- public:
-  void Paint(QPainter& painter) const override {
-    painter.fillRect(QRectF(695, 95, 10, 10), Qt::green);
-  }
-};
-
-TEST_F(Fit, LayersArePaintedWhereTheirPlacesOfTheSheetLie) {
-  const Cross cross;
-  Board& board = OpenFitted("fbrmengc02", kWindows[2]);
-  for (const bool above : {false, true}) {
-    if (above) {
-      board.sheet().AddLayerAbove(cross);
-    } else {
-      board.sheet().AddLayerBeneath(cross);
-      board.sheet().UpdateBeneath();
-    }
-    for (const QSize window : kWindows) {
-      Resize(board, window);
-      const QTransform fromSheet = board.sheet().FromSheet();
-      const QImage seen = board.sheet().grab().toImage();
-      const auto at = [&](double x, double y) {
-        return seen.pixelColor(fromSheet.map(QPointF(x, y)).toPoint());
-      };
-      EXPECT_EQ(at(697, 97), QColor(Qt::green)) << Text("", window);
-      EXPECT_EQ(at(703, 103), QColor(Qt::green)) << Text("", window);
-      EXPECT_EQ(at(690, 100), ColourOf(board.record().backColor)) << Text("", window);
-      EXPECT_EQ(at(710, 100), ColourOf(board.record().backColor)) << Text("", window);
-    }
-  }
 }
 
 TEST_F(Fit, NothingMovesWhenALetterIsWrittenOrTheKeyboardGoesToATile) {

@@ -6,6 +6,7 @@
 namespace bramlee {
 
 inline constexpr ColourWord kSheetGround = 0x00FFFFC0;
+inline constexpr ColourWord kRedWord = 0x0000FF;
 inline constexpr ColourWord kBlueWord = 0xFF0000;
 
 }  // namespace bramlee
