@@ -23,9 +23,10 @@ class RecordedVoice : public TempDrives {
   static void SetUpTestSuite() {
     if (SoundServer::IsPossible()) server_ = std::make_unique<SoundServer>();
   }
+  /// The server goes first: a device that leaves a server is freed once too often by the library.
   static void TearDownTestSuite() {
-    room_.reset();
     server_.reset();
+    room_.reset();
   }
 
   void SetUp() override {

@@ -156,7 +156,9 @@ QString SoundServer::Load(const QStringList& module) {
 }
 
 void SoundServer::Unload(const QString& number) {
-  QProcess::execute(QStringLiteral("pactl"), {QStringLiteral("unload-module"), number});
+  QProcess pactl;
+  pactl.start(QStringLiteral("pactl"), {QStringLiteral("unload-module"), number});
+  pactl.waitForFinished();
 }
 
 RoomWithMicrophone::RoomWithMicrophone()

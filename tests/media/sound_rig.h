@@ -52,6 +52,7 @@ class SoundServer {
 
   /// Loads a module of its, with these arguments. Returns its number. Throws std::runtime_error.
   static QString Load(const QStringList& module);
+  /// Does nothing once the server has ended.
   static void Unload(const QString& number);
 
  private:

@@ -29,9 +29,10 @@ class RecordedSound : public BoardTest {
     server_ = std::make_unique<SoundServer>();
     room_ = std::make_unique<RoomWithMicrophone>();
   }
+  /// The server goes first: a device that leaves a server is freed once too often by the library.
   static void TearDownTestSuite() {
-    room_.reset();
     server_.reset();
+    room_.reset();
   }
 
   void SetUp() override {
