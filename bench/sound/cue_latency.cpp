@@ -24,15 +24,22 @@ namespace {
 
 constexpr int kTimes = 20;
 constexpr unsigned long kWarmUpMs = 2000;
-constexpr double kLongestMs = 1200;
+constexpr unsigned long kHoldMs = 1200;
+constexpr double kLongestMs = 24000;  ///< a cold start on a busy machine takes more than a hold
+constexpr double kOverMs = 300;       ///< after this much silence a sound is over
 
-/// Asks for the file and holds the thread; -1 when nothing is heard.
+/// Asks for the file and holds the thread until it is over, so that its end is not taken for the
+/// next one's beginning. -1 when nothing is heard that ends.
 double LatencyMs(const Recorder48& recorder, const QString& file) {
   const double begin = NowMs();
   PlayMediaFile(file);
-  QThread::msleep(static_cast<unsigned long>(kLongestMs));
-  const auto first = recorder.Until(begin + kLongestMs).Between(begin, begin + kLongestMs);
-  return first.FirstSoundMs().value_or(begin - 1) - begin;
+  for (double end = begin + kHoldMs; end <= begin + kLongestMs; end += kHoldMs) {
+    QThread::msleep(kHoldMs);
+    const Heard heard = recorder.Until(end).Between(begin, end);
+    const auto last = heard.LastSoundMs();
+    if (last && end - *last > kOverMs) return *heard.FirstSoundMs() - begin;
+  }
+  return -1;
 }
 
 /// The first cue of this process.
@@ -44,14 +51,20 @@ int MeasureFirst(const QString& file, bool warm) {
     QThread::msleep(kWarmUpMs);
   }
   std::printf("%.0f", LatencyMs(recorder, file));
+  std::fflush(stdout);  // a media library that crashes at the process' end takes no figure along
   return 0;
 }
 
-/// -1 when the process ends without a figure.
+/// -1 when the process ends without a figure. Why is said on the error channel.
 double FirstInAProcess(const QString& how, const QString& file) {
   QProcess process;
+  process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   process.start(QCoreApplication::applicationFilePath(), {how, file});
   process.waitForFinished(-1);
+  if (process.error() != QProcess::UnknownError || process.exitCode() != 0) {
+    std::fprintf(stderr, "cue_latency: %s %s: %s, exit code %d\n", qPrintable(how),
+                 qPrintable(file), qPrintable(process.errorString()), process.exitCode());
+  }
   bool isFigure = false;
   const double ms = process.readAllStandardOutput().toDouble(&isFigure);
   return isFigure ? ms : -1;
