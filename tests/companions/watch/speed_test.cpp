@@ -1,4 +1,6 @@
 // The pen's speed, by the strip's slider.
+#include <QCoreApplication>
+#include <QEvent>
 #include <cmath>
 
 #include "tests/companions/watch/watch_fixture.h"
