@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { button, kPhone, kTablet, kWallBoard, openPage, said, shot, tile, withClock } from './browser.js';
+import { button, chooseSubject, kPhone, kTablet, kWallBoard, openPage, said, shot, tile, withClock } from './browser.js';
 
 /// What can be pressed, with its name and its size; what is hidden is left out.
 function controlsOf(page) {
@@ -153,7 +153,7 @@ for (const [language, { lang, subject, written }] of Object.entries(kLanguages))
     assert.equal(await page.evaluate(() => document.documentElement.lang), lang);
     assert.equal(await page.$eval('nav a[href="#hinv"] span', (it) => it.textContent), subject);
     await shot(page, `home-${lang}-phone`);
-    await page.click('nav a[href="#hinv"]');
+    await chooseSubject(page, 'hinv');
     await page.click(tile(1));
     await said(page, written);
     await shot(page, `board-${lang}-phone`);

@@ -88,6 +88,12 @@ export async function reload(page) {
   await page.waitForSelector('html[data-shows]');
 }
 
+/// Goes from home to a subject's board, which comes some time after the click.
+export async function chooseSubject(page, set) {
+  await page.click(`nav a[href="#${set}"]`);
+  await page.waitForSelector(`.tiles.${set}`);
+}
+
 /// Waits until the page tells a screen reader that text.
 export async function said(page, text) {
   await page.waitForFunction(

@@ -4,7 +4,8 @@ import { test } from 'node:test';
 import { loadLetters } from '../../web/page/letters.js';
 import { pathBox } from '../../web/page/path_box.js';
 import {
-  button, comparedWithProgram, framesLater, kFourLetters, kPhone, kTablet, kWallBoard, kWeb, openPage, said, shot, tile,
+  button, chooseSubject, comparedWithProgram, framesLater, kFourLetters, kPhone, kTablet, kWallBoard,
+  kWeb, openPage, said, shot, tile,
 } from './browser.js';
 
 const kSizes = { phone: kPhone, tablet: kTablet, 'wall-board': kWallBoard };
@@ -23,7 +24,7 @@ for (const [name, size] of Object.entries(kSizes)) {
     await page.waitForSelector('nav a');
     await shot(page, `home-${name}`);
     for (const letter of kFourLetters) {
-      await page.click(`nav a[href="#${letter.set}"]`);
+      await chooseSubject(page, letter.set);
       await page.click(tile(letter.tile));
       await said(page, `${letter.name} is written`);
       const { inked, most } = await comparedWithProgram(page, letter);
