@@ -1,13 +1,16 @@
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
-import { existsSync, mkdirSync, mkdtempSync, readFileSync, rmSync, utimesSync, writeFileSync } from 'node:fs';
+import {
+  existsSync, mkdirSync, mkdtempSync, readFileSync, rmSync, statSync, utimesSync, writeFileSync,
+} from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { test } from 'node:test';
-import { kWeb, openPage, said, tile } from './browser.js';
+import { kWeb, openPage, reload, said, tile } from './browser.js';
 import { serve } from './server.js';
 
 const kPacker = new URL('../../web/sounds', import.meta.url).pathname;
+const kMaker = new URL('../../web/make_page.js', import.meta.url).pathname;
 const kRate = 22050;
 
 /// A tone of that many seconds as a .wav file.
@@ -49,7 +52,8 @@ test('the sounds that were made are packed, and again once they are others', () 
   const { root, aud, packed, pack } = someSounds();
   const b = join(packed, 'engc/2.opus');
   assert.match(readFileSync(b, 'latin1').slice(0, 40), /^OggS.*OpusHead/s);
-  assert.ok(existsSync(join(packed, 'hinc/12.opus')));
+  const ttha = join(packed, 'hinc/12.opus');
+  const { mtimeMs: packedAt } = statSync(ttha);
   assert.ok(!existsSync(join(packed, 'engc/1.opus')), 'a sound that was not made is none');
   const wave = join(aud, 'engc/eng-b.wav');
   writeFileSync(wave, toneWave(1.5));
@@ -58,38 +62,51 @@ test('the sounds that were made are packed, and again once they are others', () 
   const before = readFileSync(b).length;
   pack();
   assert.ok(readFileSync(b).length > 2 * before, 'one that is longer now');
+  assert.equal(statSync(ttha).mtimeMs, packedAt, 'one that is as it was stays');
   rmSync(wave);
   pack();
   assert.ok(!existsSync(b), 'one that is gone');
   rmSync(root, { recursive: true });
 });
 
-test('a letter is heard as it is written, from a sound that was packed', async () => {
-  const { root, packed } = someSounds();
-  const own = await serve(kWeb, (name, bytes) => {
-    if (name.startsWith('sounds/')) return readFileSync(join(packed, name.slice('sounds/'.length)));
-    if (name !== 'index.html') return bytes;
-    return Buffer.from(String(bytes).replace(/data-sounds="[^"]*"/, 'data-sounds="engc"'));
-  });
-  const page = await openPage({
-    url: own.url,
-    address: '#engc',
-    prepare: (page) => page.evaluateOnNewDocument(() => {
-      globalThis.heard = [];
-      const { play } = HTMLMediaElement.prototype;
-      HTMLMediaElement.prototype.play = function () {
-        this.onended = () => globalThis.heard.push([this.src, this.duration]);
-        return play.call(this);
-      };
-    }),
-  });
+/// The page as web/build makes it, with those sounds beside it.
+function pageWithSounds({ root, packed }) {
+  const web = join(root, 'web');
+  execFileSync(process.execPath, [kMaker, join(kWeb, 'letters.wasm.gz'), packed, web]);
+  return web;
+}
+
+/// Notes each sound that has come to its end; for openPage's `prepare`.
+const withHearing = (page) => page.evaluateOnNewDocument(() => {
+  globalThis.heard = [];
+  const { play } = HTMLMediaElement.prototype;
+  HTMLMediaElement.prototype.play = function () {
+    this.onended = () => globalThis.heard.push([this.src, this.duration]);
+    return play.call(this);
+  };
+});
+
+async function expectHeard(page, source) {
   await page.click(tile(2));
   await page.waitForFunction(() => globalThis.heard.length > 0, { polling: 100 });
-  const [[source, seconds]] = await page.evaluate(() => globalThis.heard);
-  assert.equal(source, `${own.url}sounds/engc/2.opus`);
+  const [[heard, seconds]] = await page.evaluate(() => globalThis.heard);
+  assert.equal(heard, source);
   assert.ok(Math.abs(seconds - 0.4) < 0.05, `${seconds} seconds were heard to the end`);
   await said(page, 'capital B is written');
-  await page.closeTrial();
+}
+
+test('a letter is heard as it is written, from a sound that was packed, without network too', async () => {
+  const sounds = someSounds();
+  const own = await serve(pageWithSounds(sounds));
+  const page = await openPage({ url: own.url, address: '#engc', prepare: withHearing });
+  const source = `${own.url}sounds/engc/2.opus`;
+  await expectHeard(page, source);
+  await page.waitForFunction(
+    async (name) => (await caches.match(name)) !== undefined, { polling: 100 }, source);
   await own.close();
-  rmSync(root, { recursive: true });
+  await page.setOfflineMode(true);
+  await reload(page);
+  await expectHeard(page, source);
+  await page.closeTrial();
+  rmSync(sounds.root, { recursive: true });
 });
