@@ -1,6 +1,8 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { button, chooseSubject, kPhone, kTablet, kWallBoard, openPage, said, shot, tile, withClock } from './browser.js';
+import {
+  button, chooseSubject, frames, inkOf, kPhone, kTablet, kWallBoard, openPage, said, shot, tile, withClock,
+} from './browser.js';
 
 /// What can be pressed, with its name and its size; what is hidden is left out.
 function controlsOf(page) {
@@ -94,7 +96,7 @@ for (const [name, size] of Object.entries({ phone: kPhone, tablet: kTablet, wall
 }
 
 test('the keyboard alone chooses a subject, writes a letter and goes back', async () => {
-  const page = await openPage();
+  const page = await openPage({ prepare: withClock }); // only Escape ends the letter
   await page.waitForSelector('nav a');
   const isOnSubject = () => page.evaluate(() => document.activeElement.matches('nav a'));
   // The button that installs the page comes first, where the browser offers that.
@@ -124,9 +126,19 @@ test('arrows step through the strokes of a letter that is paused', async () => {
   const page = await openPage({ address: '#engc/2', prepare: withClock });
   await page.keyboard.press('Space');
   await said(page, 'Pause');
+  const toStrokeEnd = async () => {
+    await page.keyboard.press('ArrowRight');
+    await frames(page, 100, 250);
+    return inkOf(page);
+  };
+  const first = await toStrokeEnd();
+  const second = await toStrokeEnd();
+  assert.notEqual(second, first);
   await page.keyboard.press('ArrowLeft');
-  assert.equal(await page.evaluate(() => document.activeElement.dataset.tile), '1');
-  await page.keyboard.press('Escape');
+  assert.equal(await inkOf(page), first);
+  assert.equal(await toStrokeEnd(), second);
+  assert.equal(
+    await page.evaluate(() => document.activeElement.dataset.tile), '1', 'the tiles have no arrows now');
   await page.closeTrial();
 });
 
@@ -135,7 +147,8 @@ test('a screen reader hears what is written and sees a named sheet', async () =>
   await said(page, 'vowel a (अ) is written.');
   const tree = await page.accessibility.snapshot();
   const names = JSON.stringify(tree);
-  for (const name of ['Hindi Vowels', 'Sheet: vowel a (अ)', 'vowel a (अ)', 'Speed of the pen', 'Home']) {
+  assert.ok(await page.$('::-p-aria([name="Sheet: vowel a (अ)"][role="image"])'), 'the sheet is an image');
+  for (const name of ['Hindi Vowels', 'vowel a (अ)', 'Speed of the pen', 'Home']) {
     assert.ok(names.includes(`"name":"${name}"`), name);
   }
   await page.closeTrial();

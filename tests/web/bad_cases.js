@@ -8,12 +8,18 @@ import { serve } from './server.js';
 const withoutWasm = (page) => page.evaluateOnNewDocument(() => delete globalThis.WebAssembly);
 const kNoWasm = 'This browser cannot write the letters. Here they are as pictures.';
 
+/// Waits until the page shows the still pictures; returns what they are in.
+async function picturesBeside(page) {
+  const frame = await (await page.waitForSelector('iframe')).contentFrame();
+  await frame.waitForSelector('.still li svg path');
+  return frame;
+}
+
 test('without WebAssembly a line says so and the letters are still pictures', async () => {
   const page = await openPage({ prepare: withoutWasm, size: kPhone });
   const line = await page.waitForSelector('[role="alert"]');
   assert.equal(await line.evaluate((it) => it.textContent), kNoWasm);
-  const frame = await (await page.waitForSelector('iframe')).contentFrame();
-  await frame.waitForSelector('.still li svg path');
+  const frame = await picturesBeside(page);
   assert.equal((await frame.$$('.still')).length, 7);
   assert.ok((await frame.$$('.still li')).length > 250);
   await shot(page, 'still-phone');
@@ -29,14 +35,16 @@ test('the single file has the still pictures inside', async () => {
   await page.closeTrial();
 });
 
-test('a browser that cannot read the script shows the pictures', async () => {
-  const own = await serve(kWeb, (name, bytes) => (name === 'page.js' ? Buffer.from('let 1;') : bytes));
-  const page = await openPage({ url: own.url, expected: /SyntaxError/ });
-  const frame = await (await page.waitForSelector('iframe')).contentFrame();
-  await frame.waitForSelector('.still li svg path');
-  await page.closeTrial();
-  await own.close();
-});
+for (const [what, script] of [['cannot read', Buffer.from('let 1;')], ['does not get', null]]) {
+  test(`a browser that ${what} the script says so and shows the pictures`, async () => {
+    const own = await serve(kWeb, (name, bytes) => (name === 'page.js' ? script : bytes));
+    const page = await openPage({ url: own.url, expected: /SyntaxError|404/ });
+    assert.equal(await page.$eval('[role="alert"]', (it) => it.textContent), kNoWasm);
+    await picturesBeside(page);
+    await page.closeTrial();
+    await own.close();
+  });
+}
 
 test('letters that do not load give a line, pictures and a way to try again', async () => {
   const own = await serve(kWeb, (name, bytes) => (name === 'letters.wasm.gz' ? null : bytes));
@@ -45,6 +53,7 @@ test('letters that do not load give a line, pictures and a way to try again', as
   assert.equal(
     await line.evaluate((it) => it.textContent),
     'The letters could not be loaded. Here they are as pictures.');
+  await picturesBeside(page);
   own.setChange((_, bytes) => bytes);
   await page.click('button.plain');
   await page.waitForSelector('nav a');
@@ -105,12 +114,16 @@ test('a page opened in the middle of an update loads once more', async () => {
   await own.close();
 });
 
-test('a server that stays in the middle of an update gives a line and pictures', async () => {
+test('a server that stays in the middle of an update gives a line, pictures and a way to try again', async () => {
   const own = await serve(kWeb, newerIndex);
   const page = await openPage({ url: own.url });
   await page.waitForFunction(
     () => document.querySelector('[role="alert"]')?.textContent === 'This page has just been renewed.',
     { polling: 100 });
+  await picturesBeside(page);
+  own.setChange((_, bytes) => bytes);
+  await page.click('button.plain');
+  await page.waitForSelector('nav a');
   await page.closeTrial();
   await own.close();
 });
@@ -153,6 +166,12 @@ test('a new version takes over as a whole once the old page is closed', async ()
     return { state: next.state, caches: (await caches.keys()).length };
   });
   assert.deepEqual(waiting, { state: 'installed', caches: 2 });
+  await reload(page); // which is open all the while
+  const stillWaiting = await page.evaluate(async () => {
+    const registration = await navigator.serviceWorker.ready;
+    return { state: registration.waiting?.state, caches: (await caches.keys()).length };
+  });
+  assert.deepEqual(stillWaiting, waiting);
   await page.closeTrial();
   const later = await openPage({ url: own.url });
   await later.waitForSelector('nav a');
@@ -172,6 +191,9 @@ test('sound that the browser keeps back is offered, and the letter is written al
     url: own.url,
     address: '#engc/2',
     prepare: (page) => page.evaluateOnNewDocument(() => {
+      globalThis.texts = [];
+      new MutationObserver(() => globalThis.texts.push(document.getElementById('live')?.textContent))
+        .observe(document, { subtree: true, childList: true });
       let isTouched = false;
       addEventListener('pointerdown', () => (isTouched = true), true);
       HTMLMediaElement.prototype.play = function () {
@@ -183,6 +205,8 @@ test('sound that the browser keeps back is offered, and the letter is written al
   });
   await page.waitForSelector('header .waits');
   assert.equal(await page.evaluate(() => globalThis.asked), `${own.url}sounds/engc/2.opus`);
+  const texts = await page.evaluate(() => globalThis.texts);
+  assert.ok(texts.includes('The browser keeps the sound until something is touched.'));
   const name = () => page.$eval(button('sound'), (it) => it.getAttribute('aria-label'));
   assert.equal(await name(), 'Hear the letter');
   await page.click(button('sound'));

@@ -69,26 +69,47 @@ test('a word is written, and what cannot be is named', async () => {
   await page.closeTrial();
 });
 
+/// The names of the sheet's layers that are not hidden, once the next frame is painted.
+async function layersShown(page) {
+  await framesLater(page);
+  return page.$$eval(
+    '.sheet canvas', (all) => all.filter((it) => !it.hidden).map((it) => it.className).join(' '));
+}
+
 test('an empty layer of the sheet is hidden', async () => {
   const page = await openPage({ address: '#engc', calm: true });
-  const shown = () =>
-    page.$$eval('.sheet canvas', (all) => all.filter((it) => !it.hidden).map((it) => it.className).join(' '));
   await page.click(tile(2));
-  await framesLater(page);
-  assert.equal(await shown(), 'ink');
+  assert.equal(await layersShown(page), 'ink');
   await page.click(button('numbers'));
-  await framesLater(page);
-  assert.equal(await shown(), 'ink above');
+  assert.equal(await layersShown(page), 'ink above');
   await page.click(button('numbers'));
-  await framesLater(page);
-  assert.equal(await shown(), 'ink');
+  assert.equal(await layersShown(page), 'ink');
   await page.click(button('trace'));
-  await framesLater(page);
-  assert.equal(await shown(), 'beneath ink above');
+  assert.equal(await layersShown(page), 'beneath ink above');
   await page.closeTrial();
 });
 
-test('a tile shows lettering if its letter has no strokes', async () => {
+const kLettering = 'का कि की कु कू के';
+
+test('a tile without strokes shows its lettering, on the sheet too until the next letter', async () => {
+  const page = await openPage({ address: '#hinv', calm: true });
+  const printed = await page.$$eval(`${tile(14)} text`, (all) => all.map((it) => it.textContent));
+  assert.ok(printed.includes(kLettering));
+  await page.click(tile(14));
+  await said(page, kLettering);
+  assert.equal(await layersShown(page), 'ink above');
+  const above = await page.$eval('canvas.above', (canvas) => {
+    const { data } = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+    return new Set(new Uint32Array(data.buffer)).size;
+  });
+  assert.ok(above > 2, 'letters on a ground');
+  assert.equal(await page.$eval('.sheet', (sheet) => sheet.getAttribute('aria-label')), 'Sheet');
+  await page.click(tile(1));
+  assert.equal(await layersShown(page), 'ink');
+  await page.closeTrial();
+});
+
+test('the letters say that a tile has lettering if it has no strokes', async () => {
   const letters = await loadLetters(readFileSync(`${kWeb}/letters.wasm.gz`));
   const silent = [];
   for (const set of letters.sets) {
@@ -97,7 +118,7 @@ test('a tile shows lettering if its letter has no strokes', async () => {
       if (!writes) silent.push(`${set.name} ${number} ${lettering}`);
     }
   }
-  assert.deepEqual(silent, ['hinv 14 का कि की कु कू के']);
+  assert.deepEqual(silent, [`hinv 14 ${kLettering}`]);
 });
 
 test('the room of a path holds the arcs between its places', () => {
