@@ -23,15 +23,12 @@ target_compile_definitions(bramlee_qt_options INTERFACE
 
 option(BRAMLEE_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 # Of the tests' own code (BRAMLEE_OF_TESTS) the memory alone is checked: the rest takes a third of the
-# time that the compiler needs for it. Tests that compute much (BRAMLEE_UNCHECKED) are left as they
-# are; what they call is checked.
+# time that the compiler needs for it.
 define_property(TARGET PROPERTY BRAMLEE_OF_TESTS INITIALIZE_FROM_VARIABLE BRAMLEE_OF_TESTS)
-define_property(TARGET PROPERTY BRAMLEE_UNCHECKED)
 if(BRAMLEE_SANITIZE)
   set(of_tests $<BOOL:$<TARGET_PROPERTY:BRAMLEE_OF_TESTS>>)
-  set(unchecked $<BOOL:$<TARGET_PROPERTY:BRAMLEE_UNCHECKED>>)
   target_compile_options(bramlee_options INTERFACE
-    $<$<NOT:${unchecked}>:-fsanitize=address> $<$<NOT:${of_tests}>:-fsanitize=undefined>
+    -fsanitize=address $<$<NOT:${of_tests}>:-fsanitize=undefined>
     -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(bramlee_options INTERFACE -fsanitize=address,undefined)
 endif()
