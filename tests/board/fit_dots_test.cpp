@@ -1,5 +1,7 @@
 // Boards that fit their window: clicks and dots as ever.
 #include <QPainter>
+#include <span>
+#include <vector>
 
 #include "letters/letter_sets.h"
 #include "tests/board/fit_fixture.h"
@@ -7,9 +9,10 @@
 namespace bramlee {
 namespace {
 
-TEST_F(Fit, AClickOnATileWritesTheSameDotsAtEverySize) {
-  constexpr int kTiles[] = {2, 8, 22};
-  for (const char* form : kAllBoards) {
+class FitDots : public Fit {
+ protected:
+  void ExpectTheSameDots(const char* form, std::span<const QSize> windows) {
+    constexpr int kTiles[] = {2, 8, 22};
     Board& designed = Open(form);
     std::vector<QImage> expected;
     for (const int tile : kTiles) {
@@ -17,7 +20,7 @@ TEST_F(Fit, AClickOnATileWritesTheSameDotsAtEverySize) {
       expected.push_back(Dots(designed));
     }
     Close(designed);
-    for (const QSize window : kWindows) {
+    for (const QSize window : windows) {
       Board& board = OpenFitted(form, window);
       std::size_t next = 0;
       for (const int tile : kTiles) {
@@ -27,6 +30,15 @@ TEST_F(Fit, AClickOnATileWritesTheSameDotsAtEverySize) {
       Close(board);
     }
   }
+};
+
+TEST_F(FitDots, OfAClickOnATileAreTheSameInASmallAndAnUprightWindow) {
+  const QSize windows[] = {kWindows[0], kWindows[4]};
+  for (const char* form : kAllBoards) ExpectTheSameDots(form, windows);
+}
+
+TEST_F(FitDots, SweepOfClicksAtEverySize) {
+  for (const char* form : kAllBoards) ExpectTheSameDots(form, kWindows);
 }
 
 TEST_F(Fit, DotsAreStampedInTheSizeInWhichTheyAreSeen) {

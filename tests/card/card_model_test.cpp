@@ -172,7 +172,7 @@ TEST_P(CardModel, AgreesWithTheCard) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(ForAWhile, CardModel, ::testing::Values(RandomUse{1, 200}));
+INSTANTIATE_TEST_SUITE_P(ForAWhile, CardModel, ::testing::Values(RandomUse{1, 80}));
 INSTANTIATE_TEST_SUITE_P(SweepOfLongUse, CardModel, ::testing::Values(RandomUse{2, 1000}));
 
 }  // namespace

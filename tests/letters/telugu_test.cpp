@@ -28,7 +28,7 @@ TEST_P(TeluguSets, TickFromTheEndOfAShortFirstArm) {
   const LetterSet& set = *FindLetterSet(GetParam());
   int ticks = 0;
   for (int tile = 1; tile <= set.tiles; ++tile) {
-    const Recorder sheet = Written(GetParam(), tile, {}, 0.01);
+    const Recorder sheet = Written(GetParam(), tile, {}, 0.08);
     for (std::size_t run = 1; run < sheet.runs.size(); ++run) {
       const RecordedRun& arm = sheet.runs[run - 1];
       const RecordedRun& rise = sheet.runs[run];

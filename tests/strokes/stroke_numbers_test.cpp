@@ -70,6 +70,7 @@ struct Verdict {
 Verdict VerdictOnEveryLetter(const NumberRule& rule) {
   Verdict verdict;
   for (const LetterId& id : EveryLetter()) {
+    if (id.form.place > 1) continue;  // the same digit, moved
     const std::vector<StrokePath>& strokes = LetterOf(id).Shape().strokes;
     const Numbers numbers = PlaceNumbers(strokes, rule);
     for (std::size_t i = 0; i < numbers.size(); ++i) {

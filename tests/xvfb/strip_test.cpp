@@ -7,8 +7,8 @@
 namespace bramlee {
 namespace {
 
-/// A letter takes some five seconds at this step.
-const QString kLong = QStringLiteral("0.001");
+/// A letter takes some two seconds at this step.
+const QString kLong = QStringLiteral("0.002");
 
 class StripOnDesktop : public ::testing::Test {
  protected:

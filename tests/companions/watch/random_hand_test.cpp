@@ -1,4 +1,4 @@
-// A thousand random things that a hand does during Draw All: the same dots stand in the end.
+// Random things that a hand does during Draw All: the same dots stand in the end.
 #include <random>
 
 #include "tests/companions/watch/watch_fixture.h"
@@ -8,7 +8,6 @@ namespace {
 
 class RandomHand : public WatchTest {
  protected:
-  static constexpr int kActions = 1000;
   static constexpr unsigned kSeed = 1;
 
   /// A board whose letters all come on one sheet, over a grid: each lies over others.
@@ -39,13 +38,14 @@ class RandomHand : public WatchTest {
     }
   }
 
-  /// Draws all with the hand's actions, one a frame; returns how many letters they came in.
-  static std::size_t DrawAll(Board& board, unsigned seed) {
+  /// Draws all with so many of the hand's actions, one a frame; returns how many letters they came
+  /// in.
+  static std::size_t DrawAll(Board& board, int actionsInAll, unsigned seed) {
     std::mt19937 random(seed);
     std::size_t lettersAtLast = 0;
     int actions = 0;
     board.pen().SetFrameCall([&] {
-      if (actions++ < kActions) {
+      if (actions++ < actionsInAll) {
         ActAtRandom(board, random);
         lettersAtLast = board.pen().Letters().Letters().size();
       } else if (board.pen().IsPaused()) {
@@ -53,14 +53,13 @@ class RandomHand : public WatchTest {
       }
     });
     Pick(board, "mnudall");
-    EXPECT_GT(actions, kActions);
+    EXPECT_GT(actions, actionsInAll);
     return lettersAtLast;
   }
-};
 
-TEST_F(RandomHand, LeavesTheSameDotsInDrawAll) {
-  for (const BoardRecord* record : {&kCapitalsBoard, &kTeluguVowelsBoard}) {
-    Board& board = Open(OneSheet(*record));  // unseen: nothing is painted
+  /// Draws all by itself and with that many actions.
+  void ExpectTheSameDots(const BoardRecord& record, int actions) {
+    Board& board = Open(OneSheet(record));  // unseen: nothing is painted
     board.SetText(Q("txtspd"), Q(kSlow));
     Pick(board, "mnugrid");
     Pick(board, "mnudall");
@@ -69,11 +68,21 @@ TEST_F(RandomHand, LeavesTheSameDotsInDrawAll) {
     Pick(board, "mnuclear1");
     Pick(board, "mnugrid");
     Pick(board, "mnugrid");
-    EXPECT_GE(DrawAll(board, kSeed), 3U) << record->form;
-    EXPECT_EQ(Picture(board), wanted) << record->form;
-    EXPECT_EQ(Dots(board), dots) << record->form;
+    EXPECT_GE(DrawAll(board, actions, kSeed), 3U) << record.form;
+    EXPECT_EQ(Picture(board), wanted) << record.form;
+    EXPECT_EQ(Dots(board), dots) << record.form;
     UnloadForm(&board);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+};
+
+TEST_F(RandomHand, LeavesTheSameDotsInDrawAll) {
+  ExpectTheSameDots(kCapitalsBoard, 300);
+}
+
+TEST_F(RandomHand, SweepOfAThousandActionsOnTwoBoards) {
+  for (const BoardRecord* record : {&kCapitalsBoard, &kTeluguVowelsBoard}) {
+    ExpectTheSameDots(*record, 1000);
   }
 }
 
