@@ -161,7 +161,8 @@ const kLanguages = {
 };
 for (const [language, { lang, subject, written }] of Object.entries(kLanguages)) {
   test(`a browser of ${language} is spoken to in ${lang}`, async () => {
-    const page = await openPage({ languages: [language, 'fr'], calm: true, size: kPhone });
+    const languages = ['fr', language, ...(lang === 'en' ? [] : ['en'])]; // the first that is known
+    const page = await openPage({ languages, calm: true, size: kPhone });
     await page.waitForSelector('nav a');
     assert.equal(await page.evaluate(() => document.documentElement.lang), lang);
     assert.equal(await page.$eval('nav a[href="#hinv"] span', (it) => it.textContent), subject);
