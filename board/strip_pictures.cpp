@@ -1,9 +1,17 @@
 #include "board/strip_pictures.h"
 
+#include <QApplication>
+#include <QIconEngine>
 #include <QImage>
+#include <QPainter>
 #include <QPixmap>
+#include <QStyle>
+#include <QStyleOption>
+#include <algorithm>
 #include <cmath>
+#include <map>
 #include <numbers>
+#include <utility>
 
 #include "board/strip.h"
 #include "ink/ink.h"
@@ -29,9 +37,11 @@ void WriteStroke(Ink& ink, const StripStroke& stroke) {
 }
 
 /// The ink alone, on nothing: how dark a pixel is says how much of it is ink.
-QPixmap InkAlone(const Ink& ink, double ratio) {
-  const double scale = kStripPicturePixels / kField * ratio;
-  const QImage black = ink.Picture(QRectF(0, 0, kField, kField), scale, Qt::white);
+QPixmap InkAlone(const std::vector<StripStroke>& strokes, int pixels) {
+  Ink ink;
+  ink.SetPen(0);
+  for (const StripStroke& stroke : strokes) WriteStroke(ink, stroke);
+  const QImage black = ink.Picture(QRectF(0, 0, kField, kField), pixels / kField, Qt::white);
   QImage alone(black.size(), QImage::Format_ARGB32);
   for (int y = 0; y < black.height(); ++y) {
     for (int x = 0; x < black.width(); ++x) {
@@ -40,9 +50,34 @@ QPixmap InkAlone(const Ink& ink, double ratio) {
       alone.setPixelColor(x, y, colour);
     }
   }
-  alone.setDevicePixelRatio(ratio);
   return QPixmap::fromImage(alone);
 }
+
+/// Writes a picture when it is first shown, in the size in which it is: a board has some fifteen,
+/// and most of its time to open would go into sizes that this screen does not need.
+class PenIcon : public QIconEngine {
+ public:
+  explicit PenIcon(std::vector<StripStroke> strokes) : strokes_(std::move(strokes)) {}
+
+  QIconEngine* clone() const override { return new PenIcon(*this); }
+  void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
+    const double ratio = painter->device()->devicePixelRatio();
+    painter->drawPixmap(place, pixmap(place.size() * ratio, mode, state));
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) override {
+    const int pixels = std::min(size.width(), size.height());
+    QPixmap& written = written_[pixels];
+    if (written.isNull()) written = InkAlone(strokes_, pixels);
+    if (mode == QIcon::Normal) return written;
+    QStyleOption option;
+    option.palette = QGuiApplication::palette();
+    return QApplication::style()->generatedIconPixmap(mode, written, &option);
+  }
+
+ private:
+  std::vector<StripStroke> strokes_;
+  std::map<int, QPixmap> written_;  ///< by their pixels each way
+};
 
 }  // namespace
 
@@ -58,12 +93,7 @@ StripStroke StripArc(QPointF centre, double radius, double from, double to) {
 }
 
 QIcon StripPicture(const std::vector<StripStroke>& strokes) {
-  Ink ink;
-  ink.SetPen(0);
-  for (const StripStroke& stroke : strokes) WriteStroke(ink, stroke);
-  QIcon picture;
-  for (const double ratio : {1.0, 1.5, 2.0, 3.0}) picture.addPixmap(InkAlone(ink, ratio));
-  return picture;
+  return QIcon(new PenIcon(strokes));
 }
 
 }  // namespace bramlee

@@ -14,7 +14,7 @@ using StripStroke = std::vector<QPointF>;
 /// An arc of a picture from one angle to another, degrees anticlockwise from the right.
 StripStroke StripArc(QPointF centre, double radius, double from, double to);
 
-/// A picture of these strokes, at all usual pixel ratios.
+/// A picture of these strokes, sharp in any size and at any pixel ratio.
 QIcon StripPicture(const std::vector<StripStroke>& strokes);
 
 }  // namespace bramlee
