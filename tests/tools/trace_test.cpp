@@ -105,6 +105,17 @@ TEST(Trace, CountsStrokesFromOneAndHelpedOnes) {
                    Judgement("done", "1", 0, "none", 2) + End("true", 1));
 }
 
+TEST(Trace, LetsThePenStrayAsFarAsAFingerMisses) {
+  const QByteArray beside = Touch({
+      {1075, 150},
+      {1075, 350},
+      {1175, 350}
+  });
+  ExpectOutput(Trace(kL, beside), Judgement("elsewhere", "0", 1, "pulse") + End("false", 0));
+  ExpectOutput(Trace("engc 12 --least-radius 70", beside),
+               Judgement("done", "1", 0, "none") + End("true", 0));
+}
+
 TEST(Trace, SaysNothingOfWhatComesAfterTheLastStroke) {
   ExpectOutput(Trace(kL, Touch(kWholeL) + Touch(kAway)),
                Judgement("done", "1", 0, "none") + End("true", 0));
@@ -213,13 +224,14 @@ TEST(BadLines, OfAPenThatIsDownAlreadyAreRefused) {
 }
 
 class BadTraceArguments : public testing::TestWithParam<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Lines, BadTraceArguments,
-                         testing::Values("", "engc", "engx 1", "engc 0", "engc 27", "engc x",
-                                         "engc 1 2", "engc 1 --alt", "engc 1 --place 1",
-                                         "mat 11 --place 1", "mat 1 --place 6", "mat 1 --place",
-                                         "engc 1 --level", "engc 1 --level kind",
-                                         "engc 1 --level Normal", "engc 1 --hand",
-                                         "engc 1 --hand both", "engc 1 --step 1", "engc 1 -x"));
+INSTANTIATE_TEST_SUITE_P(
+    Lines, BadTraceArguments,
+    testing::Values("", "engc", "engx 1", "engc 0", "engc 27", "engc x", "engc 1 2", "engc 1 --alt",
+                    "engc 1 --place 1", "mat 11 --place 1", "mat 1 --place 6", "mat 1 --place",
+                    "engc 1 --level", "engc 1 --level kind", "engc 1 --level Normal",
+                    "engc 1 --hand", "engc 1 --hand both", "engc 1 --least-radius far",
+                    "engc 1 --least-radius -1", "engc 1 --least-radius 201",
+                    "engc 1 --least-radius nan", "engc 1 --step 1", "engc 1 -x"));
 
 TEST_P(BadTraceArguments, AreRefusedInOneLineWithStatusTwo) {
   const ToolRun run = Trace(GetParam(), Touch(kWholeL));
@@ -258,7 +270,7 @@ TEST(TraceManPage, NamesEveryOptionOfTheHelp) {
   const QByteArray page = ManPage(QStringLiteral("bramlee-trace.1"));
   const QByteArrayList options = OptionsOf(Trace("--help").out);
   for (const QByteArray& option : options) EXPECT_TRUE(page.contains(option)) << option.constData();
-  EXPECT_EQ(options.size(), 7);
+  EXPECT_EQ(options.size(), 8);
 }
 
 TEST(TraceOutput, ThatCannotBeWrittenEndsWithStatusOne) {

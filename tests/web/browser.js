@@ -134,10 +134,12 @@ export async function penStrokes({ set, tile }) {
 }
 
 /// What the program says of a pen that traces a letter in the form of the book: an object for each
-/// touch, and one at the end. `events` are {down: [x, y]}, {move: [x, y]} and {up: true}.
-export async function programsVerdicts({ set, tile }, level, events) {
-  const judged = run(
-    programsTool('bramlee-trace'), [set, String(tile), '--book', '--level', level]);
+/// touch, and one at the end. `leastRadius` is in sheet pixels, `events` are {down: [x, y]},
+/// {move: [x, y]} and {up: true}.
+export async function programsVerdicts({ set, tile }, { level, leastRadius }, events) {
+  const judged = run(programsTool('bramlee-trace'), [
+    set, String(tile), '--book', '--level', level, '--least-radius', String(leastRadius),
+  ]);
   judged.child.stdin.end(events.map((event) => `${JSON.stringify(event)}\n`).join(''));
   const { stdout } = await judged;
   return stdout.trim().split('\n').map((line) => JSON.parse(line));

@@ -28,7 +28,9 @@ std::string EndAsJson(const Tracer& tracer) {
 class Tracing {
  public:
   explicit Tracing(const TraceRequest& request)
-      : tracer_(GuideOf(LetterOf(request.letter)), request.level) {}
+      : tracer_(GuideOf(LetterOf(request.letter)), request.level) {
+    tracer_.SetLeastRadius(request.leastRadius);
+  }
 
   /// Whether the event can follow those so far: a pen comes down, moves and is lifted.
   bool CanTake(const PenEvent& event) const {

@@ -8,6 +8,9 @@
 namespace bramlee {
 namespace {
 
+/// In sheet pixels: about as large as a letter.
+constexpr int kMostRadius = 200;
+
 QString LevelNames() {
   QStringList names;
   for (const TraceLevel level : kTraceLevels) names.append(QString::fromLatin1(NameOf(level)));
@@ -27,7 +30,7 @@ class Reader {
     parser_.addPositionalArgument(QStringLiteral("SET"), QStringLiteral("The letter set."));
     parser_.addPositionalArgument(QStringLiteral("TILE"), QStringLiteral("The number of a tile."));
     letters_.AddTo(parser_);
-    parser_.addOptions({level_, hand_});
+    parser_.addOptions({level_, leastRadius_, hand_});
     Tool::AddHelpTo(parser_);
     parsed_ = parser_.parse(arguments);
   }
@@ -45,26 +48,44 @@ class Reader {
     if (!level) {
       return Error(QStringLiteral("--level: no level \"%1\": %2").arg(levelText, LevelNames()));
     }
+    const QString radiusText = parser_.value(leastRadius_);
+    bool isNumber = false;
+    const double leastRadius = radiusText.toDouble(&isNumber);
+    if (!isNumber || !(leastRadius >= 0 && leastRadius <= kMostRadius)) {
+      return Error(QStringLiteral("--least-radius: \"%1\" is no number from 0 to %2")
+                       .arg(radiusText)
+                       .arg(kMostRadius));
+    }
     const QString hand = parser_.value(hand_);
     if (hand != QLatin1String("left") && hand != QLatin1String("right")) {
       return Error(QStringLiteral("--hand: no hand \"%1\": left right").arg(hand));
     }
-    return {.letter = letters.Tile(letters.firstTile), .level = *level, .text = {}, .error = {}};
+    return {.letter = letters.Tile(letters.firstTile),
+            .level = *level,
+            .leastRadius = leastRadius,
+            .text = {},
+            .error = {}};
   }
 
  private:
   static TraceRequest Error(const QString& error) {
-    return {.letter = {}, .level = {}, .text = {}, .error = error};
+    return {.letter = {}, .level = {}, .leastRadius = 0, .text = {}, .error = error};
   }
   static TraceRequest Text(const QString& text) {
-    return {.letter = {}, .level = {}, .text = text, .error = {}};
+    return {.letter = {}, .level = {}, .leastRadius = 0, .text = text, .error = {}};
   }
 
   QCommandLineParser parser_;
   const LetterArguments letters_;
-  const QCommandLineOption level_{
-      QStringLiteral("level"), QStringLiteral("How near the pen must keep: %1.").arg(LevelNames()),
-      QStringLiteral("LEVEL"), QStringLiteral("normal")};
+  const QCommandLineOption level_{QStringLiteral("level"),
+                                  QStringLiteral("How near to keep: %1.").arg(LevelNames()),
+                                  QStringLiteral("LEVEL"), QStringLiteral("normal")};
+  const QCommandLineOption leastRadius_{
+      QStringLiteral("least-radius"),
+      QStringLiteral(
+          "How far the pen may stray at least, whatever the level and the letter's size: "
+          "what a finger misses by on that screen, in sheet pixels."),
+      QStringLiteral("PIXELS"), QStringLiteral("0")};
   const QCommandLineOption hand_{
       QStringLiteral("hand"),
       QStringLiteral("The hand that holds the pen, left or right. Both are judged alike."),

@@ -17,6 +17,7 @@ inline constexpr Tool kTool("bramlee-trace");
 struct TraceRequest {
   LetterId letter;
   TraceLevel level = TraceLevel::Normal;
+  double leastRadius = 0;  ///< as Tracer::SetLeastRadius has it
   QString text;
   QString error;
 };
