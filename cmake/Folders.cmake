@@ -1,7 +1,9 @@
-# bramlee_folder(NAME SOURCES ... USES ...): one folder, one library, one link line.
+# bramlee_folder(NAME SOURCES ... USES ...): one folder, one library, one link line. MOC: a class of it
+# has Q_OBJECT; a search elsewhere would only take its time.
 function(bramlee_folder name)
-  cmake_parse_arguments(arg "" "" "SOURCES;USES;QT" ${ARGN})
+  cmake_parse_arguments(arg "MOC" "" "SOURCES;USES;QT" ${ARGN})
   add_library(bramlee_${name} STATIC ${arg_SOURCES})
+  set_target_properties(bramlee_${name} PROPERTIES AUTOMOC ${arg_MOC})
   list(TRANSFORM arg_USES PREPEND bramlee_)
   target_link_libraries(bramlee_${name} PUBLIC ${arg_USES})
   if(arg_QT)
@@ -9,8 +11,6 @@ function(bramlee_folder name)
     target_link_libraries(bramlee_${name} PUBLIC ${arg_QT} PRIVATE bramlee_qt_options)
     target_include_directories(bramlee_${name} PUBLIC ${PROJECT_SOURCE_DIR})
     if("Qt6::Widgets" IN_LIST arg_QT)
-      # Q_OBJECT stands in classes of windows alone; a search elsewhere would only take its time.
-      set_target_properties(bramlee_${name} PROPERTIES AUTOMOC ON)
       bramlee_precompile(bramlee_${name} bramlee_window_headers)
     else()
       bramlee_precompile(bramlee_${name} bramlee_core_headers)

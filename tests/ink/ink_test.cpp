@@ -83,13 +83,19 @@ TEST_P(InkEdges, AreThoseOfTheUnionOfDiscs) {
   ExpectExactEdges(ink, ratio, stroke.step, stroke.strokes);
 }
 
+std::string NameOfEdges(const ::testing::TestParamInfo<InkEdges::ParamType>& tried) {
+  return std::string(std::get<0>(tried.param).name) + "At" +
+         std::to_string(std::lround(std::get<1>(tried.param) * 100));
+}
+
 INSTANTIATE_TEST_SUITE_P(Ink, InkEdges,
                          ::testing::Combine(::testing::ValuesIn(kStrokes),
-                                            ::testing::Values(1, 1.25, 1.5, 2)),
-                         [](const auto& tried) {
-                           return std::string(std::get<0>(tried.param).name) + "At" +
-                                  std::to_string(std::lround(std::get<1>(tried.param) * 100));
-                         });
+                                            ::testing::Values(1, 1.5)),
+                         NameOfEdges);
+INSTANTIATE_TEST_SUITE_P(SweepOfMoreRatios, InkEdges,
+                         ::testing::Combine(::testing::ValuesIn(kStrokes),
+                                            ::testing::Values(1.25, 2)),
+                         NameOfEdges);
 
 class InkAtRatio : public ::testing::TestWithParam<double> {};
 
@@ -231,10 +237,12 @@ TEST_P(InkAtRatio, CoversACrossedStrokeFullyAndLeaveTheRestOfIt) {
   EXPECT_LE(worst, 20);
 }
 
-INSTANTIATE_TEST_SUITE_P(Ink, InkAtRatio, ::testing::Values(1, 1.25, 1.5, 2),
-                         [](const auto& tried) {
-                           return "At" + std::to_string(std::lround(tried.param * 100));
-                         });
+std::string NameOfRatio(const ::testing::TestParamInfo<double>& tried) {
+  return "At" + std::to_string(std::lround(tried.param * 100));
+}
+
+INSTANTIATE_TEST_SUITE_P(Ink, InkAtRatio, ::testing::Values(1, 1.5), NameOfRatio);
+INSTANTIATE_TEST_SUITE_P(SweepOfMoreRatios, InkAtRatio, ::testing::Values(1.25, 2), NameOfRatio);
 
 TEST(Ink, KeepsWhatLiesOffTheCoveredPart) {
   Ink ink(0.01);

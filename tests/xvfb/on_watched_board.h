@@ -14,8 +14,8 @@
 
 namespace bramlee {
 
-/// A letter of this step would take minutes: it ends when the pen hurries, not before.
-inline const QString kEndless = QStringLiteral("0.00004");
+/// A letter of this step would take most of a minute: it ends when the pen hurries, not before.
+inline const QString kEndless = QStringLiteral("0.0001");
 
 /// The capitals board as watched_board.cpp runs it.
 class WatchedBoard : public Program {
