@@ -41,8 +41,9 @@ Stamps::Stamps(double ratio)
 /// their bit where they begin and behind where they end, then carries it from pixel to pixel.
 void Stamps::MakeRow(int phaseY) {
   const double centreY = reach_ + static_cast<double>(phaseY) / kPhases;
-  std::uint64_t* const stamps = words_.get() + phaseY * kPhases * wordsPerStamp_;
-  for (int row = 0; row < rows_; ++row) {
+  std::uint64_t* const stamps = words_.get() + std::ptrdiff_t{phaseY} * kPhases * wordsPerStamp_;
+  std::uint64_t* words = stamps;
+  for (int row = 0; row < rows_; ++row, words += columns_) {
     for (int i = 0; i < kSamples; ++i) {
       const double sampleX = (i + 0.5) / kSamples;
       const double sampleY = (kSampleRow[i] + 0.5) / kSamples;
@@ -50,12 +51,12 @@ void Stamps::MakeRow(int phaseY) {
       const double square = radius_ * radius_ - offCentre * offCentre;
       if (square < 0) continue;
       const double half = std::sqrt(square);
-      FlipBehind(reach_ - half - sampleX, i, stamps + row * columns_);
-      FlipBehind(reach_ + half - sampleX, i, stamps + row * columns_);
+      FlipBehind(reach_ - half - sampleX, i, words);
+      FlipBehind(reach_ + half - sampleX, i, words);
     }
   }
-  for (int row = 0; row < kPhases * rows_; ++row) {
-    std::uint64_t* const words = stamps + row * columns_;
+  words = stamps;
+  for (int row = 0; row < kPhases * rows_; ++row, words += columns_) {
     for (int column = 1; column < columns_; ++column) words[column] ^= words[column - 1];
   }
 }
